@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Installs the Debian 12 packages the build, the tests and the benchmarks need.
+# Only packages that are missing are installed, so a warm machine does not wait.
+set -euo pipefail
+
+packages=(
+  # build
+  cmake ninja-build g++ make clang-format pkg-config
+  # Qt 6.4 core, GUI and QML toolchain
+  qt6-base-dev qt6-base-dev-tools qt6-declarative-dev qt6-declarative-dev-tools
+  libgl-dev libegl-dev libxkbcommon-dev
+  # QML modules loaded at run time
+  qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
+  qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
+  qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtquick-dialogs
+  qml6-module-qtquick-shapes qml6-module-qttest qt6-qpa-plugins
+  # fonts: text face and the icon set
+  fonts-inter fonts-material-design-icons-iconfont
+  # benchmark peers and the peak-memory probe
+  gdu ncdu time
+)
+
+missing=()
+for p in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'ok installed' || missing+=("$p")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+if [ "$(id -u)" -ne 0 ]; then
+  echo "Missing packages: ${missing[*]} (run as root, or install them with apt-get)" >&2
+  exit 1
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+apt-get update -qq
+apt-get install -y -qq --no-install-recommends "${missing[@]}"
