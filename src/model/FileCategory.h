@@ -1,0 +1,47 @@
+#pragma once
+
+#include "model/RawValue.h"
+
+#include <QString>
+#include <QStringList>
+#include <QStringView>
+
+#include <array>
+
+namespace tessarine {
+
+// The category a file falls into, decided by its extension alone. The order is the display order.
+enum class FileCategory : quint8 {
+    images,
+    videos,
+    audio,
+    documents,
+    code,
+    archives,
+    applications,
+    system,
+    data,
+    fonts,
+    design,
+    other
+};
+
+const std::array<FileCategory, 12>& allFileCategories();
+
+// Display name and stored value, e.g. "Images", "3D & Design".
+QString rawValue(FileCategory category);
+// System symbol name, e.g. "photo.stack".
+QString iconName(FileCategory category);
+// Named system colour, e.g. "pink"; "secondary" (the dimmed foreground) for other.
+QString colorName(FileCategory category);
+
+// Category of a path extension given without its dot. Case and surrounding spaces or tabs are
+// ignored; an unknown or empty extension is other.
+FileCategory categoryForExtension(QStringView extension);
+
+// The extensions of the table that map to category, sorted.
+QStringList knownExtensions(FileCategory category);
+
+template <> std::optional<FileCategory> fromRawValue<FileCategory>(QStringView raw);
+
+} // namespace tessarine

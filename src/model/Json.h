@@ -1,0 +1,30 @@
+#pragma once
+
+#include "model/Records.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+// The one JSON coder of the application: the history files and the JSON export both go through
+// it, so a result written anywhere reads back anywhere. Output is indented with members sorted by
+// name, dates are ISO 8601 in UTC to the second, 64-bit integers are exact, UUIDs are upper-case.
+namespace tessarine::json {
+
+QByteArray encode(const AnalysisResult& result);
+QByteArray encode(const FolderInfo& folder);
+
+// Fails as a whole, with a text naming the offending member in *error, on malformed JSON, a
+// missing member, a wrong JSON type, an unknown enumeration value, a bad UUID or a bad date.
+// "folderTree" may be missing or null.
+std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error = nullptr);
+
+// "2024-03-05T14:07:09Z": UTC, no fractional seconds (they are dropped).
+QString formatDate(const QDateTime& date);
+// Accepts exactly the form formatDate writes; anything else (fractions, offsets) is nullopt.
+std::optional<QDateTime> parseDate(QStringView text);
+
+} // namespace tessarine::json
