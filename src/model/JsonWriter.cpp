@@ -1,0 +1,137 @@
+#include "model/JsonWriter.h"
+
+#include <QLocale>
+
+#include <cmath>
+#include <utility>
+
+namespace tessarine::json {
+
+namespace {
+
+constexpr int indentWidth = 4;
+
+const char* escapeFor(char c)
+{
+    switch (c) {
+    case '"':
+        return "\\\"";
+    case '\\':
+        return "\\\\";
+    case '\b':
+        return "\\b";
+    case '\f':
+        return "\\f";
+    case '\n':
+        return "\\n";
+    case '\r':
+        return "\\r";
+    case '\t':
+        return "\\t";
+    default:
+        return nullptr;
+    }
+}
+
+} // namespace
+
+void JsonWriter::newLine()
+{
+    out.append('\n');
+    out.append(qsizetype(containerHasItems.size()) * indentWidth, ' ');
+}
+
+// Places the separator and line break owed before the next item of the current container.
+void JsonWriter::beginValue()
+{
+    if (afterKey) {
+        afterKey = false;
+        return;
+    }
+    if (containerHasItems.empty())
+        return;
+    if (containerHasItems.back())
+        out.append(',');
+    containerHasItems.back() = true;
+    newLine();
+}
+
+void JsonWriter::beginContainer(char open)
+{
+    beginValue();
+    out.append(open);
+    containerHasItems.push_back(false);
+}
+
+void JsonWriter::endContainer(char close)
+{
+    const bool hadItems = containerHasItems.back();
+    containerHasItems.pop_back();
+    if (hadItems)
+        newLine();
+    out.append(close);
+}
+
+void JsonWriter::beginObject() { beginContainer('{'); }
+
+void JsonWriter::endObject() { endContainer('}'); }
+
+void JsonWriter::beginArray() { beginContainer('['); }
+
+void JsonWriter::endArray() { endContainer(']'); }
+
+void JsonWriter::key(QStringView name)
+{
+    beginValue();
+    appendQuoted(name);
+    out.append(": ");
+    afterKey = true;
+}
+
+void JsonWriter::appendQuoted(QStringView text)
+{
+    out.append('"');
+    for (const char c : text.toUtf8()) {
+        if (const char* escape = escapeFor(c))
+            out.append(escape);
+        else if (uchar(c) < 0x20)
+            out.append(QByteArray("\\u00") + QByteArray::number(uchar(c), 16).rightJustified(2, '0'));
+        else
+            out.append(c);
+    }
+    out.append('"');
+}
+
+void JsonWriter::writeString(QStringView text)
+{
+    beginValue();
+    appendQuoted(text);
+}
+
+void JsonWriter::writeInteger(qint64 value)
+{
+    beginValue();
+    out.append(QByteArray::number(value));
+}
+
+void JsonWriter::writeNumber(double value)
+{
+    beginValue();
+    // JSON has no NaN or infinity; a broken duration must not make the whole result unreadable.
+    out.append(std::isfinite(value) ? QByteArray::number(value, 'g', QLocale::FloatingPointShortest)
+                                    : QByteArray("0"));
+}
+
+void JsonWriter::writeBool(bool value)
+{
+    beginValue();
+    out.append(value ? "true" : "false");
+}
+
+QByteArray JsonWriter::take()
+{
+    out.append('\n');
+    return std::move(out);
+}
+
+} // namespace tessarine::json

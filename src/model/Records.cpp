@@ -1,0 +1,58 @@
+#include "model/Records.h"
+
+#include "model/Format.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace tessarine {
+
+QDateTime distantPast() { return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC); }
+
+QString ExtensionStats::displayName() const
+{
+    return ext.isEmpty() ? QStringLiteral("No Extension") : QLatin1Char('.') + ext;
+}
+
+std::vector<const FolderInfo*> FolderInfo::flattened() const
+{
+    std::vector<const FolderInfo*> order;
+    std::vector<const FolderInfo*> pending{this};
+    while (!pending.empty()) {
+        const FolderInfo* folder = pending.back();
+        pending.pop_back();
+        order.push_back(folder);
+        // Pushed in reverse so that the first child is taken next.
+        for (auto child = folder->childFolders.rbegin(); child != folder->childFolders.rend();
+             ++child)
+            pending.push_back(&*child);
+    }
+    return order;
+}
+
+qint64 FolderInfo::directFilesSize() const
+{
+    return std::accumulate(childFolders.begin(), childFolders.end(), totalSize,
+                           [](qint64 rest, const FolderInfo& child) {
+                               return rest - child.totalSize;
+                           });
+}
+
+QList<ExtensionStats> AnalysisResult::sortedExtensions() const
+{
+    QList<ExtensionStats> sorted = extensionStats.values();
+    // Ties are broken by name so that the order does not change between runs.
+    std::sort(sorted.begin(), sorted.end(), [](const ExtensionStats& a, const ExtensionStats& b) {
+        return a.totalSize != b.totalSize ? a.totalSize > b.totalSize : a.ext < b.ext;
+    });
+    return sorted;
+}
+
+std::vector<std::pair<qint64, DepthStats>> AnalysisResult::sortedDepths() const
+{
+    return {depthDistribution.begin(), depthDistribution.end()};
+}
+
+QString AnalysisResult::formattedDuration() const { return format::duration(scanDuration); }
+
+} // namespace tessarine

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "scanner/ListedDirectory.h"
+#include "scanner/ListingArena.h"
+
+#include <QByteArray>
+
+#include <vector>
+
+namespace tessarine {
+
+// Everything one walk discovered below a root folder, held compactly in arenas. The root is
+// absent when the root folder could not be opened. Move-only: the entries point into the arenas.
+class DirectoryListing {
+public:
+    DirectoryListing() = default;
+    DirectoryListing(DirectoryListing&&) noexcept = default;
+    DirectoryListing& operator=(DirectoryListing&&) noexcept = default;
+    DirectoryListing(const DirectoryListing&) = delete;
+    DirectoryListing& operator=(const DirectoryListing&) = delete;
+
+    // The root folder's path as given to the walker (absolute and clean), in file-system bytes.
+    const QByteArray& rootPath() const { return m_rootPath; }
+    const ListedDirectory* root() const { return m_root; }
+    // Every item discovered below the root, of any kind; folders counts directories and packages.
+    qint64 itemCount() const { return m_itemCount; }
+    qint64 folderCount() const { return m_folderCount; }
+    bool isEmpty() const { return m_itemCount == 0; }
+    // Whether the walk stopped early on request, leaving some folders pending.
+    bool wasCancelled() const { return m_cancelled; }
+    std::size_t reservedBytes() const;
+
+private:
+    friend class DirectoryWalker;
+
+    QByteArray m_rootPath;
+    std::vector<ListingArena> m_arenas;
+    const ListedDirectory* m_root = nullptr;
+    qint64 m_itemCount = 0;
+    qint64 m_folderCount = 0;
+    bool m_cancelled = false;
+};
+
+} // namespace tessarine

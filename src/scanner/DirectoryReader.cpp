@@ -1,0 +1,94 @@
+#include "scanner/DirectoryReader.h"
+
+#include "scanner/ItemNameRules.h"
+
+#include <cstddef>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace tessarine {
+
+namespace {
+
+// Large enough that most folders are read in one or two system calls.
+constexpr std::size_t bufferBytes = 128 * 1024;
+
+// The kernel's linux_dirent64 record; glibc does not expose the raw layout under its own name.
+struct KernelDirent {
+    std::uint64_t inode;
+    std::int64_t offset;
+    unsigned short recordLength;
+    unsigned char type;
+    char name[1]; // NUL-terminated, running past the declared bound up to recordLength
+};
+
+qint64 modifiedMsecs(const struct stat& status) {
+    return qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
+}
+
+} // namespace
+
+DirectoryReader::DirectoryReader(ListingArena& arena)
+    : m_arena(arena)
+    , m_buffer(std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes /
+                                                                sizeof(std::uint64_t))) {}
+
+std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory& folder,
+                                                        const std::atomic<bool>& cancelled) {
+    m_entries.clear();
+    m_subfolders.clear();
+    m_folderCount = 0;
+    auto* bytes = reinterpret_cast<char*>(m_buffer.get());
+    while (!cancelled.load(std::memory_order_relaxed)) {
+        const long filled = syscall(SYS_getdents64, fd, bytes, bufferBytes);
+        if (filled <= 0)
+            break; // end of the folder, or it became unreadable: keep what was read
+        for (long at = 0; at < filled;) {
+            const auto* record = reinterpret_cast<const KernelDirent*>(bytes + at);
+            const char* name = bytes + at + offsetof(KernelDirent, name);
+            at += record->recordLength;
+            const QByteArrayView nameView(name, qsizetype(std::strlen(name)));
+            if (isHiddenName(nameView))
+                continue; // also drops "." and ".."
+            m_entries.push_back(describe(fd, folder, nameView, record->type));
+            m_folderCount += m_entries.back().isFolder();
+        }
+    }
+    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)));
+    return m_subfolders;
+}
+
+ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArrayView name,
+                                      unsigned char type) {
+    const QByteArrayView storedName = m_arena.copyName(name);
+    // The entry type from the listing settles folders and links without a stat; everything else,
+    // and file systems that report no type, need one for size, date and kind.
+    if (type == DT_DIR)
+        return describeFolder(folder, storedName);
+    if (type == DT_LNK)
+        return ListedEntry::unsized(storedName, EntryKind::symlink);
+    struct stat status;
+    if (fstatat(fd, storedName.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return ListedEntry::unsized(storedName, EntryKind::unreadable);
+    if (S_ISDIR(status.st_mode))
+        return describeFolder(folder, storedName);
+    if (S_ISLNK(status.st_mode))
+        return ListedEntry::unsized(storedName, EntryKind::symlink);
+    return ListedEntry::sized(storedName, S_ISREG(status.st_mode) ? EntryKind::file
+                                                                  : EntryKind::special,
+                              qint64(status.st_size), modifiedMsecs(status));
+}
+
+ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name) {
+    if (isPackageName(name))
+        return ListedEntry::unsized(name, EntryKind::package);
+    auto* contents = m_arena.make<ListedDirectory>(&folder, name);
+    m_subfolders.push_back(contents);
+    return ListedEntry::folder(name, contents);
+}
+
+} // namespace tessarine

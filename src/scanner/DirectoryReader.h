@@ -1,0 +1,40 @@
+#pragma once
+
+#include "scanner/ListedDirectory.h"
+#include "scanner/ListingArena.h"
+
+#include <atomic>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace tessarine {
+
+// Lists one open folder with getdents64 and reads each entry's metadata relative to the folder's
+// descriptor (fstatat, no path building, so any depth works). One reader per walker thread: it
+// owns a large getdents buffer and scratch space reused for every folder.
+class DirectoryReader {
+public:
+    explicit DirectoryReader(ListingArena& arena);
+
+    // Fills `folder` with the visible entries of the folder open as `fd` (the descriptor stays
+    // open). Returns the new sub-folders to descend into, in listing order; packages are not
+    // among them. Stops early, keeping what it read, when `cancelled` becomes true.
+    std::span<ListedDirectory* const> read(int fd, ListedDirectory& folder,
+                                           const std::atomic<bool>& cancelled);
+
+    // Of the entries of the last folder read: folders (directories and packages).
+    qint64 lastFolderCount() const { return m_folderCount; }
+
+private:
+    ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
+    ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
+
+    ListingArena& m_arena;
+    std::unique_ptr<std::uint64_t[]> m_buffer;
+    std::vector<ListedEntry> m_entries;
+    std::vector<ListedDirectory*> m_subfolders;
+    qint64 m_folderCount = 0;
+};
+
+} // namespace tessarine

@@ -1,0 +1,281 @@
+#include "scanner/DirectoryWalker.h"
+
+#include "scanner/DirectoryReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <condition_variable>
+#include <fcntl.h>
+#include <mutex>
+#include <optional>
+#include <sys/resource.h>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+namespace tessarine {
+
+namespace {
+
+constexpr int openFolderFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+// A deep walk may hold one descriptor per level that still has sub-folders waiting, so allow as
+// many as the system lets this process have. Returns the resulting soft limit.
+int raiseOpenFileLimit() {
+    static const int limit = [] {
+        rlimit limits{};
+        if (getrlimit(RLIMIT_NOFILE, &limits) != 0)
+            return 1024;
+        if (limits.rlim_cur < limits.rlim_max) {
+            rlimit raised = limits;
+            raised.rlim_cur = limits.rlim_max;
+            if (setrlimit(RLIMIT_NOFILE, &raised) == 0)
+                limits = raised;
+        }
+        return int(std::min<rlim_t>(limits.rlim_cur, 1 << 30));
+    }();
+    return limit;
+}
+
+// A folder's descriptor kept open while some of its sub-folders still wait to be opened
+// relative to it; the last of them to be opened closes it.
+struct HeldDescriptor {
+    int fd;
+    std::atomic<int> waiting;
+};
+
+// What a finished walk hands over to its listing.
+struct WalkOutcome {
+    std::vector<ListingArena> arenas;
+    const ListedDirectory* root;
+    qint64 items;
+    qint64 folders;
+    bool cancelled;
+};
+
+struct PendingFolder {
+    ListedDirectory* folder;
+    HeldDescriptor* parent; // null: reopen from the root
+};
+
+// The state of one walk, shared by its worker threads.
+class WalkSession {
+public:
+    WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath, int rootFd,
+                int threadCount);
+    ~WalkSession();
+
+    WalkOutcome run();
+
+private:
+    void work(ListingArena& arena);
+    std::optional<PendingFolder> take();
+    void listFolder(DirectoryReader& reader, const PendingFolder& pending);
+    void queueSubfolders(std::span<ListedDirectory* const> subfolders, int fd);
+    int open(const PendingFolder& pending) const;
+    int openFromRoot(const ListedDirectory* folder) const;
+    void release(HeldDescriptor* held);
+    bool isCancelled() const { return m_cancelled && m_cancelled->load(std::memory_order_relaxed); }
+    void reportProgress();
+
+    const DirectoryWalker::Options& m_options;
+    const std::atomic<bool>* m_cancelled;
+    const std::atomic<bool> m_neverCancelled{false};
+    const QByteArray& m_rootPath;
+    std::vector<ListingArena> m_arenas;
+    ListedDirectory* m_root;
+    const int m_rootFd;
+    const int m_heldLimit;
+
+    std::mutex m_mutex;
+    std::condition_variable m_workAvailable;
+    std::condition_variable m_finished;
+    std::vector<PendingFolder> m_stack; // LIFO keeps the walk depth-first
+    int m_busyWorkers = 0;
+    bool m_done = false;
+
+    std::atomic<qint64> m_items{0};
+    std::atomic<qint64> m_folders{0};
+    std::atomic<int> m_heldCount{0};
+    std::atomic<const ListedDirectory*> m_recentFolder{nullptr};
+};
+
+WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
+                         int rootFd, int threadCount)
+    : m_options(options)
+    , m_cancelled(options.cancelled ? options.cancelled : &m_neverCancelled)
+    , m_rootPath(rootPath)
+    , m_arenas(std::size_t(threadCount))
+    , m_root(m_arenas.front().make<ListedDirectory>(nullptr, QByteArrayView()))
+    , m_rootFd(rootFd)
+    , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
+                                                 : std::max(16, raiseOpenFileLimit() / 2)) {
+    m_stack.push_back({m_root, nullptr});
+}
+
+WalkSession::~WalkSession() {
+    close(m_rootFd);
+}
+
+WalkOutcome WalkSession::run() {
+    std::vector<std::thread> workers;
+    for (ListingArena& arena : m_arenas)
+        workers.emplace_back([this, &arena] { work(arena); });
+    {
+        std::unique_lock lock(m_mutex);
+        while (!m_done) {
+            const bool finished = m_finished.wait_for(lock, m_options.progressInterval,
+                                                      [this] { return m_done || isCancelled(); });
+            if (isCancelled()) {
+                m_workAvailable.notify_all(); // idle workers sleep until told
+                break;
+            }
+            if (!finished) {
+                lock.unlock();
+                reportProgress();
+                lock.lock();
+            }
+        }
+    }
+    for (std::thread& worker : workers)
+        worker.join();
+    // A cancelled walk leaves folders that nobody will open; let go of their parents.
+    for (const PendingFolder& pending : m_stack)
+        release(pending.parent);
+    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
+}
+
+void WalkSession::work(ListingArena& arena) {
+    DirectoryReader reader(arena);
+    while (const std::optional<PendingFolder> pending = take()) {
+        listFolder(reader, *pending);
+        std::lock_guard lock(m_mutex);
+        if (--m_busyWorkers == 0 && m_stack.empty()) {
+            m_done = true;
+            m_workAvailable.notify_all();
+            m_finished.notify_all();
+        }
+    }
+}
+
+std::optional<PendingFolder> WalkSession::take() {
+    std::unique_lock lock(m_mutex);
+    m_workAvailable.wait(lock, [this] { return !m_stack.empty() || m_done || isCancelled(); });
+    if (m_stack.empty() || isCancelled())
+        return std::nullopt;
+    const PendingFolder pending = m_stack.back();
+    m_stack.pop_back();
+    ++m_busyWorkers;
+    return pending;
+}
+
+void WalkSession::listFolder(DirectoryReader& reader, const PendingFolder& pending) {
+    const int fd = open(pending);
+    release(pending.parent);
+    if (fd < 0) {
+        pending.folder->markUnreadable();
+        return;
+    }
+    const auto subfolders = reader.read(fd, *pending.folder, *m_cancelled);
+    m_items.fetch_add(qint64(pending.folder->entries().size()), std::memory_order_relaxed);
+    m_folders.fetch_add(reader.lastFolderCount(), std::memory_order_relaxed);
+    m_recentFolder.store(pending.folder, std::memory_order_release);
+    queueSubfolders(subfolders, fd);
+}
+
+void WalkSession::queueSubfolders(std::span<ListedDirectory* const> subfolders, int fd) {
+    HeldDescriptor* held = nullptr;
+    if (!subfolders.empty() && m_heldCount.fetch_add(1) < m_heldLimit) {
+        held = new HeldDescriptor{fd, int(subfolders.size())};
+    } else {
+        if (!subfolders.empty())
+            m_heldCount.fetch_sub(1);
+        close(fd);
+    }
+    std::lock_guard lock(m_mutex);
+    // Pushed last to first so that the first sub-folder is taken next: the walk stays depth-first
+    // in listing order, which keeps few descriptors held and the stack short.
+    for (auto it = subfolders.rbegin(); it != subfolders.rend(); ++it)
+        m_stack.push_back({*it, held});
+    if (subfolders.size() == 1)
+        m_workAvailable.notify_one();
+    else if (!subfolders.empty())
+        m_workAvailable.notify_all();
+}
+
+int WalkSession::open(const PendingFolder& pending) const {
+    const ListedDirectory* folder = pending.folder;
+    if (!folder->parent())
+        return fcntl(m_rootFd, F_DUPFD_CLOEXEC, 0);
+    if (pending.parent)
+        return openat(pending.parent->fd, folder->name().data(), openFolderFlags);
+    return openFromRoot(folder);
+}
+
+// The slow way, used only when too many parent descriptors are held already: one openat per
+// level, never more than two descriptors at a time.
+int WalkSession::openFromRoot(const ListedDirectory* folder) const {
+    std::vector<const ListedDirectory*> chain;
+    for (; folder->parent(); folder = folder->parent())
+        chain.push_back(folder);
+    int fd = m_rootFd;
+    for (auto it = chain.rbegin(); it != chain.rend() && fd >= 0; ++it) {
+        const int next = openat(fd, (*it)->name().data(), openFolderFlags);
+        if (fd != m_rootFd)
+            close(fd);
+        fd = next;
+    }
+    return fd;
+}
+
+void WalkSession::release(HeldDescriptor* held) {
+    if (held && held->waiting.fetch_sub(1) == 1) {
+        close(held->fd);
+        m_heldCount.fetch_sub(1);
+        delete held;
+    }
+}
+
+void WalkSession::reportProgress() {
+    if (!m_options.onProgress)
+        return;
+    WalkProgress progress;
+    progress.items = m_items.load(std::memory_order_relaxed);
+    progress.folders = m_folders.load(std::memory_order_relaxed);
+    // The parent links and names of a listed folder never change, so reading them while other
+    // folders are still being filled is safe.
+    if (const ListedDirectory* recent = m_recentFolder.load(std::memory_order_acquire))
+        progress.recentFolderPath = recent->pathBelow(m_rootPath);
+    m_options.onProgress(progress);
+}
+
+} // namespace
+
+DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
+    const QByteArray encodedRoot = QFile::encodeName(rootPath);
+    // The root is the one path followed even when it is a symbolic link: the user chose it.
+    DirectoryListing listing;
+    listing.m_rootPath = encodedRoot;
+    const int rootFd = ::open(encodedRoot.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (rootFd < 0)
+        return listing;
+    const int threads = m_options.threadCount > 0
+                            ? m_options.threadCount
+                            : int(std::max(1u, std::thread::hardware_concurrency()));
+    WalkOutcome outcome = WalkSession(m_options, encodedRoot, rootFd, threads).run();
+    listing.m_arenas = std::move(outcome.arenas);
+    listing.m_root = outcome.root;
+    listing.m_itemCount = outcome.items;
+    listing.m_folderCount = outcome.folders;
+    listing.m_cancelled = outcome.cancelled;
+    return listing;
+}
+
+QString cleanRootPath(const QString& folderPath) {
+    return QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath());
+}
+
+} // namespace tessarine

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "scanner/DirectoryListing.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+
+namespace tessarine {
+
+// What a running walk has discovered so far.
+struct WalkProgress {
+    qint64 items = 0;   // every item discovered, of any kind
+    qint64 folders = 0; // of those, directories and packages
+    QByteArray recentFolderPath; // a folder listed a moment ago, in file-system bytes
+};
+
+// Lists a whole folder hierarchy into a DirectoryListing, in parallel across folders.
+//
+// Hidden entries (and all below them) are left out, package folders are listed as one entry
+// without their contents, symbolic links are never followed (the root itself may be one), mount
+// points are crossed. Folders are opened relative to their parent's descriptor, so depth is not
+// limited by PATH_MAX; the result does not depend on thread scheduling: every folder's entries
+// are kept in the order the file system listed them.
+class DirectoryWalker {
+public:
+    struct Options {
+        // Worker threads; 0 means one per hardware thread.
+        int threadCount = 0;
+        // How many parent descriptors may stay open for sub-folders still waiting to be opened;
+        // past it a sub-folder is reopened component by component from the root. 0 means half of
+        // the process's open-file limit (whose soft value the walker raises to the hard one).
+        int maxHeldDescriptors = 0;
+        std::chrono::milliseconds progressInterval{120};
+        // Called on the thread that runs walk(), about once per progressInterval.
+        std::function<void(const WalkProgress&)> onProgress;
+        // Polled between folders and between directory reads; when it turns true the walk stops
+        // early and returns what it has, with wasCancelled() set.
+        const std::atomic<bool>* cancelled = nullptr;
+    };
+
+    DirectoryWalker() = default;
+    explicit DirectoryWalker(Options options) : m_options(std::move(options)) {}
+
+    // Blocks until the whole hierarchy is listed. `rootPath` should be absolute and clean (see
+    // cleanRootPath); an unreadable or missing root gives an empty listing without a root.
+    DirectoryListing walk(const QString& rootPath) const;
+
+private:
+    Options m_options;
+};
+
+// The form a scanned folder's path takes in results: absolute, cleaned, with no trailing
+// separator except for "/" itself. Symbolic links are kept, not resolved.
+QString cleanRootPath(const QString& folderPath);
+
+} // namespace tessarine

@@ -1,0 +1,29 @@
+#include "scanner/ListedDirectory.h"
+
+#include <vector>
+
+namespace tessarine {
+
+QByteArray ListedDirectory::pathBelow(QByteArrayView rootPath) const {
+    std::vector<const ListedDirectory*> chain;
+    for (const ListedDirectory* folder = this; folder->m_parent; folder = folder->m_parent)
+        chain.push_back(folder);
+    QByteArray path = rootPath.toByteArray();
+    for (auto it = chain.rbegin(); it != chain.rend(); ++it)
+        appendPathComponent(path, (*it)->name());
+    return path;
+}
+
+void ListedDirectory::setEntries(std::span<ListedEntry> entries) {
+    m_entries = entries.data();
+    m_entryCount = quint32(entries.size());
+    m_state = State::listed;
+}
+
+void appendPathComponent(QByteArray& path, QByteArrayView component) {
+    if (!path.endsWith('/'))
+        path.append('/');
+    path.append(component);
+}
+
+} // namespace tessarine

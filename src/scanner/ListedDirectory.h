@@ -1,0 +1,50 @@
+#pragma once
+
+#include "scanner/ListedEntry.h"
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <span>
+
+namespace tessarine {
+
+// One folder of a listing: its entries in the order the file system returned them.
+// The parent link and the name are fixed when the folder is discovered; the entries are filled
+// in once, by whichever walker thread lists the folder.
+class ListedDirectory {
+public:
+    enum class State : quint8 {
+        pending,    // not listed (yet): the walk was cancelled before reaching it
+        listed,     // entries hold its visible contents
+        unreadable, // it could not be opened; it has no entries
+    };
+
+    ListedDirectory(const ListedDirectory* parent, QByteArrayView name)
+        : m_parent(parent), m_name(name.data()), m_nameLength(quint32(name.size())) {}
+
+    const ListedDirectory* parent() const { return m_parent; }
+    // Raw name bytes; empty for the root of a listing.
+    QByteArrayView name() const { return {m_name, qsizetype(m_nameLength)}; }
+    State state() const { return m_state; }
+    std::span<const ListedEntry> entries() const { return {m_entries, m_entryCount}; }
+
+    // The path of this folder below rootPath, built by following the parent links.
+    QByteArray pathBelow(QByteArrayView rootPath) const;
+
+    void setEntries(std::span<ListedEntry> entries);
+    void markUnreadable() { m_state = State::unreadable; }
+
+private:
+    const ListedDirectory* m_parent;
+    const char* m_name;
+    ListedEntry* m_entries = nullptr;
+    quint32 m_nameLength;
+    quint32 m_entryCount = 0;
+    State m_state = State::pending;
+};
+
+// Appends a path component, adding a separator unless the path already ends with one ("/").
+void appendPathComponent(QByteArray& path, QByteArrayView component);
+
+} // namespace tessarine

@@ -1,0 +1,28 @@
+#include "scanner/ListedEntry.h"
+
+namespace tessarine {
+
+ListedEntry::ListedEntry(QByteArrayView name, EntryKind kind)
+    : m_name(name.data())
+    , m_payload{.sized = {0, unknownModificationTime}}
+    , m_nameLength(quint32(name.size()))
+    , m_kind(kind) {}
+
+ListedEntry ListedEntry::sized(QByteArrayView name, EntryKind kind, qint64 size,
+                               qint64 modifiedMsecs) {
+    ListedEntry entry(name, kind);
+    entry.m_payload.sized = {size, modifiedMsecs};
+    return entry;
+}
+
+ListedEntry ListedEntry::folder(QByteArrayView name, ListedDirectory* contents) {
+    ListedEntry entry(name, EntryKind::directory);
+    entry.m_payload.contents = contents;
+    return entry;
+}
+
+ListedEntry ListedEntry::unsized(QByteArrayView name, EntryKind kind) {
+    return ListedEntry(name, kind);
+}
+
+} // namespace tessarine

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "model/RawValue.h"
+
+#include <QDateTime>
+#include <QString>
+#include <QStringView>
+
+#include <optional>
+
+namespace tessarine {
+
+// One progress record of a folder tree build, published on the user-interface thread.
+struct FolderTreeProgress {
+    enum class Phase : quint8 { enumerating, building, complete, cancelled };
+
+    Phase phase = Phase::enumerating;
+    qint64 totalItems = 0;
+    qint64 processedItems = 0;
+    QString currentFolder;
+    QDateTime startTime;
+
+    // "1,234 items found", "300 / 1,200 folders", "1,200 folders processed", "Cancelled".
+    QString statusText() const;
+    // Seconds left, extrapolated from the share done; none early on or while the total is unknown.
+    std::optional<double>
+    estimatedTimeRemaining(const QDateTime& now = QDateTime::currentDateTimeUtc()) const;
+
+    bool operator==(const FolderTreeProgress&) const = default;
+};
+
+// "Scanning folders...", "Building tree...", "Complete", "Cancelled".
+QString rawValue(FolderTreeProgress::Phase phase);
+
+} // namespace tessarine

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "scanner/ListedEntry.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <vector>
+
+namespace tessarine::testing {
+
+// Writes a file of `size` bytes (creating missing parent folders) and returns its path.
+QString writeFile(const QString& path, qint64 size);
+
+// Creates a file whose name is arbitrary bytes (invalid UTF-8 included) inside `folder`.
+void writeRawNamedFile(const QString& folder, const QByteArray& name, qint64 size);
+
+// A chain of nested folders named `name`, `depth` levels below `root`, each created relative to
+// its parent's descriptor because the full path outgrows PATH_MAX. The innermost one holds a file
+// "leaf.txt" of 1 byte.
+void makeFolderChain(const QString& root, int depth, const char* name = "d");
+// Takes such a chain apart (QDir::removeRecursively cannot reach past PATH_MAX).
+void removeFolderChain(const QString& root, const char* name = "d");
+
+// A deterministic pseudo-random hierarchy of roughly `itemCount` files and folders with varied
+// sizes, extensions, a few hidden entries, a package, symbolic links and empty folders.
+void generateTree(const QString& root, int itemCount, unsigned seed);
+
+// One entry as a plain recursive readdir walk sees it, in pre-order with readdir's order.
+struct WalkedItem {
+    QByteArray path;
+    EntryKind kind;
+    qint64 size;
+    qint64 modifiedMsecs;
+    qint64 depth;
+
+    bool operator==(const WalkedItem&) const = default;
+};
+
+// The reference: a sequential opendir/readdir/lstat walk with the same hidden, package and
+// symbolic-link rules, written as plainly as possible.
+std::vector<WalkedItem> referenceWalk(const QByteArray& root);
+
+// Descriptors this process has open right now.
+int openDescriptorCount();
+
+} // namespace tessarine::testing

@@ -1,0 +1,269 @@
+#include "SampleResults.h"
+#include "StandardOutputCapture.h"
+
+#include "storage/PersistenceService.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimeZone>
+
+#include <unistd.h>
+
+using namespace tessarine;
+using namespace tessarine::testing;
+
+namespace {
+
+QDateTime utc(int hour, int minute = 0, int millisecond = 0)
+{
+    return QDateTime(QDate(2024, 6, 1), QTime(hour, minute, 0, millisecond), QTimeZone::utc());
+}
+
+QDateTime wholeSeconds(const QDateTime& date)
+{
+    return QDateTime::fromSecsSinceEpoch(date.toSecsSinceEpoch(), QTimeZone::utc());
+}
+
+void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// Every entry below root, hidden ones included, with the bytes of the files: a fingerprint that
+// shows whether an operation wrote, renamed or removed anything at all.
+QMap<QString, QByteArray> snapshot(const QString& root)
+{
+    QMap<QString, QByteArray> entries;
+    QDirIterator it(root, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        entries.insert(path, it.fileInfo().isFile() ? readFile(path) : QByteArray("<dir>"));
+    }
+    return entries;
+}
+
+QList<AnalysisResult> loadedResults(PersistenceService& store)
+{
+    auto loaded = store.loadAll();
+    if (auto* error = std::get_if<StorageError>(&loaded))
+        qWarning() << "loadAll failed:" << error->errorDescription();
+    return std::get_if<QList<AnalysisResult>>(&loaded) ? std::get<QList<AnalysisResult>>(loaded)
+                                                       : QList<AnalysisResult>();
+}
+
+bool isDirectoryNotAccessible(const std::optional<StorageError>& error)
+{
+    return error && error->persistenceError() &&
+           error->persistenceError()->kind == PersistenceError::Kind::directoryNotAccessible;
+}
+
+} // namespace
+
+class HistoryStoreTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void emptyOrMissingDirectoryLoadsNothing()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        QCOMPARE(store.storagePath(), base.filePath("Tessarine"));
+        QVERIFY(!store.directoryError());
+        QVERIFY(QFileInfo(store.storagePath()).isDir());
+        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(store.loadAll()));
+        QVERIFY(loadedResults(store).isEmpty());
+
+        QVERIFY(QDir(store.storagePath()).removeRecursively());
+        auto loaded = store.loadAll();
+        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(loaded));
+        QVERIFY(std::get<QList<AnalysisResult>>(loaded).isEmpty());
+    }
+
+    void loadsOnlyDecodableJsonAndLeavesTheRestAlone()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        const AnalysisResult stored = sampleResult(utc(10));
+        QVERIFY(!store.save(stored));
+        const QByteArray valid = readFile(store.historyFilePath(stored.id));
+        const QDir history(store.storagePath());
+
+        writeFile(history.filePath("Upper.JSON"), valid);
+        writeFile(history.filePath(".hidden.json"), valid);
+        writeFile(history.filePath("notes.txt"), valid);
+        writeFile(history.filePath("foreign.json"), R"({"hello": "world"})");
+        writeFile(history.filePath("truncated.json"), valid.left(valid.size() / 2));
+        QVERIFY(history.mkdir("folder.json"));
+        const QMap<QString, QByteArray> before = snapshot(history.path());
+
+        StandardOutputCapture output;
+        const QList<AnalysisResult> loaded = loadedResults(store);
+        QStringList lines = QString::fromUtf8(output.finish()).split(u'\n', Qt::SkipEmptyParts);
+
+        QCOMPARE(loaded.size(), 1);
+        QCOMPARE(loaded.first().id, stored.id);
+        lines.sort();
+        QCOMPARE(lines.size(), 3);
+        QVERIFY2(lines[0].startsWith("Failed to load folder.json: "), qPrintable(lines[0]));
+        QVERIFY2(lines[1].startsWith("Failed to load foreign.json: "), qPrintable(lines[1]));
+        QVERIFY2(lines[2].startsWith("Failed to load truncated.json: "), qPrintable(lines[2]));
+        for (const QString& line : std::as_const(lines))
+            QVERIFY2(line.size() > line.indexOf(u':') + 2, "the reason is missing");
+        QCOMPARE(snapshot(history.path()), before);
+    }
+
+    void loadsLatestScanFirst()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        const QList<QDateTime> dates{utc(10), utc(12), utc(9), utc(11), utc(9)};
+        for (const QDateTime& date : dates)
+            QVERIFY(!store.save(sampleResult(date)));
+
+        QList<QDateTime> loadedDates;
+        for (const AnalysisResult& result : loadedResults(store))
+            loadedDates.append(result.scanDate);
+        QCOMPARE(loadedDates, (QList<QDateTime>{utc(12), utc(11), utc(10), utc(9), utc(9)}));
+    }
+
+    void savingAgainReplacesAndDeletingTwiceSucceeds()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        AnalysisResult result = sampleResult(utc(10));
+        const AnalysisResult other = sampleResult(utc(11));
+        QVERIFY(!store.save(result));
+        QVERIFY(!store.save(other));
+        result.rootName = QStringLiteral("renamed");
+        QVERIFY(!store.save(result));
+
+        const QDir history(store.storagePath());
+        QCOMPARE(history.entryList(QDir::Files | QDir::Hidden).size(), 2);
+        QCOMPARE(QFileInfo(store.historyFilePath(result.id)).fileName(),
+                 "scan_" + result.id.toString(QUuid::WithoutBraces).toUpper() + ".json");
+        QList<AnalysisResult> loaded = loadedResults(store);
+        QCOMPARE(loaded.size(), 2);
+        QCOMPARE(loaded.last().rootName, QStringLiteral("renamed"));
+
+        QVERIFY(!store.deleteResult(result));
+        QVERIFY(!QFile::exists(store.historyFilePath(result.id)));
+        const QMap<QString, QByteArray> remaining = snapshot(history.path());
+        QVERIFY(!store.deleteResult(result));
+        QVERIFY(!store.deleteResult(QUuid::createUuid()));
+        QCOMPARE(snapshot(history.path()), remaining);
+        QCOMPARE(loadedResults(store).size(), 1);
+    }
+
+    void roundTripKeepsEverythingButFractionalSeconds()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        AnalysisResult result = sampleResult(utc(10, 30, 750));
+        result.largestFiles.first().modificationDate = utc(8, 15, 999);
+        result.largestFiles.first().path += QStringLiteral("\nsecond line, 'quoted' \"twice\"");
+        FolderInfo tree;
+        tree.path = result.rootPath;
+        tree.name = result.rootName;
+        tree.childFolders.push_back(FolderInfo{});
+        result.folderTree = tree;
+        QVERIFY(!store.save(result));
+
+        AnalysisResult expected = result;
+        expected.scanDate = wholeSeconds(result.scanDate);
+        expected.largestFiles.first().modificationDate =
+            wholeSeconds(result.largestFiles.first().modificationDate);
+        const QList<AnalysisResult> loaded = loadedResults(store);
+        QCOMPARE(loaded.size(), 1);
+        QVERIFY(loaded.first() == expected);
+
+        // The JSON export is the history file itself, so an export dropped into the history
+        // folder loads like any saved scan.
+        QCOMPARE(store.encode(result), readFile(store.historyFilePath(result.id)));
+    }
+
+    void uncreatableDirectoryFailsEveryOperationAndWritesNothing()
+    {
+        QTemporaryDir sandbox;
+        const QString notADirectory = sandbox.filePath("plain file");
+        writeFile(notADirectory, "not a folder");
+        const QMap<QString, QByteArray> before = snapshot(sandbox.path());
+
+        PersistenceService store(notADirectory);
+        QVERIFY(store.directoryError());
+        QCOMPARE(store.directoryError()->kind, PersistenceError::Kind::directoryNotAccessible);
+        QCOMPARE(store.directoryError()->errorDescription(),
+                 QStringLiteral("Storage directory not accessible: Not a directory"));
+
+        const AnalysisResult result = sampleResult(utc(10));
+        const std::optional<StorageError> saveError = store.save(result);
+        QVERIFY(isDirectoryNotAccessible(saveError));
+        QCOMPARE(saveError->errorDescription(), store.directoryError()->errorDescription());
+        auto loaded = store.loadAll();
+        QVERIFY(std::holds_alternative<StorageError>(loaded));
+        QVERIFY(isDirectoryNotAccessible(std::get<StorageError>(loaded)));
+        QVERIFY(isDirectoryNotAccessible(store.deleteResult(result)));
+        QCOMPARE(snapshot(sandbox.path()), before);
+    }
+
+    void failedSaveLeavesNoPartialFile()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        const AnalysisResult blocked = sampleResult(utc(10));
+        const QDir history(store.storagePath());
+        QVERIFY(history.mkdir(QFileInfo(store.historyFilePath(blocked.id)).fileName()));
+        const QMap<QString, QByteArray> before = snapshot(history.path());
+
+        const std::optional<StorageError> error = store.save(blocked);
+        QVERIFY(error);
+        QVERIFY(!error->persistenceError());
+        QVERIFY2(error->errorDescription().contains(store.historyFilePath(blocked.id)),
+                 qPrintable(error->errorDescription()));
+        QCOMPARE(snapshot(history.path()), before);
+
+        // A read-only folder stops root only through permissions it ignores, so this half
+        // needs an ordinary user.
+        if (::geteuid() == 0)
+            return;
+        AnalysisResult stored = sampleResult(utc(11));
+        QVERIFY(!store.save(stored));
+        const QMap<QString, QByteArray> saved = snapshot(history.path());
+        QVERIFY(QFile::setPermissions(history.path(), QFile::ReadOwner | QFile::ExeOwner));
+        stored.rootName = QStringLiteral("changed");
+        QVERIFY(store.save(stored));
+        QVERIFY(QFile::setPermissions(history.path(),
+                                      QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(snapshot(history.path()), saved);
+    }
+
+    void listingErrorIsPassedOn()
+    {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        QVERIFY(QDir(store.storagePath()).removeRecursively());
+        writeFile(store.storagePath(), "the folder was replaced by a file");
+
+        auto loaded = store.loadAll();
+        QVERIFY(std::holds_alternative<StorageError>(loaded));
+        const StorageError& error = std::get<StorageError>(loaded);
+        QVERIFY(!error.persistenceError());
+        QVERIFY2(error.errorDescription().contains("Not a directory"),
+                 qPrintable(error.errorDescription()));
+    }
+};
+
+QTEST_GUILESS_MAIN(HistoryStoreTest)
+#include "HistoryStoreTest.moc"
