@@ -34,8 +34,8 @@ qint64 modifiedMsecs(const struct stat& status) {
 
 DirectoryReader::DirectoryReader(ListingArena& arena)
     : m_arena(arena)
-    , m_buffer(std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes /
-                                                                sizeof(std::uint64_t))) {}
+    , m_buffer(
+          std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes / sizeof(std::uint64_t))) {}
 
 std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory& folder,
                                                         const std::atomic<bool>& cancelled) {
@@ -78,8 +78,8 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
         return describeFolder(folder, storedName);
     if (S_ISLNK(status.st_mode))
         return ListedEntry::unsized(storedName, EntryKind::symlink);
-    return ListedEntry::sized(storedName, S_ISREG(status.st_mode) ? EntryKind::file
-                                                                  : EntryKind::special,
+    return ListedEntry::sized(storedName,
+                              S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
                               qint64(status.st_size), modifiedMsecs(status));
 }
 

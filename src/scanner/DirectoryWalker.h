@@ -13,8 +13,8 @@ namespace tessarine {
 
 // What a running walk has discovered so far.
 struct WalkProgress {
-    qint64 items = 0;   // every item discovered, of any kind
-    qint64 folders = 0; // of those, directories and packages
+    qint64 items = 0;            // every item discovered, of any kind
+    qint64 folders = 0;          // of those, directories and packages
     QByteArray recentFolderPath; // a folder listed a moment ago, in file-system bytes
 };
 
@@ -43,7 +43,8 @@ public:
     };
 
     DirectoryWalker() = default;
-    explicit DirectoryWalker(Options options) : m_options(std::move(options)) {}
+    explicit DirectoryWalker(Options options)
+        : m_options(std::move(options)) {}
 
     // Blocks until the whole hierarchy is listed. `rootPath` should be absolute and clean (see
     // cleanRootPath); an unreadable or missing root gives an empty listing without a root.

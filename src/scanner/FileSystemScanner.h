@@ -6,11 +6,16 @@
 
 #include <QString>
 
+#include <atomic>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <variant>
 
 namespace tessarine {
+
+class DirectoryListing;
+class ScanAggregator;
 
 using ScanOutcome = std::variant<AnalysisResult, ScanError>;
 
@@ -36,8 +41,25 @@ public:
     // A copy of the latest published snapshot; none before the scan starts.
     std::optional<ScanProgress> currentProgress() const;
 
+    // Receives every snapshot as it is published, on the thread running scan(), so that a caller
+    // can follow the whole sequence instead of sampling it. Set it before scan() starts.
+    using ProgressObserver = std::function<void(const ScanProgress&)>;
+    void setProgressObserver(ProgressObserver observer) { m_observer = std::move(observer); }
+
 private:
-    // (members are the implementation's own)
+    DirectoryListing discover(const QString& rootPath, const QDateTime& startTime);
+    // False when cancelled. `first` is the opening snapshot of the pass.
+    bool analyse(const DirectoryListing& listing, ScanAggregator& aggregator,
+                 const ScanProgress& first);
+    void publish(ScanProgress progress);
+    // Publishes the last snapshot again, in another phase.
+    void publishPhase(ScanPhase phase);
+
+    mutable std::mutex m_mutex;
+    std::optional<ScanProgress> m_progress; // guarded by m_mutex
+    // Polled once per item by both passes, so it is an atomic rather than a flag under m_mutex.
+    std::atomic<bool> m_cancelled{false};
+    ProgressObserver m_observer;
 };
 
 } // namespace tessarine

@@ -12,4 +12,8 @@ bool isHiddenName(QByteArrayView name);
 // results from different machines compare.
 bool isPackageName(QByteArrayView name);
 
+// The text after the last "." of a name, as raw bytes; empty when the name has no ".", starts with
+// one (a dot file's name is not an extension) or ends with one.
+QByteArrayView pathExtension(QByteArrayView name);
+
 } // namespace tessarine

@@ -21,7 +21,9 @@ public:
     };
 
     ListedDirectory(const ListedDirectory* parent, QByteArrayView name)
-        : m_parent(parent), m_name(name.data()), m_nameLength(quint32(name.size())) {}
+        : m_parent(parent)
+        , m_name(name.data())
+        , m_nameLength(quint32(name.size())) {}
 
     const ListedDirectory* parent() const { return m_parent; }
     // Raw name bytes; empty for the root of a listing.

@@ -12,8 +12,8 @@ QByteArrayView ListingArena::copyName(QByteArrayView name) {
 }
 
 void* ListingArena::allocate(std::size_t bytes, std::size_t alignment) {
-    const std::size_t padding = (alignment - reinterpret_cast<std::uintptr_t>(m_next) % alignment) %
-                                alignment;
+    const std::size_t padding =
+        (alignment - reinterpret_cast<std::uintptr_t>(m_next) % alignment) % alignment;
     if (m_next && padding + bytes <= m_left) {
         std::byte* start = m_next + padding;
         m_next = start + bytes;

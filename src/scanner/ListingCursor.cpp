@@ -2,7 +2,8 @@
 
 namespace tessarine {
 
-ListingCursor::ListingCursor(const DirectoryListing& listing) : m_folderPath(listing.rootPath()) {
+ListingCursor::ListingCursor(const DirectoryListing& listing)
+    : m_folderPath(listing.rootPath()) {
     if (listing.root())
         enter(*listing.root(), m_folderPath.size());
 }

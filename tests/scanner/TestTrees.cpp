@@ -75,8 +75,8 @@ void removeFolderChain(const QString& root, const char* name) {
 }
 
 void generateTree(const QString& root, int itemCount, unsigned seed) {
-    static const char* const extensions[] = {"txt", "JPG", "js", "json", "", "tar.gz",
-                                             "log", "cpp", "Mp4", "cache"};
+    static const char* const extensions[] = {"txt",    "JPG", "js",  "json", "",
+                                             "tar.gz", "log", "cpp", "Mp4",  "cache"};
     QRandomGenerator random(seed);
     QStringList folders{root};
     writeFile(root + "/Tool.app/Contents/binary", 5000);

@@ -1,0 +1,76 @@
+#include "scanner/ListingAnalysis.h"
+
+#include "scanner/ItemNameRules.h"
+#include "scanner/ListingCursor.h"
+
+#include <QFile>
+
+namespace tessarine {
+
+namespace {
+
+QString decodedName(QByteArrayView bytes) {
+    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
+}
+
+QDateTime modificationDate(const ListedEntry& entry) {
+    return entry.modifiedMsecs() == ListedEntry::unknownModificationTime
+               ? distantPast()
+               : QDateTime::fromMSecsSinceEpoch(entry.modifiedMsecs(), Qt::UTC);
+}
+
+} // namespace
+
+ListingAnalysis::ListingAnalysis(ScanAggregator& aggregator, const std::atomic<bool>& cancelled,
+                                 qint64 interval, IntervalCallback onInterval)
+    : m_aggregator(aggregator)
+    , m_cancelled(cancelled)
+    , m_interval(interval)
+    , m_onInterval(std::move(onInterval)) {}
+
+bool ListingAnalysis::fold(const DirectoryListing& listing) {
+    qint64 processed = 0;
+    for (ListingCursor cursor(listing); cursor.next();) {
+        if (m_cancelled.load(std::memory_order_relaxed))
+            return false;
+        const ListedEntry& entry = cursor.entry();
+        if (entry.kind() == EntryKind::symlink || entry.kind() == EntryKind::unreadable)
+            continue;
+        if (entry.isFolder())
+            m_aggregator.addFolder(cursor.depth());
+        else
+            foldFile(cursor);
+        if (++processed % m_interval == 0 && m_onInterval)
+            m_onInterval(QFile::decodeName(cursor.entryPath()));
+    }
+    return true;
+}
+
+void ListingAnalysis::foldFile(const ListingCursor& cursor) {
+    const ListedEntry& entry = cursor.entry();
+    ExtensionTally& ext = tallyFor(pathExtension(entry.name()));
+    m_aggregator.addFile(entry.size(), cursor.depth(), ext, ext.category, [&] {
+        FileInfo record;
+        record.path = QFile::decodeName(cursor.entryPath());
+        record.name = decodedName(entry.name());
+        record.size = entry.size();
+        record.fileExtension = ext.ext;
+        record.category = ext.category;
+        record.depth = cursor.depth();
+        record.modificationDate = modificationDate(entry);
+        return record;
+    });
+}
+
+ExtensionTally& ListingAnalysis::tallyFor(QByteArrayView rawExtension) {
+    // A raw view for the lookup: the bytes are copied only when the spelling is new.
+    const QByteArray probe = QByteArray::fromRawData(rawExtension.data(), rawExtension.size());
+    if (ExtensionTally* known = m_tallies.value(probe))
+        return *known;
+    const QString ext = decodedName(rawExtension).toLower();
+    ExtensionTally& made = m_aggregator.tally(ext, categoryForExtension(ext));
+    m_tallies.insert(rawExtension.toByteArray(), &made);
+    return made;
+}
+
+} // namespace tessarine

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "scanner/DirectoryListing.h"
+#include "scanner/ScanAggregator.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+
+#include <atomic>
+#include <functional>
+
+namespace tessarine {
+
+class ListingCursor;
+
+// The analysis pass of a scan: folds every item of a finished listing into an aggregator, in
+// pre-order listing order (a folder, then its contents), exactly as a sequential recursive walk
+// would. It works only from the metadata that discovery stored beside each item and never goes
+// back to the file system, so files that vanish meanwhile do not disturb it. Symbolic links and
+// items whose metadata could not be read are passed over.
+class ListingAnalysis {
+public:
+    // Called after every `interval` analysed items with the path of the last one.
+    using IntervalCallback = std::function<void(const QString& itemPath)>;
+
+    ListingAnalysis(ScanAggregator& aggregator, const std::atomic<bool>& cancelled, qint64 interval,
+                    IntervalCallback onInterval);
+
+    // Returns false, leaving the aggregator part-filled, when `cancelled` turned true.
+    bool fold(const DirectoryListing& listing);
+
+private:
+    void foldFile(const ListingCursor& cursor);
+    ExtensionTally& tallyFor(QByteArrayView rawExtension);
+
+    ScanAggregator& m_aggregator;
+    const std::atomic<bool>& m_cancelled;
+    const qint64 m_interval;
+    IntervalCallback m_onInterval;
+    // Raw extension bytes (as named on disk) to their tally: each distinct spelling is decoded,
+    // lowercased and categorised once, not once per file.
+    QHash<QByteArray, ExtensionTally*> m_tallies;
+};
+
+} // namespace tessarine
