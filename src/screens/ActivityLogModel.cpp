@@ -1,0 +1,67 @@
+#include "screens/ActivityLogModel.h"
+
+#include "model/Format.h"
+#include "screens/ScanPaths.h"
+
+namespace tessarine {
+
+int ActivityLogModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(m_entries.size());
+}
+
+QVariant ActivityLogModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const ActivityLogEntry& entry = m_entries[std::size_t(index.row())];
+    switch (Role(role)) {
+    case IdRole:
+        return entry.id;
+    case TimestampRole:
+        return entry.timestamp;
+    case NameRole:
+        return entry.name;
+    case IsFolderRole:
+        return entry.isFolder;
+    case SizeRole:
+        return entry.size;
+    }
+    return {};
+}
+
+QHash<int, QByteArray> ActivityLogModel::roleNames() const {
+    return {{IdRole, "id"},
+            {TimestampRole, "timestamp"},
+            {NameRole, "name"},
+            {IsFolderRole, "isFolder"},
+            {SizeRole, "size"}};
+}
+
+void ActivityLogModel::setCurrentPath(const QString& path) {
+    setCurrentPath(path, QDateTime::currentDateTime());
+}
+
+void ActivityLogModel::setCurrentPath(const QString& path, const QDateTime& now) {
+    if (path == m_currentPath)
+        return;
+    m_currentPath = path;
+    if (!path.isEmpty())
+        record(path, now);
+    emit currentPathChanged();
+}
+
+void ActivityLogModel::record(const QString& path, const QDateTime& now) {
+    const bool full = m_entries.size() >= std::size_t(capacity);
+    if (full) {
+        beginRemoveRows({}, capacity - 1, capacity - 1);
+        m_entries.pop_back();
+        endRemoveRows();
+    }
+    beginInsertRows({}, 0, 0);
+    m_entries.push_front({QUuid::createUuid(), format::clockTime(now), lastPathComponent(path),
+                          looksLikeFolder(path), QString()});
+    endInsertRows();
+    if (!full)
+        emit countChanged();
+}
+
+} // namespace tessarine

@@ -1,0 +1,37 @@
+#include "screens/PhaseStepsModel.h"
+
+namespace tessarine {
+
+void PhaseStepsModel::setPhase(int phase) {
+    if (phase < 0 || phase >= int(allScanPhases().size()) || phase == int(m_phase))
+        return;
+    m_phase = static_cast<ScanPhase>(phase);
+    m_steps = phaseSteps(m_phase);
+    emit dataChanged(index(0), index(rowCount() - 1), {CompletedRole, CurrentRole});
+    emit phaseChanged();
+}
+
+int PhaseStepsModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(m_steps.size());
+}
+
+QVariant PhaseStepsModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const PhaseStep& step = m_steps[std::size_t(index.row())];
+    switch (Role(role)) {
+    case LabelRole:
+        return phaseShortLabel(step.phase);
+    case CompletedRole:
+        return step.completed;
+    case CurrentRole:
+        return step.current;
+    }
+    return {};
+}
+
+QHash<int, QByteArray> PhaseStepsModel::roleNames() const {
+    return {{LabelRole, "label"}, {CompletedRole, "completed"}, {CurrentRole, "current"}};
+}
+
+} // namespace tessarine

@@ -1,0 +1,30 @@
+#include "screens/ScanPaths.h"
+
+namespace tessarine {
+
+namespace {
+
+constexpr qsizetype deepestCrumbCount = 6;
+
+} // namespace
+
+QStringList locationCrumbs(QStringView path) {
+    QStringList crumbs;
+    for (QStringView piece : path.split(u'/', Qt::SkipEmptyParts))
+        crumbs.append(piece.toString());
+    if (crumbs.size() > deepestCrumbCount)
+        crumbs.remove(0, crumbs.size() - deepestCrumbCount);
+    return crumbs;
+}
+
+QString lastPathComponent(QStringView path) {
+    while (path.endsWith(u'/'))
+        path.chop(1);
+    return path.sliced(path.lastIndexOf(u'/') + 1).toString();
+}
+
+bool looksLikeFolder(QStringView path) {
+    return path.endsWith(u'/') || !lastPathComponent(path).contains(u'.');
+}
+
+} // namespace tessarine

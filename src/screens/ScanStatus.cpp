@@ -1,0 +1,42 @@
+#include "screens/ScanStatus.h"
+
+#include "model/Format.h"
+#include "screens/ScanPaths.h"
+#include "screens/ScanPhaseDisplay.h"
+#include "screens/Throughput.h"
+
+namespace tessarine {
+
+ScanStatus scanStatus(const std::optional<ScanProgress>& progress, const ScanRateMeter& rates,
+                      const QDateTime& now) {
+    // Before the first snapshot the scan is, as far as the user can tell, initializing.
+    const ScanPhase phase = progress ? progress->phase : ScanPhase::initializing;
+    ScanStatus status{
+        .phaseTitle = rawValue(phase),
+        .phaseDescription = phaseDescription(phase),
+        .phaseSymbol = phaseSymbol(progress ? std::optional(phase) : std::nullopt),
+        .itemCount = {},
+        .currentName = {},
+        .locationCrumbs = {},
+        .files = format::count(0),
+        .folders = format::count(0),
+        .dataScanned = QStringLiteral("0 bytes"),
+        .fileRate = QString::asprintf("%.0f/s", rates.filesPerSecond()),
+        .elapsed = QStringLiteral("0s"),
+        .throughput = formatThroughput(rates.bytesPerSecond()),
+        .remaining = format::missing(),
+    };
+    if (!progress)
+        return status;
+    status.itemCount = format::count(progress->filesScanned + progress->foldersScanned);
+    status.currentName = lastPathComponent(progress->currentPath);
+    status.locationCrumbs = locationCrumbs(progress->currentPath);
+    status.files = format::count(progress->filesScanned);
+    status.folders = format::count(progress->foldersScanned);
+    status.dataScanned = format::byteCount(progress->bytesScanned);
+    status.elapsed = progress->formattedElapsedTime(now);
+    status.remaining = progress->formattedRemainingTime(now).value_or(format::missing());
+    return status;
+}
+
+} // namespace tessarine

@@ -1,0 +1,14 @@
+#include "screens/SummaryFiguresModel.h"
+
+namespace tessarine {
+
+SummaryFiguresModel::SummaryFiguresModel(QObject* parent)
+    : FigureListModel(parent) {
+    const auto update = [this] {
+        setFigures(summaryFigures({m_totalSize, m_fileCount, m_folderCount, m_maxDepth}));
+    };
+    connect(this, &SummaryFiguresModel::totalsChanged, this, update);
+    update();
+}
+
+} // namespace tessarine
