@@ -1,0 +1,227 @@
+#include "AppState.h"
+
+#include "scanner/FileSystemScanner.h"
+#include "storage/PersistenceService.h"
+
+#include <QJSEngine>
+#include <QQmlEngine>
+
+#include <variant>
+
+namespace tessarine {
+
+namespace {
+
+// The scanning screen wants a fresh snapshot often enough to look live, but reading one per file
+// would flood the interface thread.
+constexpr auto progressWatchInterval = std::chrono::milliseconds(120);
+
+AppState* sharedInstance = nullptr;
+
+QString folderPathOf(const QUrl& folder) {
+    return folder.isLocalFile() ? folder.toLocalFile() : folder.toString(QUrl::PreferLocalFile);
+}
+
+} // namespace
+
+AppState::AppState(PersistenceService& store, QObject* parent)
+    : QObject(parent)
+    , m_store(store) {
+    m_progressWatcher.setInterval(progressWatchInterval);
+    m_progressWatcher.setTimerType(Qt::PreciseTimer);
+    connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
+    loadHistory();
+}
+
+AppState::~AppState() {
+    if (m_currentScanner)
+        m_currentScanner->cancel();
+    waitForWorkers();
+    if (sharedInstance == this)
+        sharedInstance = nullptr;
+}
+
+AppState* AppState::create(QQmlEngine*, QJSEngine*) {
+    Q_ASSERT_X(sharedInstance, "AppState::create", "setSharedInstance must come first");
+    // The application owns the state; an engine going away must not delete it.
+    QJSEngine::setObjectOwnership(sharedInstance, QJSEngine::CppOwnership);
+    return sharedInstance;
+}
+
+void AppState::setSharedInstance(AppState* state) {
+    sharedInstance = state;
+}
+
+void AppState::setCurrentView(AppView view) {
+    if (m_currentView == view)
+        return;
+    m_currentView = view;
+    emit currentViewChanged();
+}
+
+void AppState::setCurrentResult(const ResultHandle& result) {
+    if (m_currentResult == result)
+        return;
+    m_currentResult = result;
+    emit currentResultChanged();
+}
+
+void AppState::setShowFolderPicker(bool show) {
+    if (m_showFolderPicker == show)
+        return;
+    m_showFolderPicker = show;
+    emit showFolderPickerChanged();
+}
+
+void AppState::setIsScanning(bool scanning) {
+    if (m_isScanning == scanning)
+        return;
+    m_isScanning = scanning;
+    emit isScanningChanged();
+}
+
+void AppState::setScanProgress(const ProgressHandle& progress) {
+    if (m_scanProgress == progress)
+        return;
+    m_scanProgress = progress;
+    emit scanProgressChanged();
+}
+
+void AppState::setError(const ErrorHandle& error) {
+    if (m_error == error)
+        return;
+    m_error = error;
+    emit errorChanged();
+}
+
+void AppState::clearError() {
+    setError({});
+}
+
+void AppState::waitForWorkers() {
+    m_workers.waitForDone();
+}
+
+void AppState::loadHistory() {
+    auto loaded = m_store.loadAll();
+    if (const auto* failure = std::get_if<StorageError>(&loaded)) {
+        setError(AppError::loadFailed(failure->errorDescription()));
+        m_scanHistory.reset({});
+        return;
+    }
+    QList<ResultHandle> results;
+    for (AnalysisResult& result : std::get<QList<AnalysisResult>>(loaded))
+        results.append(ResultHandle(std::move(result)));
+    m_scanHistory.reset(std::move(results));
+}
+
+void AppState::startScan(const QUrl& folder) {
+    startScan(folderPathOf(folder));
+}
+
+void AppState::startScan(const QString& folderPath) {
+    // A running scan is replaced: its outcome is dropped, and its scanner stopped so that it does
+    // not compete with the new one for the disk.
+    if (m_currentScanTask && m_currentScanner)
+        m_currentScanner->cancel();
+    setCurrentView(Scanning);
+    setIsScanning(true);
+    setScanProgress({});
+    const TaskId task = ++m_lastTaskId;
+    m_currentScanTask = task;
+    performScan(task, folderPath);
+}
+
+void AppState::performScan(TaskId task, const QString& folderPath) {
+    auto scanner = std::make_shared<FileSystemScanner>();
+    m_currentScanner = scanner;
+    m_watchedScanner = scanner;
+    m_progressWatcher.start();
+    m_workers.start([this, task, scanner, folderPath] {
+        ScanOutcome outcome = scanner->scan(folderPath);
+        // Back on the interface thread; dropped by Qt if the state is gone by then.
+        QMetaObject::invokeMethod(
+            this,
+            [this, task, scanner, outcome = std::move(outcome)]() mutable {
+                if (auto* result = std::get_if<AnalysisResult>(&outcome))
+                    finishScan(task, scanner, std::move(*result));
+                else
+                    failScan(task, std::get<ScanError>(outcome));
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
+                          AnalysisResult result) {
+    if (isCancelled(task))
+        return;
+    stopProgressWatcher();
+    // The screen keeps the last counters the scanner published, not the one before.
+    if (auto last = scanner->currentProgress())
+        setScanProgress(ProgressHandle(std::move(last)));
+    const ResultHandle finished(std::move(result));
+    setCurrentResult(finished);
+    saveResult(finished);
+    setIsScanning(false);
+    setCurrentView(Dashboard);
+    m_currentScanner.reset();
+}
+
+void AppState::failScan(TaskId task, const ScanError& failure) {
+    // A cancelled task was ended by cancelScan or a newer startScan, which set the state already.
+    if (isCancelled(task))
+        return;
+    stopProgressWatcher();
+    setError(AppError::scanFailed(failure.errorDescription()));
+    setIsScanning(false);
+    setCurrentView(Landing);
+    m_currentScanner.reset();
+}
+
+void AppState::saveResult(const ResultHandle& result) {
+    if (const auto failure = m_store.save(*result.get())) {
+        setError(AppError::saveFailed(failure->errorDescription()));
+        return;
+    }
+    m_scanHistory.prepend(result);
+}
+
+void AppState::deleteScan(const ResultHandle& result) {
+    if (!result.valid())
+        return;
+    if (const auto failure = m_store.deleteResult(*result.get())) {
+        setError(AppError::saveFailed(failure->errorDescription()));
+        return;
+    }
+    m_scanHistory.removeAll(result.get()->id);
+}
+
+void AppState::openResult(const ResultHandle& result) {
+    setCurrentResult(result);
+    setCurrentView(Dashboard);
+}
+
+void AppState::cancelScan() {
+    m_currentScanTask.reset();
+    if (m_currentScanner)
+        m_currentScanner->cancel();
+    m_currentScanner.reset();
+    stopProgressWatcher();
+    setIsScanning(false);
+    setCurrentView(Landing);
+}
+
+void AppState::copyLatestProgress() {
+    if (!m_watchedScanner)
+        return;
+    if (auto latest = m_watchedScanner->currentProgress())
+        setScanProgress(ProgressHandle(std::move(latest)));
+}
+
+void AppState::stopProgressWatcher() {
+    m_progressWatcher.stop();
+    m_watchedScanner.reset();
+}
+
+} // namespace tessarine

@@ -1,0 +1,133 @@
+#pragma once
+
+#include "AppError.h"
+#include "ErrorHandle.h"
+#include "ProgressHandle.h"
+#include "ResultHandle.h"
+#include "ScanHistoryModel.h"
+
+#include <QObject>
+#include <QThreadPool>
+#include <QTimer>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <optional>
+
+class QQmlEngine;
+class QJSEngine;
+
+namespace tessarine {
+
+class FileSystemScanner;
+class PersistenceService;
+struct ScanError;
+
+// The one object a scan request travels through: from the user to the scanner, and from the
+// scanner's result to the dashboard and the history. It owns the view shown, the result on
+// display, the history list, the progress snapshot, the error for the alert and the running scan.
+// All of it lives on the user-interface thread; only FileSystemScanner::scan runs elsewhere.
+class AppState : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(AppView currentView READ currentView WRITE setCurrentView NOTIFY currentViewChanged)
+    Q_PROPERTY(tessarine::ResultHandle currentResult READ currentResult WRITE setCurrentResult
+                   NOTIFY currentResultChanged)
+    Q_PROPERTY(tessarine::ScanHistoryModel* scanHistory READ scanHistory CONSTANT)
+    Q_PROPERTY(bool showFolderPicker READ showFolderPicker WRITE setShowFolderPicker NOTIFY
+                   showFolderPickerChanged)
+    Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
+    Q_PROPERTY(tessarine::ProgressHandle scanProgress READ scanProgress NOTIFY scanProgressChanged)
+    Q_PROPERTY(tessarine::ErrorHandle error READ error WRITE setError NOTIFY errorChanged)
+
+public:
+    enum AppView { Landing, Scanning, Dashboard, History };
+    Q_ENUM(AppView)
+
+    // Loads the history from the store at once. The store outlives this state.
+    explicit AppState(PersistenceService& store, QObject* parent = nullptr);
+    // Stops a running scan and waits for its worker, so nothing outlives the state.
+    ~AppState() override;
+
+    // QML's AppState is the instance the application made; see setSharedInstance.
+    static AppState* create(QQmlEngine* qmlEngine, QJSEngine* jsEngine);
+    static void setSharedInstance(AppState* state);
+
+    AppView currentView() const { return m_currentView; }
+    void setCurrentView(AppView view);
+    ResultHandle currentResult() const { return m_currentResult; }
+    void setCurrentResult(const ResultHandle& result);
+    ScanHistoryModel* scanHistory() { return &m_scanHistory; }
+    bool showFolderPicker() const { return m_showFolderPicker; }
+    void setShowFolderPicker(bool show);
+    bool isScanning() const { return m_isScanning; }
+    ProgressHandle scanProgress() const { return m_scanProgress; }
+    // Also the way to show a fixed snapshot, for previews of the scanning screen.
+    void setScanProgress(const ProgressHandle& progress);
+    ErrorHandle error() const { return m_error; }
+    void setError(const ErrorHandle& error);
+    bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
+
+    // Begins a scan of the folder; a scan already running is cancelled and replaced. Accepts a
+    // file URL or a plain path.
+    Q_INVOKABLE void startScan(const QUrl& folder);
+    void startScan(const QString& folderPath);
+    // Stops the running scan and returns to the landing view at once, without an error.
+    Q_INVOKABLE void cancelScan();
+    // Deletes one stored result; a result on display stays on display.
+    Q_INVOKABLE void deleteScan(const tessarine::ResultHandle& result);
+    // Shows a stored result on the dashboard.
+    Q_INVOKABLE void openResult(const tessarine::ResultHandle& result);
+    Q_INVOKABLE void clearError();
+
+    // Blocks until every scan worker has returned, the replaced and cancelled ones included. Their
+    // outcomes reach the state with the next event processing.
+    void waitForWorkers();
+
+signals:
+    void currentViewChanged();
+    void currentResultChanged();
+    void showFolderPickerChanged();
+    void isScanningChanged();
+    void scanProgressChanged();
+    void errorChanged();
+
+private:
+    using TaskId = quint64;
+
+    void loadHistory();
+    void saveResult(const ResultHandle& result);
+    void setIsScanning(bool scanning);
+    void performScan(TaskId task, const QString& folderPath);
+    void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
+                    AnalysisResult result);
+    void failScan(TaskId task, const ScanError& failure);
+    bool isCancelled(TaskId task) const { return m_currentScanTask != task; }
+    void copyLatestProgress();
+    void stopProgressWatcher();
+
+    PersistenceService& m_store;
+
+    AppView m_currentView = Landing;
+    ResultHandle m_currentResult;
+    ScanHistoryModel m_scanHistory;
+    bool m_showFolderPicker = false;
+    bool m_isScanning = false;
+    ProgressHandle m_scanProgress;
+    ErrorHandle m_error;
+    // The task of the current scan. A task whose id is no longer here was cancelled: its
+    // outcome is dropped without touching the state.
+    std::optional<TaskId> m_currentScanTask;
+    TaskId m_lastTaskId = 0;
+    std::shared_ptr<FileSystemScanner> m_currentScanner;
+
+    // Copies the watched scanner's snapshot into scanProgress every 120 ms: progress reaches the
+    // interface by polling, never once per file.
+    QTimer m_progressWatcher;
+    std::shared_ptr<FileSystemScanner> m_watchedScanner;
+    QThreadPool m_workers;
+};
+
+} // namespace tessarine

@@ -1,0 +1,34 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+
+// A secondary action: white, hairline border, label in the primary colour (red when destructive).
+Button {
+    id: button
+
+    property string symbol
+    property bool destructive: false
+
+    padding: 6
+    leftPadding: 12
+    rightPadding: 12
+    font: Theme.weighted(Theme.body, Font.Medium)
+    opacity: enabled ? 1 : 0.45
+
+    contentItem: ButtonLabel {
+        text: button.text
+        symbol: button.symbol
+        font: button.font
+        color: button.destructive ? Theme.red : Theme.primary
+    }
+
+    background: Rectangle {
+        implicitHeight: 28
+        radius: Theme.radiusSmall
+        color: button.down ? "#E5E5EA" : (button.hovered ? "#F5F5F7" : Theme.controlBackground)
+        border.width: 1
+        border.color: Theme.withOpacity(Theme.primary, 0.16)
+    }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}

@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+
+// A quiet action: a tinted label, and a faint rounded highlight only under the pointer. Set
+// fill to give it a resting background (for example the secondary colour at 15%).
+Button {
+    id: button
+
+    property string symbol
+    property color tint: Theme.accent
+    property color fill: "transparent"
+
+    padding: 6
+    leftPadding: 10
+    rightPadding: 10
+    font: Theme.weighted(Theme.body, Font.Medium)
+    opacity: enabled ? 1 : 0.45
+
+    contentItem: ButtonLabel {
+        text: button.text
+        symbol: button.symbol
+        font: button.font
+        color: button.tint
+    }
+
+    background: Rectangle {
+        implicitHeight: 26
+        radius: Theme.radiusSmall
+        color: button.fill
+        Rectangle {
+            anchors.fill: parent
+            radius: parent.radius
+            color: button.down ? Qt.rgba(0, 0, 0, 0.1) : (button.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent")
+        }
+    }
+
+    HoverHandler { cursorShape: Qt.PointingHandCursor }
+}

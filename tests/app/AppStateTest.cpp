@@ -1,0 +1,248 @@
+#include "ScanFolders.h"
+
+#include "app/AppState.h"
+#include "model/ScanProgress.h"
+#include "storage/PersistenceService.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace tessarine;
+using testing::makeScannableFolder;
+
+namespace {
+
+// Waits for the running scan to end, then lets every worker's outcome, the dropped ones included,
+// reach the state, so that nothing still in flight can change it after the checks.
+void settle(AppState& state) {
+    QTRY_VERIFY_WITH_TIMEOUT(!state.isScanning(), 60000);
+    state.waitForWorkers();
+    QCoreApplication::processEvents();
+}
+
+QStringList historyFiles(const PersistenceService& store) {
+    return QDir(store.storagePath()).entryList({QStringLiteral("scan_*.json")}, QDir::Files);
+}
+
+AnalysisResult storedResult(const QString& rootPath, const QDateTime& scanDate) {
+    AnalysisResult result;
+    result.rootPath = rootPath;
+    result.rootName = rootPath.section(u'/', -1);
+    result.scanDate = scanDate;
+    result.totalSize = 1000;
+    return result;
+}
+
+} // namespace
+
+class AppStateTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+
+    void successfulScanShowsSavesAndListsTheResult() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        PersistenceService store(home.path());
+        AppState state(store);
+        QCOMPARE(state.currentView(), AppState::Landing);
+        QCOMPARE(state.scanHistory()->count(), 0);
+        QVERIFY(!state.error().present());
+        QSignalSpy views(&state, &AppState::currentViewChanged);
+
+        state.startScan(QUrl::fromLocalFile(folder.path()));
+        QCOMPARE(state.currentView(), AppState::Scanning);
+        QVERIFY(state.isScanning());
+        QVERIFY(state.hasCurrentScanner());
+        QVERIFY(!state.scanProgress().valid());
+        settle(state);
+
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QCOMPARE(views.count(), 2);
+        const ResultHandle shown = state.currentResult();
+        QVERIFY(shown.valid());
+        QCOMPARE(shown.rootPath(), folder.path());
+        QCOMPARE(shown.fileCount(), 6);
+        QCOMPARE(state.scanHistory()->count(), 1);
+        QCOMPARE(state.scanHistory()->at(0).id(), shown.id());
+        QCOMPARE(historyFiles(store), QStringList{QStringLiteral("scan_%1.json").arg(shown.id())});
+        QVERIFY(!state.isScanning());
+        QVERIFY(!state.hasCurrentScanner());
+        QVERIFY(!state.error().present());
+        // The screen is left with the scanner's final counters.
+        QCOMPARE(state.scanProgress().phaseName(), rawValue(ScanPhase::complete));
+
+        // A second scan goes to the head of the history; the previous result stays on display
+        // until the new one is ready.
+        state.startScan(folder.path());
+        QCOMPARE(state.currentResult().id(), shown.id());
+        settle(state);
+        QCOMPARE(state.scanHistory()->count(), 2);
+        QCOMPARE(state.scanHistory()->at(0).id(), state.currentResult().id());
+        QCOMPARE(state.scanHistory()->at(1).id(), shown.id());
+    }
+
+    void failedScanReturnsToLandingWithTheScannersMessage() {
+        QTemporaryDir home, emptyFolder;
+        PersistenceService store(home.path());
+        AppState state(store);
+        const QString missing = emptyFolder.path() + QStringLiteral("/gone \"quoted\"");
+
+        for (const QString& path : {emptyFolder.path(), missing}) {
+            state.startScan(QUrl::fromLocalFile(path));
+            settle(state);
+            QCOMPARE(state.currentView(), AppState::Landing);
+            QCOMPARE(state.error().errorDescription(),
+                     QStringLiteral("Scan failed: Cannot access directory: ") + path);
+            QCOMPARE(state.error().recoverySuggestion(),
+                     QStringLiteral("Try selecting a different folder or check if you have "
+                                    "permission to access it."));
+            QVERIFY(!state.isScanning());
+            QVERIFY(!state.hasCurrentScanner());
+            QVERIFY(!state.currentResult().valid());
+            QCOMPARE(state.scanHistory()->count(), 0);
+        }
+        QVERIFY(historyFiles(store).isEmpty());
+
+        // The progress shown last stays as it was once the scan has failed.
+        const ProgressHandle last = state.scanProgress();
+        QTest::qWait(300);
+        QCOMPARE(state.scanProgress(), last);
+    }
+
+    void cancelledScanEndsSilentlyAndSavesNothing() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path(), 300);
+        PersistenceService store(home.path());
+        AppState state(store);
+
+        state.startScan(folder.path());
+        state.cancelScan();
+        QCOMPARE(state.currentView(), AppState::Landing);
+        QVERIFY(!state.isScanning());
+        QVERIFY(!state.hasCurrentScanner());
+        const ProgressHandle atCancel = state.scanProgress();
+        settle(state);
+
+        QVERIFY(!state.error().present());
+        QVERIFY(!state.currentResult().valid());
+        QCOMPARE(state.scanHistory()->count(), 0);
+        QVERIFY(historyFiles(store).isEmpty());
+        QCOMPARE(state.currentView(), AppState::Landing);
+        QTest::qWait(300);
+        QCOMPARE(state.scanProgress(), atCancel);
+    }
+
+    void newerScanReplacesTheRunningOne() {
+        QTemporaryDir home, first, second;
+        makeScannableFolder(first.path(), 300);
+        makeScannableFolder(second.path(), 4);
+        PersistenceService store(home.path());
+        AppState state(store);
+
+        state.startScan(first.path());
+        state.startScan(second.path());
+        QCOMPARE(state.currentView(), AppState::Scanning);
+        QVERIFY(state.isScanning());
+        settle(state);
+
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QCOMPARE(state.currentResult().rootPath(), second.path());
+        QCOMPARE(state.scanHistory()->count(), 1);
+        QCOMPARE(historyFiles(store).size(), 1);
+        QVERIFY(!state.error().present());
+    }
+
+    void unsavableResultStaysOnDisplayWithTheSaveError() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        PersistenceService store(home.path());
+        AppState state(store);
+        // The history folder turns into a file after start: loading worked, saving cannot.
+        QVERIFY(QDir(store.storagePath()).removeRecursively());
+        testing::writeFile(store.storagePath(), 1);
+
+        state.startScan(folder.path());
+        settle(state);
+
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QVERIFY(state.currentResult().valid());
+        QCOMPARE(state.scanHistory()->count(), 0);
+        QVERIFY(state.error().errorDescription().startsWith(QStringLiteral("Failed to save: ")));
+        QCOMPARE(state.error().recoverySuggestion(),
+                 QStringLiteral("Check if you have enough disk space and try again."));
+    }
+
+    void unusableHistoryFolderReportsLoadFailureAndStaysUsable() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        testing::writeFile(home.path() + QStringLiteral("/blocker"), 1);
+        PersistenceService store(home.path() + QStringLiteral("/blocker"));
+        AppState state(store);
+
+        QCOMPARE(state.scanHistory()->count(), 0);
+        QVERIFY(state.error().errorDescription().startsWith(
+            QStringLiteral("Failed to load: Storage directory not accessible")));
+
+        // A pending error stays through a new scan until the save replaces it.
+        state.startScan(folder.path());
+        QVERIFY(state.error().errorDescription().startsWith(QStringLiteral("Failed to load: ")));
+        settle(state);
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QVERIFY(state.error().errorDescription().startsWith(
+            QStringLiteral("Failed to save: Storage directory not accessible")));
+    }
+
+    void deletingTheResultOnDisplayKeepsItOnDisplay() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        PersistenceService store(home.path());
+        const AnalysisResult older =
+            storedResult(QStringLiteral("/data/older"), QDateTime(QDate(2024, 1, 1), {}, Qt::UTC));
+        QVERIFY(!store.save(older));
+        AppState state(store);
+        state.startScan(folder.path());
+        settle(state);
+        QCOMPARE(state.scanHistory()->count(), 2);
+
+        const ResultHandle shown = state.currentResult();
+        state.deleteScan(shown);
+        QCOMPARE(state.currentResult().id(), shown.id());
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QCOMPARE(state.scanHistory()->count(), 1);
+        QCOMPARE(state.scanHistory()->at(0).get()->id, older.id);
+        QCOMPARE(historyFiles(store).size(), 1);
+        QVERIFY(!state.error().present());
+    }
+
+    void historyLoadsNewestFirstAndSkipsBrokenFiles() {
+        QTemporaryDir home;
+        PersistenceService store(home.path());
+        const AnalysisResult old =
+            storedResult(QStringLiteral("/a/old"), QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
+        const AnalysisResult recent =
+            storedResult(QStringLiteral("/a/recent"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
+        QVERIFY(!store.save(old));
+        QVERIFY(!store.save(recent));
+        QFile broken(store.storagePath() +
+                     QStringLiteral("/scan_00000000-0000-0000-0000-000000000001.json"));
+        QVERIFY(broken.open(QIODevice::WriteOnly));
+        broken.write("{ not json");
+        broken.close();
+
+        AppState state(store);
+        QVERIFY(!state.error().present());
+        QCOMPARE(state.scanHistory()->count(), 2);
+        QCOMPARE(state.scanHistory()->at(0).get()->id, recent.id);
+        QCOMPARE(state.scanHistory()->at(1).get()->id, old.id);
+        QCOMPARE(state.currentView(), AppState::Landing);
+    }
+};
+
+QTEST_GUILESS_MAIN(AppStateTest)
+#include "AppStateTest.moc"
