@@ -122,8 +122,7 @@ void DirectoryWalkerTest::keepsOddNamesAsBytes() {
     QTemporaryDir dir;
     const QList<QByteArray> names{"with space.txt", "quote\"and'apostrophe", "new\nline",
                                   "bad-\xff\xfe-utf8.bin", "tab\there"};
-    for (const QByteArray& name : names)
-        writeRawNamedFile(dir.path(), name, 3);
+    const RawNamedFiles files(dir.path(), names, 3);
 
     QList<QByteArray> seen;
     for (const WalkedItem& item : cursorItems(walk(dir.path()))) {
@@ -139,25 +138,23 @@ void DirectoryWalkerTest::keepsOddNamesAsBytes() {
 void DirectoryWalkerTest::walksChainDeeperThanPathMax() {
     QTemporaryDir dir;
     const int depth = 10000;
-    makeFolderChain(dir.path(), depth);
+    const FolderChain chain(dir.path(), depth);
 
-    {
-        const DirectoryListing listing = walk(dir.path());
-        QCOMPARE(listing.itemCount(), depth + 1);
-        QCOMPARE(listing.folderCount(), depth);
-        ListingCursor cursor(listing);
-        qint64 deepest = 0;
-        QByteArray leafPath;
-        while (cursor.next()) {
-            deepest = std::max(deepest, cursor.depth());
-            if (cursor.entry().kind() == EntryKind::file)
-                leafPath = cursor.entryPath();
-        }
-        QCOMPARE(deepest, depth + 1);
-        QVERIFY(leafPath.size() > PATH_MAX);
-        QVERIFY(leafPath.endsWith("/d/d/leaf.txt"));
-    } // the listing is released here, without recursion
-    removeFolderChain(dir.path());
+    // The listing goes before the chain does, released without recursion.
+    const DirectoryListing listing = walk(dir.path());
+    QCOMPARE(listing.itemCount(), depth + 1);
+    QCOMPARE(listing.folderCount(), depth);
+    ListingCursor cursor(listing);
+    qint64 deepest = 0;
+    QByteArray leafPath;
+    while (cursor.next()) {
+        deepest = std::max(deepest, cursor.depth());
+        if (cursor.entry().kind() == EntryKind::file)
+            leafPath = cursor.entryPath();
+    }
+    QCOMPARE(deepest, depth + 1);
+    QVERIFY(leafPath.size() > PATH_MAX);
+    QVERIFY(leafPath.endsWith("/d/d/leaf.txt"));
 }
 
 void DirectoryWalkerTest::handlesMissingAndSymlinkedRoots() {

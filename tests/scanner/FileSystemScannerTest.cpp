@@ -87,9 +87,9 @@ void FileSystemScannerTest::scansOneFile() {
 void FileSystemScannerTest::failsOnFoldersWithNothingToCount() {
     QTemporaryDir dir;
     QDir(dir.path()).mkpath("empty");
-    writeFile(dir.path() + "/hidden-only/.secret", 10);
-    writeFile(dir.path() + "/hidden-only/.cache/data.bin", 10);
-    writeFile(dir.path() + "/plain-file", 10);
+    writeFiles(
+        dir.path(),
+        {{"hidden-only/.secret", 10}, {"hidden-only/.cache/data.bin", 10}, {"plain-file", 10}});
 
     for (const char* name : {"empty", "hidden-only", "missing", "plain-file"}) {
         const QString path = dir.path() + "/" + name;
@@ -127,11 +127,11 @@ void FileSystemScannerTest::countsNeitherHiddenItemsNorPackageContentsNorLinks()
     writeFile(outside.path() + "/big.iso", 1'000'000);
     QTemporaryDir dir;
     const QString root = dir.path();
-    writeFile(root + "/.hidden-file", 100);
-    writeFile(root + "/.hidden-folder/inside.txt", 100);
-    writeFile(root + "/Editor.app/Contents/MacOS/editor", 5000);
-    writeFile(root + "/docs/readme.md", 7);
-    writeFile(root + "/docs/deeper/archive.TAR", 20);
+    writeFiles(root, {{".hidden-file", 100},
+                      {".hidden-folder/inside.txt", 100},
+                      {"Editor.app/Contents/MacOS/editor", 5000},
+                      {"docs/readme.md", 7},
+                      {"docs/deeper/archive.TAR", 20}});
     QVERIFY(QFile::link(outside.path() + "/big.iso", root + "/link-to-big.iso"));
     QVERIFY(QFile::link(outside.path(), root + "/docs/link-to-folder"));
 
@@ -156,8 +156,7 @@ void FileSystemScannerTest::keepsOddNamesReadable() {
     const QList<QByteArray> names{"with space.txt", "quote\"and'apostrophe.Md",
                                   "new\nline.txt",  "bad-\xff\xfe.\xfe",
                                   "trailing-dot.",  "ümlaut.JPEG"};
-    for (qsizetype i = 0; i < names.size(); ++i)
-        writeRawNamedFile(dir.path(), names[i], 10 + i);
+    const RawNamedFiles files(dir.path(), names, 10, 1);
 
     const AnalysisResult result = recordScan(dir.path()).result();
 
@@ -177,20 +176,18 @@ void FileSystemScannerTest::keepsOddNamesReadable() {
 void FileSystemScannerTest::scansChainDeeperThanPathMax() {
     QTemporaryDir dir;
     const int depth = 10000;
-    makeFolderChain(dir.path(), depth);
+    const FolderChain chain(dir.path(), depth);
 
-    {
-        const AnalysisResult result = recordScan(dir.path()).result();
-        QCOMPARE(result.folderCount, depth);
-        QCOMPARE(result.fileCount, 1);
-        QCOMPARE(result.maxDepth, depth + 1);
-        QCOMPARE(qint64(result.depthDistribution.size()), depth + 1);
-        const FileInfo& leaf = result.largestFiles.front();
-        QCOMPARE(leaf.depth, depth + 1);
-        QVERIFY(leaf.path.size() > PATH_MAX);
-        QVERIFY(leaf.path.endsWith("/d/d/leaf.txt"));
-    }
-    removeFolderChain(dir.path());
+    const AnalysisResult result = recordScan(dir.path()).result();
+
+    QCOMPARE(result.folderCount, depth);
+    QCOMPARE(result.fileCount, 1);
+    QCOMPARE(result.maxDepth, depth + 1);
+    QCOMPARE(qint64(result.depthDistribution.size()), depth + 1);
+    const FileInfo& leaf = result.largestFiles.front();
+    QCOMPARE(leaf.depth, depth + 1);
+    QVERIFY(leaf.path.size() > PATH_MAX);
+    QVERIFY(leaf.path.endsWith("/d/d/leaf.txt"));
 }
 
 QTEST_GUILESS_MAIN(FileSystemScannerTest)

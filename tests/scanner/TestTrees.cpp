@@ -33,6 +33,11 @@ QString writeFile(const QString& path, qint64 size) {
     return path;
 }
 
+void writeFiles(const QString& root, std::initializer_list<std::pair<const char*, qint64>> files) {
+    for (const auto& [path, size] : files)
+        writeFile(root + '/' + QString::fromUtf8(path), size);
+}
+
 void writeRawNamedFile(const QString& folder, const QByteArray& name, qint64 size) {
     const QByteArray path = QFile::encodeName(folder) + '/' + name;
     const int fd = ::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
@@ -40,6 +45,24 @@ void writeRawNamedFile(const QString& folder, const QByteArray& name, qint64 siz
     const QByteArray content(size, 'x');
     require(::write(fd, content.constData(), std::size_t(size)) == size, "cannot fill file");
     ::close(fd);
+}
+
+void removeRawNamedFile(const QString& folder, const QByteArray& name) {
+    const QByteArray path = QFile::encodeName(folder) + '/' + name;
+    require(::unlink(path.constData()) == 0, "cannot remove raw-named file");
+}
+
+RawNamedFiles::RawNamedFiles(const QString& folder, const QList<QByteArray>& names,
+                             qint64 firstSize, qint64 sizeStep)
+    : m_folder(folder)
+    , m_names(names) {
+    for (qsizetype i = 0; i < names.size(); ++i)
+        writeRawNamedFile(folder, names[i], firstSize + i * sizeStep);
+}
+
+RawNamedFiles::~RawNamedFiles() {
+    for (const QByteArray& name : m_names)
+        removeRawNamedFile(m_folder, name);
 }
 
 void makeFolderChain(const QString& root, int depth, const char* name) {
