@@ -23,8 +23,7 @@ constexpr std::array<ByteUnit, 6> units = {{
     {"EB", 2},
 }};
 
-constexpr quint64 powerOfTen(int exponent)
-{
+constexpr quint64 powerOfTen(int exponent) {
     quint64 power = 1;
     for (int i = 0; i < exponent; ++i)
         power *= 10;
@@ -33,16 +32,14 @@ constexpr quint64 powerOfTen(int exponent)
 
 // The magnitude in steps of the unit's last shown decimal, rounded half up. Integer arithmetic
 // keeps values such as 1,005,000,000 bytes from rounding the wrong way through a binary double.
-quint64 roundedSteps(quint64 magnitude, quint64 unitBytes, int decimals)
-{
+quint64 roundedSteps(quint64 magnitude, quint64 unitBytes, int decimals) {
     const quint64 step = unitBytes / powerOfTen(decimals);
     return magnitude / step + ((magnitude % step) * 2 >= step ? 1 : 0);
 }
 
 } // namespace
 
-QString byteCount(qint64 bytes)
-{
+QString byteCount(qint64 bytes) {
     if (bytes == 0)
         return QStringLiteral("Zero KB");
     const QLocale locale;

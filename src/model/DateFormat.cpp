@@ -3,21 +3,20 @@
 #include <QLocale>
 #include <QRegularExpression>
 
-
 namespace tessarine::format {
 
 namespace {
 
 // Qt offers no medium date style; the locale's long style without its weekday and with the
 // month abbreviated is what a medium style looks like ("MMM d, yyyy" in US English).
-QString mediumDateFormat(const QLocale& locale)
-{
+QString mediumDateFormat(const QLocale& locale) {
     static const QRegularExpression weekday(QStringLiteral("[,\\s]*dddd[,.]?\\s*"));
     QString pattern = locale.dateFormat(QLocale::LongFormat);
     const auto weekdayAt = weekday.match(pattern);
     if (weekdayAt.hasMatch()) {
         // A weekday in the middle must still leave a space between its neighbours.
-        const bool inside = weekdayAt.capturedStart() > 0 && weekdayAt.capturedEnd() < pattern.size();
+        const bool inside =
+            weekdayAt.capturedStart() > 0 && weekdayAt.capturedEnd() < pattern.size();
         pattern.replace(weekdayAt.capturedStart(), weekdayAt.capturedLength(),
                         inside ? QStringLiteral(" ") : QString());
     }
@@ -32,8 +31,7 @@ struct RelativeUnit {
 
 // Whole calendar months from earlier to later, counting a month only once its day and time of
 // day are reached again.
-qint64 wholeMonthsBetween(const QDateTime& earlier, const QDateTime& later)
-{
+qint64 wholeMonthsBetween(const QDateTime& earlier, const QDateTime& later) {
     const QDate from = earlier.date();
     const QDate to = later.date();
     qint64 months = qint64(to.year() - from.year()) * 12 + (to.month() - from.month());
@@ -43,8 +41,7 @@ qint64 wholeMonthsBetween(const QDateTime& earlier, const QDateTime& later)
 }
 
 // The largest unit that fits at least once, as an abbreviated calendar distance does.
-RelativeUnit relativeUnit(const QDateTime& earlier, const QDateTime& later)
-{
+RelativeUnit relativeUnit(const QDateTime& earlier, const QDateTime& later) {
     const qint64 seconds = earlier.secsTo(later);
     if (seconds < 60)
         return {seconds, QStringLiteral("sec."), QStringLiteral("sec.")};
@@ -65,8 +62,9 @@ RelativeUnit relativeUnit(const QDateTime& earlier, const QDateTime& later)
 
 } // namespace
 
-QString absoluteDate(const QDateTime& date)
-{
+QString absoluteDate(const QDateTime& date) {
+    if (!date.isValid())
+        return missing();
     const QLocale locale;
     const QDateTime local = date.toLocalTime();
     const QString joiner =
@@ -75,8 +73,7 @@ QString absoluteDate(const QDateTime& date)
            locale.toString(local.time(), QLocale::ShortFormat);
 }
 
-QString relativeDate(const QDateTime& date, const QDateTime& now)
-{
+QString relativeDate(const QDateTime& date, const QDateTime& now) {
     const bool past = date < now;
     const RelativeUnit unit = past ? relativeUnit(date, now) : relativeUnit(now, date);
     const QString amount =
@@ -84,8 +81,7 @@ QString relativeDate(const QDateTime& date, const QDateTime& now)
     return past ? amount + QStringLiteral(" ago") : QStringLiteral("in ") + amount;
 }
 
-QString clockTime(const QDateTime& date)
-{
+QString clockTime(const QDateTime& date) {
     return date.toLocalTime().toString(QStringLiteral("HH:mm:ss"));
 }
 

@@ -8,8 +8,7 @@ namespace tessarine::format {
 namespace {
 
 // Whole seconds, truncated toward zero, safe for any double.
-qint64 wholeSeconds(double seconds)
-{
+qint64 wholeSeconds(double seconds) {
     if (std::isnan(seconds))
         return 0;
     constexpr double limit = double(std::numeric_limits<qint64>::max());
@@ -20,16 +19,14 @@ qint64 wholeSeconds(double seconds)
 }
 
 // "2m 5s": whole minutes and the leftover seconds, neither padded.
-QString minutesAndSeconds(double seconds)
-{
+QString minutesAndSeconds(double seconds) {
     const qint64 whole = wholeSeconds(seconds);
     return QStringLiteral("%1m %2s").arg(whole / 60).arg(whole - 60 * (whole / 60));
 }
 
 } // namespace
 
-QString duration(double seconds)
-{
+QString duration(double seconds) {
     if (seconds < 1)
         return QString::asprintf("%.0f ms", seconds * 1000);
     if (seconds < 60)
@@ -37,8 +34,7 @@ QString duration(double seconds)
     return minutesAndSeconds(seconds);
 }
 
-QString compactDuration(double seconds)
-{
+QString compactDuration(double seconds) {
     if (seconds < 1)
         return QStringLiteral("< 1s");
     if (seconds < 60)

@@ -6,33 +6,29 @@ namespace tessarine {
 
 namespace {
 
-const std::array<QString, 12> categoryNames = {
-    QStringLiteral("Images"),       QStringLiteral("Videos"),      QStringLiteral("Audio"),
-    QStringLiteral("Documents"),    QStringLiteral("Code"),        QStringLiteral("Archives"),
-    QStringLiteral("Applications"), QStringLiteral("System"),      QStringLiteral("Data"),
-    QStringLiteral("Fonts"),        QStringLiteral("3D & Design"), QStringLiteral("Other"),
+constexpr std::array<QStringView, 12> categoryNames = {
+    u"Images",       u"Videos", u"Audio", u"Documents", u"Code",        u"Archives",
+    u"Applications", u"System", u"Data",  u"Fonts",     u"3D & Design", u"Other",
 };
 
-const std::array<QString, 12> categoryIcons = {
-    QStringLiteral("photo.stack"),
-    QStringLiteral("film.stack"),
-    QStringLiteral("waveform"),
-    QStringLiteral("doc.text"),
-    QStringLiteral("chevron.left.forwardslash.chevron.right"),
-    QStringLiteral("archivebox"),
-    QStringLiteral("app.badge"),
-    QStringLiteral("gearshape"),
-    QStringLiteral("cylinder"),
-    QStringLiteral("textformat"),
-    QStringLiteral("cube"),
-    QStringLiteral("questionmark.folder"),
+constexpr std::array<QStringView, 12> categoryIcons = {
+    u"photo.stack",
+    u"film.stack",
+    u"waveform",
+    u"doc.text",
+    u"chevron.left.forwardslash.chevron.right",
+    u"archivebox",
+    u"app.badge",
+    u"gearshape",
+    u"cylinder",
+    u"textformat",
+    u"cube",
+    u"questionmark.folder",
 };
 
-const std::array<QString, 12> categoryColors = {
-    QStringLiteral("pink"),   QStringLiteral("purple"), QStringLiteral("orange"),
-    QStringLiteral("blue"),   QStringLiteral("green"),  QStringLiteral("yellow"),
-    QStringLiteral("red"),    QStringLiteral("gray"),   QStringLiteral("cyan"),
-    QStringLiteral("indigo"), QStringLiteral("mint"),   QStringLiteral("secondary"),
+constexpr std::array<QStringView, 12> categoryColors = {
+    u"pink", u"purple", u"orange", u"blue",   u"green", u"yellow",
+    u"red",  u"gray",   u"cyan",   u"indigo", u"mint",  u"secondary",
 };
 
 } // namespace

@@ -6,11 +6,9 @@ namespace tessarine {
 
 namespace {
 
-const std::array<QString, 12> colorNames = {
-    QStringLiteral("blue"),   QStringLiteral("green"),  QStringLiteral("teal"),
-    QStringLiteral("orange"), QStringLiteral("pink"),   QStringLiteral("purple"),
-    QStringLiteral("red"),    QStringLiteral("yellow"), QStringLiteral("brown"),
-    QStringLiteral("indigo"), QStringLiteral("mint"),   QStringLiteral("cyan"),
+constexpr std::array<QStringView, 12> colorNames = {
+    u"blue", u"green",  u"teal",  u"orange", u"pink", u"purple",
+    u"red",  u"yellow", u"brown", u"indigo", u"mint", u"cyan",
 };
 
 } // namespace

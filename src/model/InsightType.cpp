@@ -6,10 +6,9 @@ namespace tessarine {
 
 namespace {
 
-const std::array<QString, 6> insightNames = {
-    QStringLiteral("Node Modules"),  QStringLiteral("Duplicate Names"),
-    QStringLiteral("Old Files"),     QStringLiteral("Large Cache"),
-    QStringLiteral("Empty Folders"), QStringLiteral("Hidden Files"),
+constexpr std::array<QStringView, 6> insightNames = {
+    u"Node Modules", u"Duplicate Names", u"Old Files",
+    u"Large Cache",  u"Empty Folders",   u"Hidden Files",
 };
 
 } // namespace

@@ -24,7 +24,8 @@ std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* err
 
 // "2024-03-05T14:07:09Z": UTC, no fractional seconds (they are dropped).
 QString formatDate(const QDateTime& date);
-// Accepts exactly the form formatDate writes; anything else (fractions, offsets) is nullopt.
+// Accepts the form formatDate writes, and the same with a "+01:00"-style offset in place of the Z;
+// anything else (fractions, a missing zone, a space for the T) is nullopt.
 std::optional<QDateTime> parseDate(QStringView text);
 
 } // namespace tessarine::json

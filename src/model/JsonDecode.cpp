@@ -18,8 +18,7 @@ struct DecodeFailure {
     QString message;
 };
 
-[[noreturn]] void fail(const QString& where, const QString& problem)
-{
+[[noreturn]] void fail(const QString& where, const QString& problem) {
     throw DecodeFailure{where.isEmpty() ? problem : where + QStringLiteral(": ") + problem};
 }
 
@@ -27,42 +26,36 @@ struct DecodeFailure {
 class ObjectReader {
 public:
     ObjectReader(const QJsonValue& value, QString where)
-        : where(std::move(where))
-    {
+        : where(std::move(where)) {
         if (!value.isObject())
             fail(this->where, QStringLiteral("expected an object"));
         json = value.toObject();
     }
 
-    QString pathOf(QStringView name) const
-    {
+    QString pathOf(QStringView name) const {
         return where.isEmpty() ? name.toString() : where + QLatin1Char('.') + name.toString();
     }
 
-    QJsonValue member(QStringView name) const
-    {
+    QJsonValue member(QStringView name) const {
         const QJsonValue value = json.value(name);
         if (value.isUndefined())
             fail(pathOf(name), QStringLiteral("missing member"));
         return value;
     }
 
-    bool isAbsentOrNull(QStringView name) const
-    {
+    bool isAbsentOrNull(QStringView name) const {
         const QJsonValue value = json.value(name);
         return value.isUndefined() || value.isNull();
     }
 
-    QString string(QStringView name) const
-    {
+    QString string(QStringView name) const {
         const QJsonValue value = member(name);
         if (!value.isString())
             fail(pathOf(name), QStringLiteral("expected a string"));
         return value.toString();
     }
 
-    qint64 integer(QStringView name) const
-    {
+    qint64 integer(QStringView name) const {
         const QJsonValue value = member(name);
         // toInteger() answers its fallback for anything that is not an exactly representable
         // whole number; two different fallbacks tell that case apart from a genuine value.
@@ -72,24 +65,21 @@ public:
         return result;
     }
 
-    double number(QStringView name) const
-    {
+    double number(QStringView name) const {
         const QJsonValue value = member(name);
         if (!value.isDouble())
             fail(pathOf(name), QStringLiteral("expected a number"));
         return value.toDouble();
     }
 
-    bool boolean(QStringView name) const
-    {
+    bool boolean(QStringView name) const {
         const QJsonValue value = member(name);
         if (!value.isBool())
             fail(pathOf(name), QStringLiteral("expected true or false"));
         return value.toBool();
     }
 
-    QUuid uuid(QStringView name) const
-    {
+    QUuid uuid(QStringView name) const {
         const QString text = string(name);
         const QUuid id = QUuid::fromString(text);
         // fromString also takes braces; only the bare 8-4-4-4-12 form is accepted here.
@@ -99,8 +89,7 @@ public:
         return id;
     }
 
-    QDateTime date(QStringView name) const
-    {
+    QDateTime date(QStringView name) const {
         const QString text = string(name);
         const std::optional<QDateTime> date = parseDate(text);
         if (!date)
@@ -109,8 +98,7 @@ public:
         return *date;
     }
 
-    template <typename E> E enumeration(QStringView name) const
-    {
+    template <typename E> E enumeration(QStringView name) const {
         const QString text = string(name);
         const std::optional<E> value = fromRawValue<E>(text);
         if (!value)
@@ -118,8 +106,7 @@ public:
         return *value;
     }
 
-    QJsonArray array(QStringView name) const
-    {
+    QJsonArray array(QStringView name) const {
         const QJsonValue value = member(name);
         if (!value.isArray())
             fail(pathOf(name), QStringLiteral("expected an array"));
@@ -130,8 +117,7 @@ public:
 
     QStringList keys() const { return json.keys(); }
 
-    QStringList strings(QStringView name) const
-    {
+    QStringList strings(QStringView name) const {
         const QJsonArray values = array(name);
         QStringList result;
         result.reserve(values.size());
@@ -144,8 +130,7 @@ public:
     }
 
     template <typename Record>
-    QList<Record> list(QStringView name, Record (*read)(const ObjectReader&)) const
-    {
+    QList<Record> list(QStringView name, Record (*read)(const ObjectReader&)) const {
         const QJsonArray values = array(name);
         QList<Record> result;
         result.reserve(values.size());
@@ -154,8 +139,7 @@ public:
         return result;
     }
 
-    QString itemPath(QStringView name, qsizetype index) const
-    {
+    QString itemPath(QStringView name, qsizetype index) const {
         return pathOf(name) + QLatin1Char('[') + QString::number(index) + QLatin1Char(']');
     }
 
@@ -164,8 +148,7 @@ private:
     QJsonObject json;
 };
 
-CategoryStats readCategoryStats(const ObjectReader& in)
-{
+CategoryStats readCategoryStats(const ObjectReader& in) {
     const QStringList extensions = in.strings(u"extensions");
     return {.id = in.uuid(u"id"),
             .category = in.enumeration<FileCategory>(u"category"),
@@ -174,15 +157,13 @@ CategoryStats readCategoryStats(const ObjectReader& in)
             .extensions = QSet<QString>(extensions.begin(), extensions.end())};
 }
 
-DepthStats readDepthStats(const ObjectReader& in)
-{
+DepthStats readDepthStats(const ObjectReader& in) {
     return {.fileCount = in.integer(u"fileCount"),
             .folderCount = in.integer(u"folderCount"),
             .totalSize = in.integer(u"totalSize")};
 }
 
-ExtensionStats readExtensionStats(const ObjectReader& in)
-{
+ExtensionStats readExtensionStats(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .ext = in.string(u"ext"),
             .category = in.enumeration<FileCategory>(u"category"),
@@ -190,8 +171,7 @@ ExtensionStats readExtensionStats(const ObjectReader& in)
             .totalSize = in.integer(u"totalSize")};
 }
 
-PatternInsight readInsight(const ObjectReader& in)
-{
+PatternInsight readInsight(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .type = in.enumeration<InsightType>(u"type"),
             .title = in.string(u"title"),
@@ -201,8 +181,7 @@ PatternInsight readInsight(const ObjectReader& in)
             .paths = in.strings(u"paths")};
 }
 
-FileInfo readFileInfo(const ObjectReader& in)
-{
+FileInfo readFileInfo(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .path = in.string(u"path"),
             .name = in.string(u"name"),
@@ -215,8 +194,7 @@ FileInfo readFileInfo(const ObjectReader& in)
 }
 
 // Recursion is bounded here: Qt's parser rejects documents nested deeper than 1024 levels.
-FolderInfo readFolder(const ObjectReader& in)
-{
+FolderInfo readFolder(const ObjectReader& in) {
     const QList<FolderInfo> children = in.list(u"childFolders", readFolder);
     return {.id = in.uuid(u"id"),
             .path = in.string(u"path"),
@@ -228,8 +206,7 @@ FolderInfo readFolder(const ObjectReader& in)
             .color = in.enumeration<FolderColor>(u"color")};
 }
 
-std::map<qint64, DepthStats> readDepthDistribution(const ObjectReader& in)
-{
+std::map<qint64, DepthStats> readDepthDistribution(const ObjectReader& in) {
     std::map<qint64, DepthStats> distribution;
     for (const QString& name : in.keys()) {
         bool isNumber = false;
@@ -241,16 +218,14 @@ std::map<qint64, DepthStats> readDepthDistribution(const ObjectReader& in)
     return distribution;
 }
 
-QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in)
-{
+QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in) {
     QHash<QString, ExtensionStats> extensions;
     for (const QString& name : in.keys())
         extensions.insert(name, readExtensionStats(in.object(name)));
     return extensions;
 }
 
-AnalysisResult readResult(const ObjectReader& in)
-{
+AnalysisResult readResult(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .scanDate = in.date(u"scanDate"),
             .rootPath = in.string(u"rootPath"),
@@ -272,8 +247,7 @@ AnalysisResult readResult(const ObjectReader& in)
 
 } // namespace
 
-std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error)
-{
+std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error) {
     QJsonParseError parseError;
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
     try {

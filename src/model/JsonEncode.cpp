@@ -10,24 +10,39 @@ namespace tessarine::json {
 // sorted; maps sort their keys at run time.
 namespace {
 
-void writeId(JsonWriter& writer, const QUuid& id)
-{
+QString memberName(const QString& key) {
+    return key;
+}
+
+QString memberName(qint64 depth) {
+    return QString::number(depth);
+}
+
+const std::map<qint64, DepthStats>& keyValuePairs(const std::map<qint64, DepthStats>& map) {
+    return map;
+}
+
+auto keyValuePairs(const QHash<QString, ExtensionStats>& map) {
+    return map.asKeyValueRange();
+}
+
+void writeId(JsonWriter& writer, const QUuid& id) {
     writer.key(u"id");
     writer.writeString(id.toString(QUuid::WithoutBraces).toUpper());
 }
 
-void writeDate(JsonWriter& writer, const QDateTime& date) { writer.writeString(formatDate(date)); }
+void writeDate(JsonWriter& writer, const QDateTime& date) {
+    writer.writeString(formatDate(date));
+}
 
-void writeStrings(JsonWriter& writer, const QStringList& strings)
-{
+void writeStrings(JsonWriter& writer, const QStringList& strings) {
     writer.beginArray();
     for (const QString& text : strings)
         writer.writeString(text);
     writer.endArray();
 }
 
-void writeCategoryStats(JsonWriter& writer, const CategoryStats& stats)
-{
+void writeCategoryStats(JsonWriter& writer, const CategoryStats& stats) {
     writer.beginObject();
     writer.key(u"category");
     writer.writeString(rawValue(stats.category));
@@ -44,8 +59,7 @@ void writeCategoryStats(JsonWriter& writer, const CategoryStats& stats)
     writer.endObject();
 }
 
-void writeDepthStats(JsonWriter& writer, const DepthStats& stats)
-{
+void writeDepthStats(JsonWriter& writer, const DepthStats& stats) {
     writer.beginObject();
     writer.key(u"fileCount");
     writer.writeInteger(stats.fileCount);
@@ -56,25 +70,7 @@ void writeDepthStats(JsonWriter& writer, const DepthStats& stats)
     writer.endObject();
 }
 
-void writeDepthDistribution(JsonWriter& writer, const std::map<qint64, DepthStats>& distribution)
-{
-    // Member names are decimal text, so they sort as text ("10" before "2").
-    std::vector<std::pair<QString, const DepthStats*>> members;
-    members.reserve(distribution.size());
-    for (const auto& [depth, stats] : distribution)
-        members.emplace_back(QString::number(depth), &stats);
-    std::sort(members.begin(), members.end(),
-              [](const auto& a, const auto& b) { return a.first < b.first; });
-    writer.beginObject();
-    for (const auto& [name, stats] : members) {
-        writer.key(name);
-        writeDepthStats(writer, *stats);
-    }
-    writer.endObject();
-}
-
-void writeExtensionStats(JsonWriter& writer, const ExtensionStats& stats)
-{
+void writeExtensionStats(JsonWriter& writer, const ExtensionStats& stats) {
     writer.beginObject();
     writer.key(u"category");
     writer.writeString(rawValue(stats.category));
@@ -88,20 +84,32 @@ void writeExtensionStats(JsonWriter& writer, const ExtensionStats& stats)
     writer.endObject();
 }
 
-void writeExtensionMap(JsonWriter& writer, const QHash<QString, ExtensionStats>& extensions)
-{
-    QStringList names = extensions.keys();
-    names.sort();
+// A map as one object whose member names sort by their UTF-8 bytes, the order of Foundation's
+// sorted-keys output: depth 10 comes before depth 2, and the empty extension comes first.
+template <typename Map, typename WriteValue>
+void writeMap(JsonWriter& writer, const Map& map, WriteValue writeValue) {
+    struct Member {
+        QString name;
+        QByteArray order;
+        const typename Map::mapped_type* value;
+    };
+    std::vector<Member> members;
+    members.reserve(std::size_t(map.size()));
+    for (const auto& [key, value] : keyValuePairs(map)) {
+        const QString name = memberName(key);
+        members.push_back({name, name.toUtf8(), &value});
+    }
+    std::sort(members.begin(), members.end(),
+              [](const Member& a, const Member& b) { return a.order < b.order; });
     writer.beginObject();
-    for (const QString& name : names) {
-        writer.key(name);
-        writeExtensionStats(writer, extensions[name]);
+    for (const Member& member : members) {
+        writer.key(member.name);
+        writeValue(writer, *member.value);
     }
     writer.endObject();
 }
 
-void writeFileInfo(JsonWriter& writer, const FileInfo& file)
-{
+void writeFileInfo(JsonWriter& writer, const FileInfo& file) {
     writer.beginObject();
     writer.key(u"category");
     writer.writeString(rawValue(file.category));
@@ -123,8 +131,7 @@ void writeFileInfo(JsonWriter& writer, const FileInfo& file)
     writer.endObject();
 }
 
-void writeInsight(JsonWriter& writer, const PatternInsight& insight)
-{
+void writeInsight(JsonWriter& writer, const PatternInsight& insight) {
     writer.beginObject();
     writer.key(u"affectedCount");
     writer.writeInteger(insight.affectedCount);
@@ -143,8 +150,7 @@ void writeInsight(JsonWriter& writer, const PatternInsight& insight)
 }
 
 // The members that follow "childFolders", once the children are written.
-void writeFolderTail(JsonWriter& writer, const FolderInfo& folder)
-{
+void writeFolderTail(JsonWriter& writer, const FolderInfo& folder) {
     writer.key(u"color");
     writer.writeString(rawValue(folder.color));
     writer.key(u"depth");
@@ -162,8 +168,7 @@ void writeFolderTail(JsonWriter& writer, const FolderInfo& folder)
 
 // Depth first with an explicit stack: a folder's children come first in its object ("childFolders"
 // sorts first), so each folder is opened, its children written, and then it is closed.
-void writeFolderTree(JsonWriter& writer, const FolderInfo& root)
-{
+void writeFolderTree(JsonWriter& writer, const FolderInfo& root) {
     struct OpenFolder {
         const FolderInfo* folder;
         std::size_t nextChild;
@@ -191,8 +196,7 @@ void writeFolderTree(JsonWriter& writer, const FolderInfo& root)
 }
 
 template <typename Record, typename WriteOne>
-void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeOne)
-{
+void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeOne) {
     writer.beginArray();
     for (const Record& record : records)
         writeOne(writer, record);
@@ -201,16 +205,15 @@ void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeO
 
 } // namespace
 
-QByteArray encode(const AnalysisResult& result)
-{
+QByteArray encode(const AnalysisResult& result) {
     JsonWriter writer;
     writer.beginObject();
     writer.key(u"categoryBreakdown");
     writeList(writer, result.categoryBreakdown, writeCategoryStats);
     writer.key(u"depthDistribution");
-    writeDepthDistribution(writer, result.depthDistribution);
+    writeMap(writer, result.depthDistribution, writeDepthStats);
     writer.key(u"extensionStats");
-    writeExtensionMap(writer, result.extensionStats);
+    writeMap(writer, result.extensionStats, writeExtensionStats);
     writer.key(u"fileCount");
     writer.writeInteger(result.fileCount);
     writer.key(u"folderCount");
@@ -240,8 +243,7 @@ QByteArray encode(const AnalysisResult& result)
     return writer.take();
 }
 
-QByteArray encode(const FolderInfo& folder)
-{
+QByteArray encode(const FolderInfo& folder) {
     JsonWriter writer;
     writeFolderTree(writer, folder);
     return writer.take();

@@ -9,15 +9,19 @@ namespace tessarine::json {
 
 namespace {
 
-constexpr int indentWidth = 4;
+// Laid out as Foundation's pretty-printing JSONEncoder lays out its output, so that a history file
+// written here and one written on a Mac look alike: two spaces per level, " : " after a name.
+constexpr int indentWidth = 2;
 
-const char* escapeFor(char c)
-{
+// Foundation also escapes '/' unless told not to; any reader takes both forms.
+const char* escapeFor(char c) {
     switch (c) {
     case '"':
         return "\\\"";
     case '\\':
         return "\\\\";
+    case '/':
+        return "\\/";
     case '\b':
         return "\\b";
     case '\f':
@@ -35,15 +39,13 @@ const char* escapeFor(char c)
 
 } // namespace
 
-void JsonWriter::newLine()
-{
+void JsonWriter::newLine() {
     out.append('\n');
     out.append(qsizetype(containerHasItems.size()) * indentWidth, ' ');
 }
 
 // Places the separator and line break owed before the next item of the current container.
-void JsonWriter::beginValue()
-{
+void JsonWriter::beginValue() {
     if (afterKey) {
         afterKey = false;
         return;
@@ -56,80 +58,82 @@ void JsonWriter::beginValue()
     newLine();
 }
 
-void JsonWriter::beginContainer(char open)
-{
+void JsonWriter::beginContainer(char open) {
     beginValue();
     out.append(open);
     containerHasItems.push_back(false);
 }
 
-void JsonWriter::endContainer(char close)
-{
-    const bool hadItems = containerHasItems.back();
+void JsonWriter::endContainer(char close) {
+    // An empty container still spans lines, with one blank line inside, as the platform's encoder
+    // writes it.
+    if (!containerHasItems.back())
+        out.append('\n');
     containerHasItems.pop_back();
-    if (hadItems)
-        newLine();
+    newLine();
     out.append(close);
 }
 
-void JsonWriter::beginObject() { beginContainer('{'); }
+void JsonWriter::beginObject() {
+    beginContainer('{');
+}
 
-void JsonWriter::endObject() { endContainer('}'); }
+void JsonWriter::endObject() {
+    endContainer('}');
+}
 
-void JsonWriter::beginArray() { beginContainer('['); }
+void JsonWriter::beginArray() {
+    beginContainer('[');
+}
 
-void JsonWriter::endArray() { endContainer(']'); }
+void JsonWriter::endArray() {
+    endContainer(']');
+}
 
-void JsonWriter::key(QStringView name)
-{
+void JsonWriter::key(QStringView name) {
     beginValue();
     appendQuoted(name);
-    out.append(": ");
+    out.append(" : ");
     afterKey = true;
 }
 
-void JsonWriter::appendQuoted(QStringView text)
-{
+void JsonWriter::appendQuoted(QStringView text) {
     out.append('"');
     for (const char c : text.toUtf8()) {
         if (const char* escape = escapeFor(c))
             out.append(escape);
         else if (uchar(c) < 0x20)
-            out.append(QByteArray("\\u00") + QByteArray::number(uchar(c), 16).rightJustified(2, '0'));
+            out.append(QByteArray("\\u00") +
+                       QByteArray::number(uchar(c), 16).rightJustified(2, '0'));
         else
             out.append(c);
     }
     out.append('"');
 }
 
-void JsonWriter::writeString(QStringView text)
-{
+void JsonWriter::writeString(QStringView text) {
     beginValue();
     appendQuoted(text);
 }
 
-void JsonWriter::writeInteger(qint64 value)
-{
+void JsonWriter::writeInteger(qint64 value) {
     beginValue();
     out.append(QByteArray::number(value));
 }
 
-void JsonWriter::writeNumber(double value)
-{
+void JsonWriter::writeNumber(double value) {
     beginValue();
     // JSON has no NaN or infinity; a broken duration must not make the whole result unreadable.
     out.append(std::isfinite(value) ? QByteArray::number(value, 'g', QLocale::FloatingPointShortest)
                                     : QByteArray("0"));
 }
 
-void JsonWriter::writeBool(bool value)
-{
+void JsonWriter::writeBool(bool value) {
     beginValue();
     out.append(value ? "true" : "false");
 }
 
-QByteArray JsonWriter::take()
-{
+QByteArray JsonWriter::take() {
     out.append('\n');
     return std::move(out);
 }

@@ -7,15 +7,15 @@
 
 namespace tessarine {
 
-QDateTime distantPast() { return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC); }
+QDateTime distantPast() {
+    return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC);
+}
 
-QString ExtensionStats::displayName() const
-{
+QString ExtensionStats::displayName() const {
     return ext.isEmpty() ? QStringLiteral("No Extension") : QLatin1Char('.') + ext;
 }
 
-std::vector<const FolderInfo*> FolderInfo::flattened() const
-{
+std::vector<const FolderInfo*> FolderInfo::flattened() const {
     std::vector<const FolderInfo*> order;
     std::vector<const FolderInfo*> pending{this};
     while (!pending.empty()) {
@@ -30,16 +30,13 @@ std::vector<const FolderInfo*> FolderInfo::flattened() const
     return order;
 }
 
-qint64 FolderInfo::directFilesSize() const
-{
-    return std::accumulate(childFolders.begin(), childFolders.end(), totalSize,
-                           [](qint64 rest, const FolderInfo& child) {
-                               return rest - child.totalSize;
-                           });
+qint64 FolderInfo::directFilesSize() const {
+    return std::accumulate(
+        childFolders.begin(), childFolders.end(), totalSize,
+        [](qint64 rest, const FolderInfo& child) { return rest - child.totalSize; });
 }
 
-QList<ExtensionStats> AnalysisResult::sortedExtensions() const
-{
+QList<ExtensionStats> AnalysisResult::sortedExtensions() const {
     QList<ExtensionStats> sorted = extensionStats.values();
     // Ties are broken by name so that the order does not change between runs.
     std::sort(sorted.begin(), sorted.end(), [](const ExtensionStats& a, const ExtensionStats& b) {
@@ -48,11 +45,12 @@ QList<ExtensionStats> AnalysisResult::sortedExtensions() const
     return sorted;
 }
 
-std::vector<std::pair<qint64, DepthStats>> AnalysisResult::sortedDepths() const
-{
+std::vector<std::pair<qint64, DepthStats>> AnalysisResult::sortedDepths() const {
     return {depthDistribution.begin(), depthDistribution.end()};
 }
 
-QString AnalysisResult::formattedDuration() const { return format::duration(scanDuration); }
+QString AnalysisResult::formattedDuration() const {
+    return format::duration(scanDuration);
+}
 
 } // namespace tessarine

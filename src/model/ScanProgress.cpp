@@ -9,51 +9,46 @@ namespace tessarine {
 
 namespace {
 
-const std::array<QString, 8> phaseNames = {
-    QStringLiteral("Initializing..."), QStringLiteral("Discovering files..."),
-    QStringLiteral("Analyzing files..."), QStringLiteral("Categorizing..."),
-    QStringLiteral("Finalizing..."), QStringLiteral("Complete"),
-    QStringLiteral("Cancelled"), QStringLiteral("Error"),
+constexpr std::array<QStringView, 8> phaseNames = {
+    u"Initializing...",    u"Discovering files...",
+    u"Analyzing files...", u"Categorizing...",
+    u"Finalizing...",      u"Complete",
+    u"Cancelled",          u"Error",
 };
 
 // Below this share of the work done, an extrapolation is mostly noise.
 constexpr double earliestEstimateFraction = 0.01;
 
-double secondsBetween(const QDateTime& start, const QDateTime& end)
-{
+double secondsBetween(const QDateTime& start, const QDateTime& end) {
     return double(start.msecsTo(end)) / 1000.0;
 }
 
 } // namespace
 
-const std::array<ScanPhase, 8>& allScanPhases()
-{
+const std::array<ScanPhase, 8>& allScanPhases() {
     static constexpr std::array<ScanPhase, 8> all = {
-        ScanPhase::initializing, ScanPhase::scanning, ScanPhase::analyzing,
-        ScanPhase::categorizing, ScanPhase::finalizing, ScanPhase::complete,
-        ScanPhase::cancelled,    ScanPhase::error,
+        ScanPhase::initializing, ScanPhase::scanning, ScanPhase::analyzing, ScanPhase::categorizing,
+        ScanPhase::finalizing,   ScanPhase::complete, ScanPhase::cancelled, ScanPhase::error,
     };
     return all;
 }
 
-QString rawValue(ScanPhase phase) { return rawValueAt(phaseNames, phase); }
+QString rawValue(ScanPhase phase) {
+    return rawValueAt(phaseNames, phase);
+}
 
-template <> std::optional<ScanPhase> fromRawValue<ScanPhase>(QStringView raw)
-{
+template <> std::optional<ScanPhase> fromRawValue<ScanPhase>(QStringView raw) {
     return caseWithRawValue<ScanPhase>(phaseNames, raw);
 }
 
-QString ScanProgress::formattedElapsedTime(const QDateTime& now) const
-{
+QString ScanProgress::formattedElapsedTime(const QDateTime& now) const {
     return format::compactDuration(secondsBetween(startTime, now));
 }
 
-std::optional<QString> ScanProgress::formattedRemainingTime(const QDateTime& now) const
-{
+std::optional<QString> ScanProgress::formattedRemainingTime(const QDateTime& now) const {
     if (!estimatedTotalFiles || *estimatedTotalFiles < 1)
         return std::nullopt;
-    const double fraction =
-        double(filesScanned + foldersScanned) / double(*estimatedTotalFiles);
+    const double fraction = double(filesScanned + foldersScanned) / double(*estimatedTotalFiles);
     if (fraction < 1 && fraction <= earliestEstimateFraction)
         return std::nullopt;
     // Counters can overtake the estimate when items appear during the scan; treat that as done.

@@ -1,0 +1,215 @@
+#include "SampleRecords.h"
+
+#include "model/Json.h"
+
+#include <QTest>
+
+using namespace tessarine;
+using namespace tessarine::testing;
+
+namespace {
+
+QUuid fixedId(int n) {
+    return QUuid::fromString(QStringLiteral("0a1b2c3d-4e5f-4a6b-8c7d-00000000000%1").arg(n));
+}
+
+AnalysisResult smallResult() {
+    AnalysisResult result;
+    result.id = fixedId(1);
+    // The milliseconds are not written.
+    result.scanDate = QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9, 987), Qt::UTC);
+    result.rootPath = QStringLiteral("/data/a b");
+    result.rootName = QStringLiteral("a b");
+    result.totalSize = 1500;
+    result.fileCount = 1;
+    result.folderCount = 2;
+    result.maxDepth = 10;
+    result.scanDuration = 0.5;
+    CategoryStats other;
+    other.id = fixedId(2);
+    other.fileCount = 1;
+    other.totalSize = 1500;
+    other.extensions = {QString()};
+    result.categoryBreakdown = {other};
+    FileInfo readme;
+    readme.id = fixedId(3);
+    readme.path = QStringLiteral("/data/a b/README");
+    readme.name = QStringLiteral("README");
+    readme.size = 1500;
+    readme.depth = 1;
+    readme.modificationDate = QDateTime(QDate(2023, 1, 2), QTime(3, 4, 5), Qt::UTC);
+    result.largestFiles = {readme};
+    result.depthDistribution = {{1, {1, 0, 1500}}, {2, {0, 1, 0}}, {10, {0, 1, 0}}};
+    ExtensionStats none;
+    none.id = fixedId(4);
+    none.fileCount = 1;
+    none.totalSize = 1500;
+    result.extensionStats = {{QString(), none}};
+    return result;
+}
+
+// Member names sorted by their bytes (so depth 10 before 2), two spaces per level, " : " after
+// names, empty containers over three lines, dates in UTC to the second, ids in upper case.
+const char* const smallResultText = R"({
+  "categoryBreakdown" : [
+    {
+      "category" : "Other",
+      "extensions" : [
+        ""
+      ],
+      "fileCount" : 1,
+      "id" : "0A1B2C3D-4E5F-4A6B-8C7D-000000000002",
+      "totalSize" : 1500
+    }
+  ],
+  "depthDistribution" : {
+    "1" : {
+      "fileCount" : 1,
+      "folderCount" : 0,
+      "totalSize" : 1500
+    },
+    "10" : {
+      "fileCount" : 0,
+      "folderCount" : 1,
+      "totalSize" : 0
+    },
+    "2" : {
+      "fileCount" : 0,
+      "folderCount" : 1,
+      "totalSize" : 0
+    }
+  },
+  "extensionStats" : {
+    "" : {
+      "category" : "Other",
+      "ext" : "",
+      "fileCount" : 1,
+      "id" : "0A1B2C3D-4E5F-4A6B-8C7D-000000000004",
+      "totalSize" : 1500
+    }
+  },
+  "fileCount" : 1,
+  "folderCount" : 2,
+  "id" : "0A1B2C3D-4E5F-4A6B-8C7D-000000000001",
+  "insights" : [
+
+  ],
+  "largestFiles" : [
+    {
+      "category" : "Other",
+      "depth" : 1,
+      "fileExtension" : "",
+      "id" : "0A1B2C3D-4E5F-4A6B-8C7D-000000000003",
+      "isDirectory" : false,
+      "modificationDate" : "2023-01-02T03:04:05Z",
+      "name" : "README",
+      "path" : "\/data\/a b\/README",
+      "size" : 1500
+    }
+  ],
+  "maxDepth" : 10,
+  "rootName" : "a b",
+  "rootPath" : "\/data\/a b",
+  "scanDate" : "2024-03-05T14:07:09Z",
+  "scanDuration" : 0.5,
+  "totalSize" : 1500
+}
+)";
+
+AnalysisResult decoded(const QByteArray& bytes) {
+    QString error;
+    const std::optional<AnalysisResult> result = json::decodeResult(bytes, &error);
+    if (!result)
+        qWarning("decoding failed: %s", qPrintable(error));
+    return result.value_or(AnalysisResult{});
+}
+
+} // namespace
+
+class JsonCodecTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void fullResultRoundTrips() {
+        const AnalysisResult original = fullResult();
+        const QByteArray bytes = json::encode(original);
+        const AnalysisResult copy = decoded(bytes);
+        QCOMPARE(copy.totalSize, original.totalSize);
+        QCOMPARE(copy.fileCount, original.fileCount);
+        QCOMPARE(copy.largestFiles[2].size, original.largestFiles[2].size);
+        QCOMPARE(copy.rootPath, original.rootPath);
+        QCOMPARE(copy.depthDistribution.at(10).totalSize,
+                 original.depthDistribution.at(10).totalSize);
+        QCOMPARE(copy.extensionStats.value(QString()).displayName(), "No Extension");
+        QVERIFY(copy.folderTree.has_value());
+        QCOMPARE(copy.folderTree->flattened().size(), std::size_t(4));
+        QVERIFY(copy == original);
+        // Written again, it is the same text: nothing depends on hash or set order.
+        QCOMPARE(json::encode(copy), bytes);
+        QVERIFY(bytes.contains("\"totalSize\" : 9007199254740993"));
+        QVERIFY(bytes.contains("\"fileCount\" : 9223372036854775807"));
+        QVERIFY(bytes.contains("\"size\" : -9223372036854775808"));
+        QVERIFY(bytes.contains("\"modificationDate\" : \"0001-01-01T00:00:00Z\""));
+    }
+
+    void encodedText() {
+        QCOMPARE(QString::fromUtf8(json::encode(smallResult())),
+                 QString::fromUtf8(smallResultText));
+    }
+
+    void emptyResult() {
+        AnalysisResult empty;
+        empty.scanDate = QDateTime(QDate(2024, 1, 1), QTime(0, 0), Qt::UTC);
+        const QByteArray bytes = json::encode(empty);
+        QVERIFY(!bytes.contains("folderTree"));
+        QVERIFY(bytes.contains("\"depthDistribution\" : {\n\n  }"));
+        QVERIFY(bytes.contains("\"largestFiles\" : [\n\n  ]"));
+        QVERIFY(decoded(bytes) == empty);
+    }
+
+    void folderTreeMember() {
+        AnalysisResult result = smallResult();
+        QByteArray bytes = json::encode(result);
+        bytes.replace("\"fileCount\" : 1,\n  \"folderCount\"",
+                      "\"fileCount\" : 1,\n  \"folderTree\" : null,\n  \"folderCount\"");
+        QVERIFY(bytes.contains("null"));
+        QVERIFY(!decoded(bytes).folderTree.has_value());
+
+        // A stored tree comes back whole and is written again.
+        result.folderTree = fullResult().folderTree;
+        const QByteArray withTree = json::encode(result);
+        const AnalysisResult copy = decoded(withTree);
+        QVERIFY(copy.folderTree == result.folderTree);
+        QCOMPARE(json::encode(copy), withTree);
+    }
+
+    void dates() {
+        const QDateTime utc(QDate(2024, 3, 5), QTime(14, 7, 9, 999), Qt::UTC);
+        QCOMPARE(json::formatDate(utc), "2024-03-05T14:07:09Z");
+        QCOMPARE(json::formatDate(utc.toOffsetFromUtc(-5 * 3600)), "2024-03-05T14:07:09Z");
+        QCOMPARE(json::formatDate(QDateTime()), "0001-01-01T00:00:00Z");
+
+        const QDateTime whole(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
+        QCOMPARE(json::parseDate(u"2024-03-05T14:07:09Z"), whole);
+        QCOMPARE(json::parseDate(u"2024-03-05T15:37:09+01:30"), whole);
+        QCOMPARE(json::parseDate(u"2024-03-05T09:07:09-05:00"), whole);
+        QCOMPARE(json::parseDate(u"0001-01-01T00:00:00Z"), distantPast());
+        for (const char16_t* bad :
+             {u"2024-03-05T14:07:09.5Z", u"2024-03-05 14:07:09Z", u"2024-03-05T14:07:09",
+              u"2024-02-30T14:07:09Z", u"2024-03-05T24:00:00Z", u"2024-03-05T14:07:09+1:00",
+              u"2024-03-05T14:07:09+01:60", u"2024-3-05T14:07:09Z", u"", u"0000-01-01T00:00:00Z"})
+            QVERIFY2(!json::parseDate(bad).has_value(), qPrintable(QString::fromUtf16(bad)));
+    }
+
+    void identities() {
+        AnalysisResult result = smallResult();
+        QVERIFY(json::encode(result).contains("\"0A1B2C3D-4E5F-4A6B-8C7D-000000000001\""));
+        // Lower-case identities, as other writers produce them, read back.
+        const QByteArray lower =
+            json::encode(result).replace("0A1B2C3D-4E5F-4A6B-8C7D", "0a1b2c3d-4e5f-4a6b-8c7d");
+        QCOMPARE(decoded(lower).id, result.id);
+    }
+};
+
+QTEST_APPLESS_MAIN(JsonCodecTest)
+#include "JsonCodecTest.moc"

@@ -1,0 +1,142 @@
+#include "model/Records.h"
+
+#include <QTest>
+
+using namespace tessarine;
+
+namespace {
+
+FolderInfo folder(const QString& name, qint64 totalSize, std::vector<FolderInfo> children = {}) {
+    FolderInfo info;
+    info.path = QStringLiteral("/r/") + name;
+    info.name = name;
+    info.totalSize = totalSize;
+    info.childFolders = std::move(children);
+    return info;
+}
+
+QStringList namesOf(const std::vector<const FolderInfo*>& folders) {
+    QStringList names;
+    for (const FolderInfo* info : folders)
+        names.append(info->name);
+    return names;
+}
+
+ExtensionStats extension(const QString& ext, qint64 totalSize) {
+    ExtensionStats stats;
+    stats.ext = ext;
+    stats.totalSize = totalSize;
+    return stats;
+}
+
+} // namespace
+
+class RecordsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void folderDerivedValues() {
+        const FolderInfo leaf = folder(QStringLiteral("leaf"), 700);
+        QCOMPARE(leaf.directFilesSize(), 700);
+        QCOMPARE(namesOf(leaf.flattened()), QStringList{QStringLiteral("leaf")});
+
+        const FolderInfo tree =
+            folder(QStringLiteral("root"), 100,
+                   {folder(QStringLiteral("a"), 30,
+                           {folder(QStringLiteral("a1"), 10), folder(QStringLiteral("a2"), 5)}),
+                    folder(QStringLiteral("b"), 60)});
+        QCOMPARE(tree.directFilesSize(), 10);
+        QCOMPARE(tree.childFolders[0].directFilesSize(), 15);
+        // Parents before children, siblings in list order.
+        QCOMPARE(namesOf(tree.flattened()), QStringList({"root", "a", "a1", "a2", "b"}));
+        QCOMPARE(tree.flattened().front(), &tree);
+    }
+
+    void deepChainIsSafe() {
+        constexpr int levels = 10'000;
+        auto root = std::make_unique<FolderInfo>(folder(QStringLiteral("0"), levels));
+        FolderInfo* tip = root.get();
+        for (int depth = 1; depth <= levels; ++depth) {
+            tip->childFolders.push_back(folder(QString::number(depth), levels - depth));
+            tip = &tip->childFolders.back();
+            tip->depth = depth;
+        }
+        const std::vector<const FolderInfo*> all = root->flattened();
+        QCOMPARE(all.size(), std::size_t(levels + 1));
+        QCOMPARE(all.back(), tip);
+        QCOMPARE(all[5000]->depth, 5000);
+        QCOMPARE(root->directFilesSize(), 1);
+        // Tearing the chain down must not exhaust the stack either.
+        root.reset();
+    }
+
+    void resultDerivedValues() {
+        AnalysisResult result;
+        result.extensionStats = {{QStringLiteral("mp4"), extension(QStringLiteral("mp4"), 500)},
+                                 {QString(), extension(QString(), 900)},
+                                 {QStringLiteral("txt"), extension(QStringLiteral("txt"), 20)}};
+        QStringList order;
+        for (const ExtensionStats& stats : result.sortedExtensions())
+            order.append(stats.displayName());
+        QCOMPARE(order, QStringList({"No Extension", ".mp4", ".txt"}));
+
+        result.depthDistribution = {{10, {1, 0, 5}}, {1, {2, 3, 7}}, {2, {0, 1, 0}}};
+        const auto depths = result.sortedDepths();
+        QCOMPARE(depths.size(), std::size_t(3));
+        QCOMPARE(depths[0].first, 1);
+        QCOMPARE(depths[0].second, (DepthStats{2, 3, 7}));
+        QCOMPARE(depths[1].first, 2);
+        QCOMPARE(depths[2].first, 10);
+    }
+
+    void formattedDuration_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("zero") << 0.0 << "0 ms";
+        QTest::newRow("sub-millisecond") << 0.0004 << "0 ms";
+        QTest::newRow("quarter") << 0.25 << "250 ms";
+        QTest::newRow("one second") << 1.0 << "1.0 seconds";
+        QTest::newRow("tenths") << 12.34 << "12.3 seconds";
+        QTest::newRow("rounds up below a minute") << 59.96 << "60.0 seconds";
+        QTest::newRow("one minute") << 60.0 << "1m 0s";
+        QTest::newRow("truncated") << 125.9 << "2m 5s";
+        QTest::newRow("no hours") << 3725.0 << "62m 5s";
+    }
+
+    void formattedDuration() {
+        QFETCH(double, seconds);
+        QFETCH(QString, text);
+        AnalysisResult result;
+        result.scanDuration = seconds;
+        QCOMPARE(result.formattedDuration(), text);
+    }
+
+    void identityAndOrder() {
+        FileInfo small;
+        small.size = 10;
+        FileInfo large = small;
+        QCOMPARE(large, small);
+        large.size = 20;
+        QVERIFY(small < large && !(large < small));
+
+        // Size alone orders files, while equality looks at every field.
+        FileInfo sameSize = small;
+        sameSize.name = QStringLiteral("other");
+        QVERIFY(!(small < sameSize) && !(sameSize < small));
+        QVERIFY(sameSize != small);
+        QVERIFY(FileInfo{}.id != small.id);
+
+        // Identities are random (version 4) UUIDs, all different.
+        QSet<QUuid> ids;
+        for (int i = 0; i < 1000; ++i) {
+            const QUuid id = PatternInsight{}.id;
+            QCOMPARE(id.version(), QUuid::Random);
+            QCOMPARE(id.variant(), QUuid::DCE);
+            ids.insert(id);
+        }
+        QCOMPARE(ids.size(), 1000);
+    }
+};
+
+QTEST_APPLESS_MAIN(RecordsTest)
+#include "RecordsTest.moc"
