@@ -57,7 +57,7 @@ private:
 
     mutable std::mutex m_mutex;
     std::optional<ScanProgress> m_progress; // guarded by m_mutex
-    // Polled once per item by both passes, so it is an atomic rather than a flag under m_mutex.
+    // Polled by the walker threads and once per analysed item: an atomic, not a flag under m_mutex.
     std::atomic<bool> m_cancelled{false};
     ProgressObserver m_observer;
 };
