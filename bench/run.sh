@@ -1,0 +1,136 @@
+#!/usr/bin/env bash
+# Times tessarine-cli against gdu and ncdu on one generated tree of about 500,000 files and
+# prints medians, ratios and whether the targets are met:
+#   scan wall time  <= 0.8 x gdu      scan peak memory <= 0.5 x gdu      tree wall time <= 1.0 x scan
+# Usage: bench/run.sh BUILD_DIR      (RUNS=n sets the number of timed runs per tool, default 5)
+# The tree is generated once and kept in /var/tmp/tessarine-bench; it is made again when the
+# generator's version changes.
+set -euo pipefail
+
+build=$(cd "${1:?usage: bench/run.sh BUILD_DIR}" && pwd)
+runs=${RUNS:-5}
+cli=$build/tools/tessarine-cli
+generator=$build/bench/generate-tree
+responsiveness=$build/bench/responsiveness/tessarine-responsiveness
+cache=/var/tmp/tessarine-bench
+tree=$cache/tree
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+
+for tool in "$cli" "$generator"; do
+    [[ -x $tool ]] || { echo "missing $tool: build first" >&2; exit 1; }
+done
+for tool in gdu ncdu /usr/bin/time; do
+    command -v "$tool" >/dev/null || { echo "missing $tool: run scripts/install-deps.sh" >&2; exit 1; }
+done
+
+# --- The tree -----------------------------------------------------------------------------------
+version=$("$generator" --version)
+if [[ ! -d $tree || $(cat "$cache/version" 2>/dev/null) != "$version" ]]; then
+    echo "Generating the benchmark tree in $tree (generator version $version)..."
+    mkdir -p "$cache"
+    rm -rf "$tree" "$tree.partial" "$cache/version" "$cache/summary"
+    # Written beside the final place first, so an interrupted run never leaves a tree that looks
+    # complete.
+    "$generator" "$tree.partial" >"$cache/summary"
+    mv "$tree.partial" "$tree"
+    find "$tree" -mindepth 1 | wc -l >"$cache/items"
+    echo "$version" >"$cache/version"
+fi
+items=$(cat "$cache/items")
+echo "Tree: $tree"
+sed 's/^/  /' "$cache/summary"
+echo "  entries $items"
+
+# --- Measuring ----------------------------------------------------------------------------------
+# command_of NAME: sets the array argv to the command that NAME stands for.
+command_of() {
+    case $1 in
+    tessarine) argv=("$cli" scan "$tree") ;;
+    gdu) argv=(gdu -n -p -c "$tree") ;;
+    ncdu) argv=(ncdu -o /dev/null "$tree") ;;
+    tree) argv=("$cli" tree "$tree") ;;
+    esac
+}
+
+# measure NAME: one run under /usr/bin/time -v; appends "seconds kilobytes" to $work/NAME.
+# Output is thrown away: each tool writes its report, which is not what is measured.
+measure() {
+    local name=$1 argv
+    command_of "$name"
+    /usr/bin/time -v -o "$work/time" "${argv[@]}" >/dev/null 2>"$work/stderr" </dev/null || {
+        echo "$name failed:" >&2
+        cat "$work/stderr" "$work/time" >&2
+        exit 1
+    }
+    awk -F': ' '
+        /Elapsed \(wall clock\)/ {
+            n = split($2, part, ":"); seconds = 0
+            for (i = 1; i <= n; i++) seconds = seconds * 60 + part[i]
+        }
+        /Maximum resident set size/ { kilobytes = $2 }
+        END { print seconds, kilobytes }' "$work/time" >>"$work/$name"
+}
+
+# median FILE COLUMN
+median() {
+    sort -g -k"$2","$2" "$1" | awk -v column="$2" '{ value[NR] = $column }
+        END { print (NR % 2) ? value[(NR + 1) / 2] : (value[NR / 2] + value[NR / 2 + 1]) / 2 }'
+}
+
+names=(tessarine gdu ncdu tree)
+declare -A label=(
+    [tessarine]="tessarine-cli scan"
+    [gdu]="gdu -n -p -c"
+    [ncdu]="ncdu -o /dev/null"
+    [tree]="tessarine-cli tree"
+)
+
+echo "Warming the cache..."
+for name in "${names[@]}"; do
+    command_of "$name"
+    "${argv[@]}" >/dev/null 2>&1 </dev/null || true
+done
+
+echo "Timing $runs runs of each, alternating..."
+for ((run = 1; run <= runs; run++)); do
+    for name in "${names[@]}"; do
+        measure "$name"
+    done
+done
+
+# --- Report -------------------------------------------------------------------------------------
+for name in "${names[@]}"; do
+    declare "wall_$name=$(median "$work/$name" 1)" "rss_$name=$(median "$work/$name" 2)"
+done
+
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", (b > 0) ? a / b : 0 }'; }
+verdict() { awk -v value="$1" -v limit="$2" 'BEGIN { print (value <= limit) ? "PASS" : "MISS" }'; }
+
+echo
+printf '%-22s %10s %14s %13s\n' "median of $runs runs" "wall (s)" "peak RSS (MB)" "bytes/entry"
+for name in "${names[@]}"; do
+    declare -n wall=wall_$name rss=rss_$name
+    awk -v label="${label[$name]}" -v wall="$wall" -v kilobytes="$rss" -v entries="$items" 'BEGIN {
+        printf "%-22s %10.2f %14.1f %13.0f\n", label, wall, kilobytes / 1024, kilobytes * 1024 / entries
+    }'
+    unset -n wall rss
+done
+
+wall_vs_gdu=$(ratio "$wall_tessarine" "$wall_gdu")
+rss_vs_gdu=$(ratio "$rss_tessarine" "$rss_gdu")
+tree_vs_scan=$(ratio "$wall_tree" "$wall_tessarine")
+echo
+echo "tessarine/gdu   wall $wall_vs_gdu   memory $rss_vs_gdu"
+echo "tessarine/ncdu  wall $(ratio "$wall_tessarine" "$wall_ncdu")   memory $(ratio "$rss_tessarine" "$rss_ncdu")"
+echo "tree/scan       wall $tree_vs_scan"
+echo
+echo "$(verdict "$wall_vs_gdu" 0.8)  scan wall time <= 0.8 x gdu ($wall_vs_gdu)"
+echo "$(verdict "$rss_vs_gdu" 0.5)  scan peak memory <= 0.5 x gdu ($rss_vs_gdu)"
+echo "$(verdict "$tree_vs_scan" 1.0)  tree wall time <= 1.0 x scan ($tree_vs_scan)"
+
+if [[ -x $responsiveness ]]; then
+    echo
+    echo "Responsiveness of the desktop app while it scans:"
+    "$responsiveness" "$tree"
+fi
