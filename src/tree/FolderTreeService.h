@@ -4,10 +4,13 @@
 #include "tree/FolderTreeError.h"
 #include "tree/FolderTreeProgress.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QString>
+#include <QVariant>
 
 #include <atomic>
+#include <functional>
 #include <optional>
 #include <variant>
 
@@ -18,9 +21,19 @@ using FolderTreeOutcome = std::variant<FolderInfo, FolderTreeError>;
 // Builds the per-folder size tree of a scanned folder on demand. build() blocks its (worker)
 // thread; every progress record and the end of isBuilding are delivered on the thread the service
 // lives on (the user-interface thread), through queued calls. isCancelled may be set from any
-// thread while a build runs.
+// thread while a build runs. The service must outlive a build that is running.
 class FolderTreeService : public QObject {
     Q_OBJECT
+    // The latest progress record, field by field for the interface; all change together.
+    Q_PROPERTY(bool hasProgress READ hasProgress NOTIFY progressChanged)
+    Q_PROPERTY(QString phaseName READ phaseName NOTIFY progressChanged)
+    Q_PROPERTY(qint64 totalItems READ totalItems NOTIFY progressChanged)
+    Q_PROPERTY(qint64 processedItems READ processedItems NOTIFY progressChanged)
+    Q_PROPERTY(QString currentFolder READ currentFolder NOTIFY progressChanged)
+    Q_PROPERTY(QDateTime startTime READ startTime NOTIFY progressChanged)
+    Q_PROPERTY(QString statusText READ statusText NOTIFY progressChanged)
+    Q_PROPERTY(bool isBuilding READ isBuilding NOTIFY isBuildingChanged)
+    Q_PROPERTY(bool isCancelled READ isCancelled WRITE setCancelled NOTIFY isCancelledChanged)
 
 public:
     explicit FolderTreeService(QObject* parent = nullptr);
@@ -33,10 +46,40 @@ public:
     // Call from a worker thread (or a test thread other than the service's).
     FolderTreeOutcome build(const QString& rootPath);
 
+    // Receives every progress record as it is made, on the thread running build(), before it is
+    // handed to the service's thread: a caller can follow the whole sequence instead of sampling
+    // it, or act at an exact point of the build. Set it before build() starts.
+    using ProgressObserver = std::function<void(const FolderTreeProgress&)>;
+    void setProgressObserver(ProgressObserver observer) { m_observer = std::move(observer); }
+
+    bool hasProgress() const { return m_progress.has_value(); }
+    // "enumerating", "building", "complete", "cancelled"; empty before the first record.
+    QString phaseName() const;
+    qint64 totalItems() const { return m_progress ? m_progress->totalItems : 0; }
+    qint64 processedItems() const { return m_progress ? m_progress->processedItems : 0; }
+    QString currentFolder() const { return m_progress ? m_progress->currentFolder : QString(); }
+    QDateTime startTime() const { return m_progress ? m_progress->startTime : QDateTime(); }
+    QString statusText() const { return m_progress ? m_progress->statusText() : QString(); }
+    // Seconds left from now, or undefined when there is no estimate (it changes with the clock,
+    // so it is asked for rather than notified).
+    Q_INVOKABLE QVariant estimatedTimeRemaining() const;
+
 signals:
     void progressChanged();
     void isBuildingChanged();
     void isCancelledChanged();
+
+private:
+    void publish(const FolderTreeProgress& progress);
+    void setBuilding(bool building);
+    FolderTreeProgress record(FolderTreeProgress::Phase phase, qint64 total, qint64 processed,
+                              const QString& currentFolder) const;
+
+    std::optional<FolderTreeProgress> m_progress; // only touched on the service's thread
+    bool m_building = false;                      // likewise
+    std::atomic<bool> m_cancelled{false};
+    QDateTime m_startTime; // of the running build, on its thread
+    ProgressObserver m_observer;
 };
 
 } // namespace tessarine

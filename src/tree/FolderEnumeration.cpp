@@ -1,0 +1,32 @@
+#include "tree/FolderEnumeration.h"
+
+#include "scanner/DirectoryWalker.h"
+
+#include <chrono>
+
+namespace tessarine {
+
+namespace {
+
+constexpr std::chrono::milliseconds progressInterval{100};
+
+} // namespace
+
+DirectoryListing enumerateFolders(const QString& rootPath, const std::atomic<bool>& cancelled,
+                                  const std::function<void(qint64, qint64)>& onProgress) {
+    auto lastSent = std::chrono::steady_clock::now();
+    DirectoryWalker::Options options;
+    options.cancelled = &cancelled;
+    options.progressInterval = progressInterval;
+    // The walker reports about once per interval; the check makes "at most" a promise.
+    options.onProgress = [&](const WalkProgress& walk) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now - lastSent < progressInterval)
+            return;
+        lastSent = now;
+        onProgress(walk.items, walk.folders);
+    };
+    return DirectoryWalker(std::move(options)).walk(rootPath);
+}
+
+} // namespace tessarine

@@ -1,0 +1,276 @@
+#include "RecordedBuild.h"
+#include "TestTrees.h"
+
+#include "scanner/DirectoryWalker.h"
+#include "tree/FolderTreeAssembly.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace tessarine;
+using namespace tessarine::testing;
+
+namespace {
+
+const FolderInfo* childNamed(const FolderInfo& folder, const QString& name) {
+    for (const FolderInfo& child : folder.childFolders) {
+        if (child.name == name)
+            return &child;
+    }
+    return nullptr;
+}
+
+qint64 ownEntrySize(const QString& path) {
+    struct stat status;
+    return lstat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_size) : -1;
+}
+
+} // namespace
+
+class FolderTreeShapeTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void sumsBottomUpAndDropsEmptyFolders();
+    void coloursFollowListingPositionDroppedFoldersIncluded();
+    void childrenLargestFirstEqualSizesInListingOrder();
+    void rootWithOnlyFiles();
+    void packagesAndLinksCountAsFiles();
+    void folderThatCannotBeListedBecomesLeaf();
+    void missingRootIsBareLeaf();
+    void keepsOddNames();
+    void chainTenThousandFoldersDeep();
+};
+
+void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    writeFile(root + "/top.bin", 5);
+    writeFile(root + "/x/one.bin", 10);
+    writeFile(root + "/x/y/two.bin", 20);
+    writeFile(root + "/x/y/three.bin", 0);
+    QVERIFY(QDir().mkpath(root + "/x/y/empty"));
+    writeFile(root + "/x/zeros/a.bin", 0);
+    writeFile(root + "/x/zeros/b.bin", 0);
+    writeFile(root + "/x/zeros/deeper/c.bin", 0);
+    writeFile(root + "/.hidden/big.bin", 1000);
+    writeFile(root + "/.dotfile", 300);
+    writeFile(root + "/x/.cache", 70);
+
+    const FolderInfo tree = recordBuild(root).tree();
+
+    QCOMPARE(tree.path, root);
+    QCOMPARE(tree.name, QFileInfo(root).fileName());
+    QCOMPARE(tree.depth, 0);
+    QCOMPARE(tree.color, FolderColor::blue);
+    QCOMPARE(tree.totalSize, 35);
+    QCOMPARE(tree.fileCount, 4); // hidden files never count
+    QCOMPARE(childNames(tree), QStringList{"x"});
+    const FolderInfo& x = tree.childFolders[0];
+    QCOMPARE(x.path, root + "/x");
+    QCOMPARE(x.depth, 1);
+    QCOMPARE(x.totalSize, 30);
+    // A dropped folder adds nothing to its parent, not even the count of its zero-byte files.
+    QCOMPARE(x.fileCount, 3);
+    QCOMPARE(childNames(x), QStringList{"y"});
+    const FolderInfo& y = x.childFolders[0];
+    QCOMPARE(y.path, root + "/x/y");
+    QCOMPARE(y.depth, 2);
+    QCOMPARE(y.totalSize, 20);
+    QCOMPARE(y.fileCount, 2);
+    QVERIFY(y.childFolders.empty());
+    QCOMPARE(y.directFilesSize(), 20);
+}
+
+void FolderTreeShapeTest::coloursFollowListingPositionDroppedFoldersIncluded() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    for (const char* name : {"a", "b", "c"})
+        QVERIFY(QDir(root).mkdir(name));
+    const QByteArrayList order = listingOrder(root);
+    QCOMPARE(order.size(), 3);
+    // The first listed gets 10 bytes, the second only a zero-byte file, the third 30 bytes.
+    writeFile(root + '/' + order[0] + "/f", 10);
+    writeFile(root + '/' + order[1] + "/f", 0);
+    writeFile(root + '/' + order[2] + "/f", 30);
+
+    const FolderInfo tree = recordBuild(root).tree();
+
+    QCOMPARE(childNames(tree), (QStringList{order[2], order[0]}));
+    QCOMPARE(tree.childFolders[0].color, FolderColor::teal);
+    QCOMPARE(tree.childFolders[1].color, FolderColor::blue);
+    QCOMPARE(tree.fileCount, 2);
+
+    // Past twelve sub-folders the palette starts again; depth does not shift it.
+    QTemporaryDir many;
+    for (int i = 0; i < 14; ++i)
+        writeFile(many.path() + QStringLiteral("/f%1/nested/data").arg(i), 1);
+    const QByteArrayList manyOrder = listingOrder(many.path());
+    const FolderInfo wide = recordBuild(many.path()).tree();
+    QCOMPARE(wide.childFolders.size(), 14u);
+    for (qsizetype position = 0; position < manyOrder.size(); ++position) {
+        const FolderInfo* child = childNamed(wide, manyOrder[position]);
+        QVERIFY(child);
+        QCOMPARE(child->color, folderColorAt(position));
+        QCOMPARE(child->childFolders.at(0).color, FolderColor::blue);
+    }
+    QCOMPARE(childNamed(wide, manyOrder[12])->color, FolderColor::blue);
+    QCOMPARE(childNamed(wide, manyOrder[13])->color, FolderColor::green);
+}
+
+void FolderTreeShapeTest::childrenLargestFirstEqualSizesInListingOrder() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    for (int i = 0; i < 6; ++i)
+        writeFile(root + QStringLiteral("/same%1/file").arg(i), 7);
+    writeFile(root + "/bigger/file", 8);
+    writeFile(root + "/smaller/file", 6);
+
+    QStringList expected{"bigger"};
+    for (const QByteArray& name : listingOrder(root)) {
+        if (name.startsWith("same"))
+            expected.append(QString::fromUtf8(name));
+    }
+    expected.append("smaller");
+
+    QCOMPARE(childNames(recordBuild(root).tree()), expected);
+}
+
+void FolderTreeShapeTest::rootWithOnlyFiles() {
+    QTemporaryDir dir;
+    writeFile(dir.path() + "/a.txt", 3);
+    writeFile(dir.path() + "/b.txt", 4);
+
+    const FolderInfo tree = recordBuild(dir.path() + "/").tree();
+
+    QCOMPARE(tree.path, dir.path()); // cleaned, like the scanned root
+    QCOMPARE(tree.totalSize, 7);
+    QCOMPARE(tree.fileCount, 2);
+    QCOMPARE(tree.depth, 0);
+    QVERIFY(tree.childFolders.empty());
+}
+
+void FolderTreeShapeTest::packagesAndLinksCountAsFiles() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    writeFile(root + "/Tool.app/Contents/binary", 5000);
+    writeFile(root + "/data/file", 100);
+    QVERIFY(QFile::link("data/file", root + "/file-link"));
+    QVERIFY(QFile::link("data", root + "/folder-link"));
+    QVERIFY(QFile::link("nowhere", root + "/dangling"));
+
+    const FolderInfo tree = recordBuild(root).tree();
+
+    // The package is one item of its own entry's size; links are not followed.
+    QCOMPARE(childNames(tree), QStringList{"data"});
+    QCOMPARE(tree.fileCount, 5);
+    QCOMPARE(tree.totalSize,
+             100 + ownEntrySize(root + "/Tool.app") + ownEntrySize(root + "/file-link") +
+                 ownEntrySize(root + "/folder-link") + ownEntrySize(root + "/dangling"));
+}
+
+void FolderTreeShapeTest::folderThatCannotBeListedBecomesLeaf() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    for (const char* name : {"first", "gone", "last"})
+        writeFile(root + '/' + name + "/file", 10);
+    writeFile(root + "/gone/inner/file", 10);
+
+    // Stands in for a folder removed between its parent's listing and its own: the walker marks
+    // such a folder unreadable, and so would a permission it lacks.
+    const DirectoryListing listing = DirectoryWalker().walk(root);
+    QByteArrayList order;
+    for (const ListedEntry& entry : listing.root()->entries()) {
+        order.append(entry.name().toByteArray());
+        if (entry.name() == QByteArrayView("gone"))
+            const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
+    }
+    const std::atomic<bool> cancelled{false};
+    qint64 reports = 0;
+    FolderTreeAssembly assembly(cancelled, treeFolderCount(listing),
+                                [&](qint64, const QString&) { ++reports; });
+    const std::optional<FolderInfo> tree = assembly.assemble(listing, root);
+
+    QVERIFY(tree);
+    QCOMPARE(tree->totalSize, 20);
+    QCOMPARE(tree->fileCount, 2);
+    QVERIFY(!childNamed(*tree, "gone"));
+    for (const FolderInfo& child : tree->childFolders)
+        QCOMPARE(child.color, folderColorAt(order.indexOf(child.name.toUtf8())));
+    QCOMPARE(treeFolderCount(listing), 3);  // inner was never listed
+    QCOMPARE(assembly.processedCount(), 4); // the leaf is processed, without a report of its own
+    QCOMPARE(reports, 3);
+
+    if (geteuid() == 0)
+        QSKIP("permissions do not stop root; the listing above stood in for them");
+    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::Permissions()));
+    const FolderInfo built = recordBuild(root).tree();
+    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                      QFileDevice::ExeOwner));
+    QCOMPARE(built.totalSize, 20);
+    QVERIFY(!childNamed(built, "gone"));
+}
+
+void FolderTreeShapeTest::missingRootIsBareLeaf() {
+    QTemporaryDir dir;
+    writeFile(dir.path() + "/plain.txt", 12);
+    for (const QString& root : {dir.path() + "/absent", dir.path() + "/plain.txt"}) {
+        const RecordedBuild build = recordBuild(root);
+        const FolderInfo& tree = build.tree();
+        QCOMPARE(tree.path, root);
+        QCOMPARE(tree.name, QFileInfo(root).fileName());
+        QCOMPARE(tree.totalSize, 0);
+        QCOMPARE(tree.fileCount, 0);
+        QVERIFY(tree.childFolders.empty());
+        QCOMPARE(tree.depth, 0);
+        QCOMPARE(tree.color, FolderColor::blue);
+        QVERIFY(build.recordsIn(FolderTreeProgress::Phase::building).size() == 1);
+        QCOMPARE(build.records.last().processedItems, 1);
+    }
+}
+
+void FolderTreeShapeTest::keepsOddNames() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    const QString odd = QStringLiteral("with space, \"quotes\" and\nnewline é");
+    writeFile(root + '/' + odd + "/file", 4);
+    const RawNamedFiles raw(root, {QByteArray("bad-\xff-utf8")}, 6);
+
+    const FolderInfo tree = recordBuild(root).tree();
+
+    QCOMPARE(tree.totalSize, 10);
+    QCOMPARE(childNames(tree), QStringList{odd});
+    QCOMPARE(tree.childFolders[0].path, root + '/' + odd);
+}
+
+void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
+    const QTemporaryDir dir = makeFastTemporaryDir();
+    QVERIFY(dir.isValid());
+    const int depth = 10000;
+    const FolderChain chain(dir.path(), depth);
+
+    RecordedBuild build = recordBuild(dir.path());
+
+    const FolderInfo* folder = &build.tree();
+    for (int level = 0; level <= depth; ++level) {
+        QCOMPARE(folder->depth, level);
+        QCOMPARE(folder->totalSize, 1);
+        QCOMPARE(folder->fileCount, 1);
+        if (level < depth) {
+            QCOMPARE(folder->childFolders.size(), 1u);
+            folder = &folder->childFolders[0];
+        }
+    }
+    QVERIFY(folder->childFolders.empty());
+    QVERIFY(folder->path.endsWith("/d/d"));
+    QCOMPARE(build.records.last().processedItems, depth + 1);
+    releaseDeepTree(std::get<FolderInfo>(std::move(build.outcome)));
+}
+
+QTEST_GUILESS_MAIN(FolderTreeShapeTest)
+#include "FolderTreeShapeTest.moc"

@@ -1,0 +1,80 @@
+#include "RecordedBuild.h"
+
+#include "scanner/DirectoryWalker.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <vector>
+
+namespace tessarine::testing {
+
+bool RecordedBuild::wasCancelled() const {
+    const auto* error = std::get_if<FolderTreeError>(&outcome);
+    return error && error->kind == FolderTreeError::Kind::cancelled;
+}
+
+QList<FolderTreeProgress> RecordedBuild::recordsIn(FolderTreeProgress::Phase phase) const {
+    QList<FolderTreeProgress> matching;
+    for (const FolderTreeProgress& record : records) {
+        if (record.phase == phase)
+            matching.append(record);
+    }
+    return matching;
+}
+
+RecordedBuild recordBuild(FolderTreeService& service, const QString& path,
+                          const RecordReaction& react) {
+    QList<FolderTreeProgress> records;
+    service.setProgressObserver([&](const FolderTreeProgress& record) {
+        records.append(record);
+        if (react)
+            react(service, record);
+    });
+    FolderTreeOutcome outcome = service.build(path);
+    service.setProgressObserver({});
+    return {std::move(outcome), records};
+}
+
+RecordedBuild recordBuild(const QString& path, const RecordReaction& react) {
+    FolderTreeService service;
+    return recordBuild(service, path, react);
+}
+
+QByteArrayList listingOrder(const QString& folder) {
+    DirectoryWalker::Options options;
+    options.threadCount = 1;
+    const DirectoryListing listing = DirectoryWalker(options).walk(folder);
+    QByteArrayList names;
+    if (listing.root()) {
+        for (const ListedEntry& entry : listing.root()->entries())
+            names.append(entry.name().toByteArray());
+    }
+    return names;
+}
+
+QStringList childNames(const FolderInfo& folder) {
+    QStringList names;
+    for (const FolderInfo& child : folder.childFolders)
+        names.append(child.name);
+    return names;
+}
+
+QTemporaryDir makeFastTemporaryDir() {
+    const QString memoryBacked = QStringLiteral("/dev/shm");
+    const QString base = QFileInfo(memoryBacked).isWritable() ? memoryBacked : QDir::tempPath();
+    return QTemporaryDir(base + QStringLiteral("/tessarine-tree-XXXXXX"));
+}
+
+void releaseDeepTree(FolderInfo tree) {
+    std::vector<FolderInfo> pending;
+    pending.push_back(std::move(tree));
+    while (!pending.empty()) {
+        FolderInfo last = std::move(pending.back());
+        pending.pop_back();
+        for (FolderInfo& child : last.childFolders)
+            pending.push_back(std::move(child));
+    }
+}
+
+} // namespace tessarine::testing

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "tree/FolderTreeService.h"
+
+#include <QByteArrayList>
+#include <QList>
+#include <QTemporaryDir>
+
+#include <functional>
+
+namespace tessarine::testing {
+
+// The outcome of one folder tree build together with every progress record it made, in order.
+struct RecordedBuild {
+    FolderTreeOutcome outcome;
+    QList<FolderTreeProgress> records;
+
+    const FolderInfo& tree() const { return std::get<FolderInfo>(outcome); }
+    bool wasCancelled() const;
+    QList<FolderTreeProgress> recordsIn(FolderTreeProgress::Phase phase) const;
+};
+
+// Builds the tree of `path` on `service`, on the calling thread. `react`, when given, sees each
+// record as it is made and may act on the service (cancel it) or on the folders being read.
+using RecordReaction = std::function<void(FolderTreeService&, const FolderTreeProgress&)>;
+RecordedBuild recordBuild(FolderTreeService& service, const QString& path,
+                          const RecordReaction& react = {});
+RecordedBuild recordBuild(const QString& path, const RecordReaction& react = {});
+
+// The names directly inside `folder`, in the order the file system lists them.
+QByteArrayList listingOrder(const QString& folder);
+
+// The names of a node's children, in list order.
+QStringList childNames(const FolderInfo& folder);
+
+// A temporary folder in memory (tmpfs) where the system offers one, else in the usual place: a
+// disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.
+QTemporaryDir makeFastTemporaryDir();
+
+// Takes a tree apart leaf first, so that a very deep one is released without deep recursion.
+void releaseDeepTree(FolderInfo tree);
+
+} // namespace tessarine::testing
