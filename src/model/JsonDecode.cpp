@@ -201,7 +201,8 @@ FolderInfo readFolder(const ObjectReader& in) {
             .name = in.string(u"name"),
             .totalSize = in.integer(u"totalSize"),
             .fileCount = in.integer(u"fileCount"),
-            .childFolders = std::vector<FolderInfo>(children.begin(), children.end()),
+            .childFolders =
+                FolderInfoList(std::vector<FolderInfo>(children.begin(), children.end())),
             .depth = in.integer(u"depth"),
             .color = in.enumeration<FolderColor>(u"color")};
 }

@@ -2,6 +2,7 @@
 
 #include "model/FileCategory.h"
 #include "model/FolderColor.h"
+#include "model/FolderInfoList.h"
 #include "model/InsightType.h"
 #include "model/RecordId.h"
 
@@ -94,7 +95,7 @@ struct FolderInfo {
     QString name;
     qint64 totalSize = 0;
     qint64 fileCount = 0;
-    std::vector<FolderInfo> childFolders;
+    FolderInfoList childFolders;
     qint64 depth = 0;
     FolderColor color = FolderColor::blue;
 

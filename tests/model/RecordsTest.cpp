@@ -66,7 +66,20 @@ private slots:
         QCOMPARE(all.back(), tip);
         QCOMPARE(all[5000]->depth, 5000);
         QCOMPARE(root->directFilesSize(), 1);
-        // Tearing the chain down must not exhaust the stack either.
+
+        // Copying, comparing, reassigning and tearing the chain down must not exhaust the stack.
+        FolderInfo copy = *root;
+        QVERIFY(copy == *root);
+        const std::vector<const FolderInfo*> copied = copy.flattened();
+        QCOMPARE(copied.size(), all.size());
+        QVERIFY(copied.back() != tip);
+        QCOMPARE(copied.back()->name, tip->name);
+        tip->name = QStringLiteral("changed");
+        QVERIFY(copy != *root);
+        copy = *root;
+        QVERIFY(copy == *root);
+        copy.childFolders = FolderInfoList();
+        QVERIFY(copy != *root);
         root.reset();
     }
 
