@@ -10,8 +10,10 @@
 #include <optional>
 
 // The one JSON coder of the application: the history files and the JSON export both go through
-// it, so a result written anywhere reads back anywhere. Output is indented with members sorted by
-// name, dates are ISO 8601 in UTC to the second, 64-bit integers are exact, UUIDs are upper-case.
+// it, so a result written anywhere reads back anywhere. Output is laid out as Foundation's
+// pretty-printed, sorted-keys JSONEncoder writes it (two-space indent, " : ", members in byte order
+// of their names, "/" escaped), dates are ISO 8601 in UTC to the second, 64-bit integers are
+// exact, UUIDs are upper-case.
 namespace tessarine::json {
 
 QByteArray encode(const AnalysisResult& result);
@@ -19,7 +21,8 @@ QByteArray encode(const FolderInfo& folder);
 
 // Fails as a whole, with a text naming the offending member in *error, on malformed JSON, a
 // missing member, a wrong JSON type, an unknown enumeration value, a bad UUID or a bad date.
-// "folderTree" may be missing or null.
+// "folderTree" may be missing or null. Qt's parser gives up beyond 1024 nested containers, so a
+// folder tree more than 510 levels deep is written but does not read back.
 std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error = nullptr);
 
 // "2024-03-05T14:07:09Z": UTC, no fractional seconds (they are dropped).
