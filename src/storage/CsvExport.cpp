@@ -12,8 +12,7 @@ namespace {
 
 // Only the free-text columns can hold a separator. Lines end in a line feed alone, so a carriage
 // return inside a name cannot end a line and is left bare.
-QString escapedField(const QString& text)
-{
+QString escapedField(const QString& text) {
     if (!text.contains(u',') && !text.contains(u'"') && !text.contains(u'\n'))
         return text;
     QString quoted = text;
@@ -21,8 +20,7 @@ QString escapedField(const QString& text)
     return u'"' + quoted + u'"';
 }
 
-QString lineFor(const FileInfo& file)
-{
+QString lineFor(const FileInfo& file) {
     const QStringList fields{escapedField(file.path),
                              escapedField(file.name),
                              QString::number(file.size),
@@ -35,8 +33,7 @@ QString lineFor(const FileInfo& file)
 
 } // namespace
 
-std::variant<QByteArray, StorageError> exportLargestFiles(const AnalysisResult& result)
-{
+std::variant<QByteArray, StorageError> exportLargestFiles(const AnalysisResult& result) {
     QString text = QStringLiteral("Path,Name,Size (bytes),Extension,Category,Depth,Modified\n");
     for (const FileInfo& file : result.largestFiles)
         text += lineFor(file);

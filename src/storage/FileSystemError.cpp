@@ -3,8 +3,7 @@
 namespace tessarine {
 
 FileSystemError FileSystemError::about(QStringView failedAction, const QString& path,
-                                       const QString& reason)
-{
+                                       const QString& reason) {
     return {QStringLiteral("Could not %1 \"%2\": %3").arg(failedAction, path, reason)};
 }
 

@@ -2,8 +2,7 @@
 
 namespace tessarine {
 
-QString PersistenceError::errorDescription() const
-{
+QString PersistenceError::errorDescription() const {
     switch (kind) {
     case Kind::directoryNotAccessible:
         return underlying ? QStringLiteral("Storage directory not accessible: ") + *underlying

@@ -1,16 +1,17 @@
 #include "storage/PersistenceService.h"
 
 #include "model/Json.h"
+#include "storage/CompleteWrite.h"
+#include "storage/ConsoleLine.h"
 #include "storage/CsvExport.h"
+#include "storage/HistoryLocation.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
-#include <QStandardPaths>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <system_error>
 
@@ -18,33 +19,12 @@ namespace tessarine {
 
 namespace {
 
-// The store's two console messages go to standard output, flushed at once so that they keep
-// their place among whatever else the process prints.
-void printLine(const QString& line)
-{
-    std::fputs(qPrintable(line + u'\n'), stdout);
-    std::fflush(stdout);
-}
-
-QString defaultBaseDirectory()
-{
-    const QString dataDirectory =
-        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    if (!dataDirectory.isEmpty())
-        return dataDirectory;
-    printLine(QStringLiteral(
-        "Warning: Application Support directory not available, using temporary directory"));
-    return QDir::tempPath();
-}
-
-QString describe(const std::error_code& error)
-{
+QString describe(const std::error_code& error) {
     return QString::fromLocal8Bit(error.message());
 }
 
 // QDir::mkpath only answers yes or no; the user needs to know why the history has nowhere to go.
-std::optional<PersistenceError> createDirectory(const QString& path)
-{
+std::optional<PersistenceError> createDirectory(const QString& path) {
     std::error_code error;
     std::filesystem::create_directories(QFileInfo(path).filesystemFilePath(), error);
     if (!error)
@@ -54,14 +34,12 @@ std::optional<PersistenceError> createDirectory(const QString& path)
 
 // Hidden entries are skipped, and only an exact lower-case "json" suffix counts, so that
 // editor backups and other people's files in the folder are never tried.
-bool mayHoldResult(const QFileInfo& entry)
-{
+bool mayHoldResult(const QFileInfo& entry) {
     return !entry.fileName().startsWith(u'.') && entry.suffix() == u"json";
 }
 
 // The result in one history file, or why it could not be had.
-std::variant<AnalysisResult, QString> readHistoryFile(const QString& path)
-{
+std::variant<AnalysisResult, QString> readHistoryFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return file.errorString();
@@ -77,34 +55,29 @@ std::variant<AnalysisResult, QString> readHistoryFile(const QString& path)
 
 } // namespace
 
-PersistenceService& PersistenceService::shared()
-{
+PersistenceService& PersistenceService::shared() {
     // Never destroyed: it may still be asked for while other statics are torn down at exit.
-    static PersistenceService* const instance = new PersistenceService(defaultBaseDirectory());
+    static PersistenceService* const instance = new PersistenceService(historyBaseDirectory());
     return *instance;
 }
 
 PersistenceService::PersistenceService(const QString& baseDirectory)
     : m_storagePath(QDir(baseDirectory).filePath(QStringLiteral("Tessarine")))
-    , m_directoryError(createDirectory(m_storagePath))
-{
-}
+    , m_directoryError(createDirectory(m_storagePath)) {}
 
-QString PersistenceService::historyFilePath(const QUuid& id) const
-{
+QString PersistenceService::historyFilePath(const QUuid& id) const {
     const QString uuidText = id.toString(QUuid::WithoutBraces).toUpper();
-    return QDir(m_storagePath).filePath(QStringLiteral("scan_") + uuidText + QStringLiteral(".json"));
+    return QDir(m_storagePath)
+        .filePath(QStringLiteral("scan_") + uuidText + QStringLiteral(".json"));
 }
 
-std::optional<StorageError> PersistenceService::unusableDirectory() const
-{
+std::optional<StorageError> PersistenceService::unusableDirectory() const {
     if (m_directoryError)
         return StorageError{*m_directoryError};
     return std::nullopt;
 }
 
-std::optional<StorageError> PersistenceService::save(const AnalysisResult& result)
-{
+std::optional<StorageError> PersistenceService::save(const AnalysisResult& result) {
     if (auto error = unusableDirectory())
         return error;
     const QString path = historyFilePath(result.id);
@@ -112,13 +85,12 @@ std::optional<StorageError> PersistenceService::save(const AnalysisResult& resul
     // QSaveFile writes beside the target and renames over it, and leaves nothing behind when it
     // fails, so a reader never meets half a history file.
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    if (openAndWriteCompletely(file, bytes) && file.commit())
         return std::nullopt;
     return StorageError{FileSystemError::about(u"write", path, file.errorString())};
 }
 
-std::variant<QList<AnalysisResult>, StorageError> PersistenceService::loadAll()
-{
+std::variant<QList<AnalysisResult>, StorageError> PersistenceService::loadAll() {
     if (auto error = unusableDirectory())
         return *error;
     const QFileInfo directory(m_storagePath);
@@ -142,25 +114,23 @@ std::variant<QList<AnalysisResult>, StorageError> PersistenceService::loadAll()
     for (const QFileInfo& candidate : std::as_const(candidates)) {
         auto loaded = readHistoryFile(candidate.filePath());
         if (auto* reason = std::get_if<QString>(&loaded)) {
-            printLine(QStringLiteral("Failed to load ") + candidate.fileName() + QStringLiteral(": ") + *reason);
+            printConsoleLine(QStringLiteral("Failed to load ") + candidate.fileName() +
+                             QStringLiteral(": ") + *reason);
             continue;
         }
         results.append(std::get<AnalysisResult>(std::move(loaded)));
     }
-    std::stable_sort(results.begin(), results.end(),
-                     [](const AnalysisResult& a, const AnalysisResult& b) {
-                         return a.scanDate > b.scanDate;
-                     });
+    std::stable_sort(
+        results.begin(), results.end(),
+        [](const AnalysisResult& a, const AnalysisResult& b) { return a.scanDate > b.scanDate; });
     return results;
 }
 
-std::optional<StorageError> PersistenceService::deleteResult(const AnalysisResult& result)
-{
+std::optional<StorageError> PersistenceService::deleteResult(const AnalysisResult& result) {
     return deleteResult(result.id);
 }
 
-std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id)
-{
+std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id) {
     if (auto error = unusableDirectory())
         return error;
     QFile file(historyFilePath(id));
@@ -169,14 +139,12 @@ std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id)
     return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};
 }
 
-QByteArray PersistenceService::encode(const AnalysisResult& result) const
-{
+QByteArray PersistenceService::encode(const AnalysisResult& result) const {
     return json::encode(result);
 }
 
 std::variant<QByteArray, StorageError>
-PersistenceService::exportCSV(const AnalysisResult& result) const
-{
+PersistenceService::exportCSV(const AnalysisResult& result) const {
     return csv::exportLargestFiles(result);
 }
 

@@ -2,8 +2,7 @@
 
 namespace tessarine {
 
-QString StorageError::errorDescription() const
-{
+QString StorageError::errorDescription() const {
     return std::visit([](const auto& cause) { return cause.errorDescription(); }, error);
 }
 

@@ -16,7 +16,9 @@ struct StorageError {
 
     QString errorDescription() const;
     // The store's own error, or nullptr when the file system failed.
-    const PersistenceError* persistenceError() const { return std::get_if<PersistenceError>(&error); }
+    const PersistenceError* persistenceError() const {
+        return std::get_if<PersistenceError>(&error);
+    }
 
     bool operator==(const StorageError&) const = default;
 };

@@ -1,12 +1,15 @@
+#include "FileSizeLimit.h"
+#include "FolderSnapshot.h"
 #include "SampleResults.h"
 #include "StandardOutputCapture.h"
 
+#include "storage/HistoryLocation.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QMap>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimeZone>
@@ -18,45 +21,21 @@ using namespace tessarine::testing;
 
 namespace {
 
-QDateTime utc(int hour, int minute = 0, int millisecond = 0)
-{
+QDateTime utc(int hour, int minute = 0, int millisecond = 0) {
     return QDateTime(QDate(2024, 6, 1), QTime(hour, minute, 0, millisecond), QTimeZone::utc());
 }
 
-QDateTime wholeSeconds(const QDateTime& date)
-{
+QDateTime wholeSeconds(const QDateTime& date) {
     return QDateTime::fromSecsSinceEpoch(date.toSecsSinceEpoch(), QTimeZone::utc());
 }
 
-void writeFile(const QString& path, const QByteArray& bytes)
-{
+void writeFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// Every entry below root, hidden ones included, with the bytes of the files: a fingerprint that
-// shows whether an operation wrote, renamed or removed anything at all.
-QMap<QString, QByteArray> snapshot(const QString& root)
-{
-    QMap<QString, QByteArray> entries;
-    QDirIterator it(root, QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        entries.insert(path, it.fileInfo().isFile() ? readFile(path) : QByteArray("<dir>"));
-    }
-    return entries;
-}
-
-QList<AnalysisResult> loadedResults(PersistenceService& store)
-{
+QList<AnalysisResult> loadedResults(PersistenceService& store) {
     auto loaded = store.loadAll();
     if (auto* error = std::get_if<StorageError>(&loaded))
         qWarning() << "loadAll failed:" << error->errorDescription();
@@ -64,8 +43,7 @@ QList<AnalysisResult> loadedResults(PersistenceService& store)
                                                        : QList<AnalysisResult>();
 }
 
-bool isDirectoryNotAccessible(const std::optional<StorageError>& error)
-{
+bool isDirectoryNotAccessible(const std::optional<StorageError>& error) {
     return error && error->persistenceError() &&
            error->persistenceError()->kind == PersistenceError::Kind::directoryNotAccessible;
 }
@@ -76,8 +54,7 @@ class HistoryStoreTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void emptyOrMissingDirectoryLoadsNothing()
-    {
+    void emptyOrMissingDirectoryLoadsNothing() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         QCOMPARE(store.storagePath(), base.filePath("Tessarine"));
@@ -92,13 +69,27 @@ private slots:
         QVERIFY(std::get<QList<AnalysisResult>>(loaded).isEmpty());
     }
 
-    void loadsOnlyDecodableJsonAndLeavesTheRestAlone()
-    {
+    void historyLivesInTheDataDirectoryOrElseTheTemporaryOne() {
+        QStandardPaths::setTestModeEnabled(true);
+        const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+        QCOMPARE(PersistenceService::shared().storagePath(), data + "/Tessarine");
+        QVERIFY(!PersistenceService::shared().directoryError());
+        QVERIFY(QFileInfo(data + "/Tessarine").isDir());
+
+        StandardOutputCapture output;
+        QCOMPARE(historyBaseDirectory(data), data);
+        QCOMPARE(historyBaseDirectory(QString()), QDir::tempPath());
+        QCOMPARE(output.finish(),
+                 "Warning: Application Support directory not available, using temporary "
+                 "directory\n");
+    }
+
+    void loadsOnlyDecodableJsonAndLeavesTheRestAlone() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         const AnalysisResult stored = sampleResult(utc(10));
         QVERIFY(!store.save(stored));
-        const QByteArray valid = readFile(store.historyFilePath(stored.id));
+        const QByteArray valid = readBytes(store.historyFilePath(stored.id));
         const QDir history(store.storagePath());
 
         writeFile(history.filePath("Upper.JSON"), valid);
@@ -107,7 +98,7 @@ private slots:
         writeFile(history.filePath("foreign.json"), R"({"hello": "world"})");
         writeFile(history.filePath("truncated.json"), valid.left(valid.size() / 2));
         QVERIFY(history.mkdir("folder.json"));
-        const QMap<QString, QByteArray> before = snapshot(history.path());
+        const QMap<QString, QByteArray> before = folderSnapshot(history.path());
 
         StandardOutputCapture output;
         const QList<AnalysisResult> loaded = loadedResults(store);
@@ -122,11 +113,10 @@ private slots:
         QVERIFY2(lines[2].startsWith("Failed to load truncated.json: "), qPrintable(lines[2]));
         for (const QString& line : std::as_const(lines))
             QVERIFY2(line.size() > line.indexOf(u':') + 2, "the reason is missing");
-        QCOMPARE(snapshot(history.path()), before);
+        QCOMPARE(folderSnapshot(history.path()), before);
     }
 
-    void loadsLatestScanFirst()
-    {
+    void loadsLatestScanFirst() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         const QList<QDateTime> dates{utc(10), utc(12), utc(9), utc(11), utc(9)};
@@ -139,8 +129,7 @@ private slots:
         QCOMPARE(loadedDates, (QList<QDateTime>{utc(12), utc(11), utc(10), utc(9), utc(9)}));
     }
 
-    void savingAgainReplacesAndDeletingTwiceSucceeds()
-    {
+    void savingAgainReplacesAndDeletingTwiceSucceeds() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         AnalysisResult result = sampleResult(utc(10));
@@ -160,15 +149,14 @@ private slots:
 
         QVERIFY(!store.deleteResult(result));
         QVERIFY(!QFile::exists(store.historyFilePath(result.id)));
-        const QMap<QString, QByteArray> remaining = snapshot(history.path());
+        const QMap<QString, QByteArray> remaining = folderSnapshot(history.path());
         QVERIFY(!store.deleteResult(result));
         QVERIFY(!store.deleteResult(QUuid::createUuid()));
-        QCOMPARE(snapshot(history.path()), remaining);
+        QCOMPARE(folderSnapshot(history.path()), remaining);
         QCOMPARE(loadedResults(store).size(), 1);
     }
 
-    void roundTripKeepsEverythingButFractionalSeconds()
-    {
+    void roundTripKeepsEverythingButFractionalSeconds() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         AnalysisResult result = sampleResult(utc(10, 30, 750));
@@ -191,15 +179,14 @@ private slots:
 
         // The JSON export is the history file itself, so an export dropped into the history
         // folder loads like any saved scan.
-        QCOMPARE(store.encode(result), readFile(store.historyFilePath(result.id)));
+        QCOMPARE(store.encode(result), readBytes(store.historyFilePath(result.id)));
     }
 
-    void uncreatableDirectoryFailsEveryOperationAndWritesNothing()
-    {
+    void uncreatableDirectoryFailsEveryOperationAndWritesNothing() {
         QTemporaryDir sandbox;
         const QString notADirectory = sandbox.filePath("plain file");
         writeFile(notADirectory, "not a folder");
-        const QMap<QString, QByteArray> before = snapshot(sandbox.path());
+        const QMap<QString, QByteArray> before = folderSnapshot(sandbox.path());
 
         PersistenceService store(notADirectory);
         QVERIFY(store.directoryError());
@@ -215,42 +202,51 @@ private slots:
         QVERIFY(std::holds_alternative<StorageError>(loaded));
         QVERIFY(isDirectoryNotAccessible(std::get<StorageError>(loaded)));
         QVERIFY(isDirectoryNotAccessible(store.deleteResult(result)));
-        QCOMPARE(snapshot(sandbox.path()), before);
+        QCOMPARE(folderSnapshot(sandbox.path()), before);
     }
 
-    void failedSaveLeavesNoPartialFile()
-    {
+    void failedSaveLeavesNoPartialFile() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         const AnalysisResult blocked = sampleResult(utc(10));
         const QDir history(store.storagePath());
         QVERIFY(history.mkdir(QFileInfo(store.historyFilePath(blocked.id)).fileName()));
-        const QMap<QString, QByteArray> before = snapshot(history.path());
+        const QMap<QString, QByteArray> before = folderSnapshot(history.path());
 
         const std::optional<StorageError> error = store.save(blocked);
         QVERIFY(error);
         QVERIFY(!error->persistenceError());
         QVERIFY2(error->errorDescription().contains(store.historyFilePath(blocked.id)),
                  qPrintable(error->errorDescription()));
-        QCOMPARE(snapshot(history.path()), before);
+        QCOMPARE(folderSnapshot(history.path()), before);
 
-        // A read-only folder stops root only through permissions it ignores, so this half
+        // A save that runs out of room keeps the earlier save of the same result whole.
+        AnalysisResult stored = sampleResult(utc(11));
+        QVERIFY(!store.save(stored));
+        const QMap<QString, QByteArray> saved = folderSnapshot(history.path());
+        stored.rootName = QString(4096, u'x');
+        {
+            const FileSizeLimit nearlyFull(readBytes(store.historyFilePath(stored.id)).size());
+            const std::optional<StorageError> tooLarge = store.save(stored);
+            QVERIFY(tooLarge);
+            QVERIFY2(tooLarge->errorDescription().endsWith("File too large"),
+                     qPrintable(tooLarge->errorDescription()));
+        }
+        QCOMPARE(folderSnapshot(history.path()), saved);
+
+        // A read-only folder stops root only through permissions it ignores, so this part
         // needs an ordinary user.
         if (::geteuid() == 0)
             return;
-        AnalysisResult stored = sampleResult(utc(11));
-        QVERIFY(!store.save(stored));
-        const QMap<QString, QByteArray> saved = snapshot(history.path());
         QVERIFY(QFile::setPermissions(history.path(), QFile::ReadOwner | QFile::ExeOwner));
         stored.rootName = QStringLiteral("changed");
         QVERIFY(store.save(stored));
         QVERIFY(QFile::setPermissions(history.path(),
                                       QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        QCOMPARE(snapshot(history.path()), saved);
+        QCOMPARE(folderSnapshot(history.path()), saved);
     }
 
-    void listingErrorIsPassedOn()
-    {
+    void listingErrorIsPassedOn() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         QVERIFY(QDir(store.storagePath()).removeRecursively());

@@ -5,8 +5,7 @@
 namespace tessarine::testing {
 
 FileInfo sampleFile(const QString& path, qint64 size, const QString& extension,
-                    FileCategory category)
-{
+                    FileCategory category) {
     FileInfo file;
     file.path = path;
     file.name = path.section(u'/', -1);
@@ -18,8 +17,7 @@ FileInfo sampleFile(const QString& path, qint64 size, const QString& extension,
     return file;
 }
 
-AnalysisResult sampleResult(const QDateTime& scanDate)
-{
+AnalysisResult sampleResult(const QDateTime& scanDate) {
     AnalysisResult result;
     result.scanDate = scanDate;
     result.rootPath = QStringLiteral("/home/ada/My \"Projects\"");
@@ -30,9 +28,10 @@ AnalysisResult sampleResult(const QDateTime& scanDate)
     result.maxDepth = 2;
     result.scanDuration = 0.25;
 
-    FileInfo photo = sampleFile(result.rootPath + QStringLiteral("/pics/été, 2023.jpg"), 2000, QStringLiteral("jpg"),
-                                FileCategory::images);
-    FileInfo notes = sampleFile(result.rootPath + QStringLiteral("/README"), 1000, QString(), FileCategory::other);
+    FileInfo photo = sampleFile(result.rootPath + QStringLiteral("/pics/été, 2023.jpg"), 2000,
+                                QStringLiteral("jpg"), FileCategory::images);
+    FileInfo notes = sampleFile(result.rootPath + QStringLiteral("/README"), 1000, QString(),
+                                FileCategory::other);
     result.largestFiles = {photo, notes};
 
     CategoryStats images;

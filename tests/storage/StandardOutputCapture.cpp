@@ -5,8 +5,7 @@
 
 namespace tessarine::testing {
 
-StandardOutputCapture::StandardOutputCapture()
-{
+StandardOutputCapture::StandardOutputCapture() {
     if (!m_sink.open())
         return;
     std::fflush(stdout);
@@ -14,13 +13,11 @@ StandardOutputCapture::StandardOutputCapture()
     ::dup2(m_sink.handle(), STDOUT_FILENO);
 }
 
-StandardOutputCapture::~StandardOutputCapture()
-{
+StandardOutputCapture::~StandardOutputCapture() {
     finish();
 }
 
-QByteArray StandardOutputCapture::finish()
-{
+QByteArray StandardOutputCapture::finish() {
     if (m_savedOutput < 0)
         return {};
     std::fflush(stdout);
