@@ -1,5 +1,6 @@
 #include "model/Json.h"
 
+#include "model/JsonFolderTree.h"
 #include "model/JsonWriter.h"
 
 #include <algorithm>
@@ -26,61 +27,42 @@ auto keyValuePairs(const QHash<QString, ExtensionStats>& map) {
     return map.asKeyValueRange();
 }
 
-void writeId(JsonWriter& writer, const QUuid& id) {
-    writer.key(u"id");
-    writer.writeString(id.toString(QUuid::WithoutBraces).toUpper());
-}
-
-void writeDate(JsonWriter& writer, const QDateTime& date) {
-    writer.writeString(formatDate(date));
-}
-
 void writeStrings(JsonWriter& writer, const QStringList& strings) {
     writer.beginArray();
     for (const QString& text : strings)
-        writer.writeString(text);
+        writer.write(text);
     writer.endArray();
 }
 
 void writeCategoryStats(JsonWriter& writer, const CategoryStats& stats) {
     writer.beginObject();
-    writer.key(u"category");
-    writer.writeString(rawValue(stats.category));
+    writer.member(u"category", rawValue(stats.category));
     writer.key(u"extensions");
     // A set has no order; sorting keeps repeated exports of one result identical.
     QStringList extensions = stats.extensions.values();
     extensions.sort();
     writeStrings(writer, extensions);
-    writer.key(u"fileCount");
-    writer.writeInteger(stats.fileCount);
-    writeId(writer, stats.id);
-    writer.key(u"totalSize");
-    writer.writeInteger(stats.totalSize);
+    writer.member(u"fileCount", stats.fileCount);
+    writer.member(u"id", stats.id);
+    writer.member(u"totalSize", stats.totalSize);
     writer.endObject();
 }
 
 void writeDepthStats(JsonWriter& writer, const DepthStats& stats) {
     writer.beginObject();
-    writer.key(u"fileCount");
-    writer.writeInteger(stats.fileCount);
-    writer.key(u"folderCount");
-    writer.writeInteger(stats.folderCount);
-    writer.key(u"totalSize");
-    writer.writeInteger(stats.totalSize);
+    writer.member(u"fileCount", stats.fileCount);
+    writer.member(u"folderCount", stats.folderCount);
+    writer.member(u"totalSize", stats.totalSize);
     writer.endObject();
 }
 
 void writeExtensionStats(JsonWriter& writer, const ExtensionStats& stats) {
     writer.beginObject();
-    writer.key(u"category");
-    writer.writeString(rawValue(stats.category));
-    writer.key(u"ext");
-    writer.writeString(stats.ext);
-    writer.key(u"fileCount");
-    writer.writeInteger(stats.fileCount);
-    writeId(writer, stats.id);
-    writer.key(u"totalSize");
-    writer.writeInteger(stats.totalSize);
+    writer.member(u"category", rawValue(stats.category));
+    writer.member(u"ext", stats.ext);
+    writer.member(u"fileCount", stats.fileCount);
+    writer.member(u"id", stats.id);
+    writer.member(u"totalSize", stats.totalSize);
     writer.endObject();
 }
 
@@ -111,88 +93,29 @@ void writeMap(JsonWriter& writer, const Map& map, WriteValue writeValue) {
 
 void writeFileInfo(JsonWriter& writer, const FileInfo& file) {
     writer.beginObject();
-    writer.key(u"category");
-    writer.writeString(rawValue(file.category));
-    writer.key(u"depth");
-    writer.writeInteger(file.depth);
-    writer.key(u"fileExtension");
-    writer.writeString(file.fileExtension);
-    writeId(writer, file.id);
-    writer.key(u"isDirectory");
-    writer.writeBool(file.isDirectory);
-    writer.key(u"modificationDate");
-    writeDate(writer, file.modificationDate);
-    writer.key(u"name");
-    writer.writeString(file.name);
-    writer.key(u"path");
-    writer.writeString(file.path);
-    writer.key(u"size");
-    writer.writeInteger(file.size);
+    writer.member(u"category", rawValue(file.category));
+    writer.member(u"depth", file.depth);
+    writer.member(u"fileExtension", file.fileExtension);
+    writer.member(u"id", file.id);
+    writer.member(u"isDirectory", file.isDirectory);
+    writer.member(u"modificationDate", formatDate(file.modificationDate));
+    writer.member(u"name", file.name);
+    writer.member(u"path", file.path);
+    writer.member(u"size", file.size);
     writer.endObject();
 }
 
 void writeInsight(JsonWriter& writer, const PatternInsight& insight) {
     writer.beginObject();
-    writer.key(u"affectedCount");
-    writer.writeInteger(insight.affectedCount);
-    writer.key(u"affectedSize");
-    writer.writeInteger(insight.affectedSize);
-    writer.key(u"description");
-    writer.writeString(insight.description);
-    writeId(writer, insight.id);
+    writer.member(u"affectedCount", insight.affectedCount);
+    writer.member(u"affectedSize", insight.affectedSize);
+    writer.member(u"description", insight.description);
+    writer.member(u"id", insight.id);
     writer.key(u"paths");
     writeStrings(writer, insight.paths);
-    writer.key(u"title");
-    writer.writeString(insight.title);
-    writer.key(u"type");
-    writer.writeString(rawValue(insight.type));
+    writer.member(u"title", insight.title);
+    writer.member(u"type", rawValue(insight.type));
     writer.endObject();
-}
-
-// The members that follow "childFolders", once the children are written.
-void writeFolderTail(JsonWriter& writer, const FolderInfo& folder) {
-    writer.key(u"color");
-    writer.writeString(rawValue(folder.color));
-    writer.key(u"depth");
-    writer.writeInteger(folder.depth);
-    writer.key(u"fileCount");
-    writer.writeInteger(folder.fileCount);
-    writeId(writer, folder.id);
-    writer.key(u"name");
-    writer.writeString(folder.name);
-    writer.key(u"path");
-    writer.writeString(folder.path);
-    writer.key(u"totalSize");
-    writer.writeInteger(folder.totalSize);
-}
-
-// Depth first with an explicit stack: a folder's children come first in its object ("childFolders"
-// sorts first), so each folder is opened, its children written, and then it is closed.
-void writeFolderTree(JsonWriter& writer, const FolderInfo& root) {
-    struct OpenFolder {
-        const FolderInfo* folder;
-        std::size_t nextChild;
-    };
-    std::vector<OpenFolder> open;
-    const auto openFolder = [&](const FolderInfo& folder) {
-        writer.beginObject();
-        writer.key(u"childFolders");
-        writer.beginArray();
-        open.push_back({&folder, 0});
-    };
-    openFolder(root);
-    while (!open.empty()) {
-        OpenFolder& top = open.back();
-        if (top.nextChild < top.folder->childFolders.size()) {
-            openFolder(top.folder->childFolders[top.nextChild++]);
-            continue;
-        }
-        const FolderInfo& folder = *top.folder;
-        open.pop_back();
-        writer.endArray();
-        writeFolderTail(writer, folder);
-        writer.endObject();
-    }
 }
 
 template <typename Record, typename WriteOne>
@@ -214,38 +137,24 @@ QByteArray encode(const AnalysisResult& result) {
     writeMap(writer, result.depthDistribution, writeDepthStats);
     writer.key(u"extensionStats");
     writeMap(writer, result.extensionStats, writeExtensionStats);
-    writer.key(u"fileCount");
-    writer.writeInteger(result.fileCount);
-    writer.key(u"folderCount");
-    writer.writeInteger(result.folderCount);
+    writer.member(u"fileCount", result.fileCount);
+    writer.member(u"folderCount", result.folderCount);
     if (result.folderTree) {
         writer.key(u"folderTree");
         writeFolderTree(writer, *result.folderTree);
     }
-    writeId(writer, result.id);
+    writer.member(u"id", result.id);
     writer.key(u"insights");
     writeList(writer, result.insights, writeInsight);
     writer.key(u"largestFiles");
     writeList(writer, result.largestFiles, writeFileInfo);
-    writer.key(u"maxDepth");
-    writer.writeInteger(result.maxDepth);
-    writer.key(u"rootName");
-    writer.writeString(result.rootName);
-    writer.key(u"rootPath");
-    writer.writeString(result.rootPath);
-    writer.key(u"scanDate");
-    writeDate(writer, result.scanDate);
-    writer.key(u"scanDuration");
-    writer.writeNumber(result.scanDuration);
-    writer.key(u"totalSize");
-    writer.writeInteger(result.totalSize);
+    writer.member(u"maxDepth", result.maxDepth);
+    writer.member(u"rootName", result.rootName);
+    writer.member(u"rootPath", result.rootPath);
+    writer.member(u"scanDate", formatDate(result.scanDate));
+    writer.member(u"scanDuration", result.scanDuration);
+    writer.member(u"totalSize", result.totalSize);
     writer.endObject();
-    return writer.take();
-}
-
-QByteArray encode(const FolderInfo& folder) {
-    JsonWriter writer;
-    writeFolderTree(writer, folder);
     return writer.take();
 }
 

@@ -111,26 +111,30 @@ void JsonWriter::appendQuoted(QStringView text) {
     out.append('"');
 }
 
-void JsonWriter::writeString(QStringView text) {
+void JsonWriter::write(QStringView text) {
     beginValue();
     appendQuoted(text);
 }
 
-void JsonWriter::writeInteger(qint64 value) {
+void JsonWriter::write(qint64 value) {
     beginValue();
     out.append(QByteArray::number(value));
 }
 
-void JsonWriter::writeNumber(double value) {
+void JsonWriter::write(double value) {
     beginValue();
     // JSON has no NaN or infinity; a broken duration must not make the whole result unreadable.
     out.append(std::isfinite(value) ? QByteArray::number(value, 'g', QLocale::FloatingPointShortest)
                                     : QByteArray("0"));
 }
 
-void JsonWriter::writeBool(bool value) {
+void JsonWriter::write(bool value) {
     beginValue();
     out.append(value ? "true" : "false");
+}
+
+void JsonWriter::write(const QUuid& id) {
+    write(QString::fromLatin1(id.toByteArray(QUuid::WithoutBraces).toUpper()));
 }
 
 QByteArray JsonWriter::take() {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QStringView>
+#include <QUuid>
 
 #include <vector>
 
@@ -18,10 +19,18 @@ public:
     void endArray();
     void key(QStringView name);
 
-    void writeString(QStringView text);
-    void writeInteger(qint64 value);
-    void writeNumber(double value);
-    void writeBool(bool value);
+    void write(QStringView text);
+    void write(qint64 value);
+    void write(double value);
+    void write(bool value);
+    // The canonical 8-4-4-4-12 form in upper case.
+    void write(const QUuid& id);
+
+    // A name and its value in one call.
+    template <typename Value> void member(QStringView name, const Value& value) {
+        key(name);
+        write(value);
+    }
 
     QByteArray take();
 
