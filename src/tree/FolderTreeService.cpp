@@ -5,6 +5,8 @@
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
+#include <array>
+
 namespace tessarine {
 
 namespace {
@@ -73,20 +75,10 @@ FolderTreeOutcome FolderTreeService::build(const QString& rootPath) {
 }
 
 QString FolderTreeService::phaseName() const {
-    if (!m_progress)
-        return {};
-    switch (m_progress->phase) {
-    case FolderTreeProgress::Phase::enumerating:
-        return QStringLiteral("enumerating");
-    case FolderTreeProgress::Phase::building:
-        return QStringLiteral("building");
-    case FolderTreeProgress::Phase::complete:
-        return QStringLiteral("complete");
-    case FolderTreeProgress::Phase::cancelled:
-        return QStringLiteral("cancelled");
-    }
-    Q_UNREACHABLE();
-    return {};
+    static const std::array<QString, 4> names{
+        QStringLiteral("enumerating"), QStringLiteral("building"), QStringLiteral("complete"),
+        QStringLiteral("cancelled")};
+    return m_progress ? names.at(std::size_t(m_progress->phase)) : QString();
 }
 
 QVariant FolderTreeService::estimatedTimeRemaining() const {

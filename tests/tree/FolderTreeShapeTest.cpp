@@ -1,4 +1,5 @@
 #include "RecordedBuild.h"
+#include "ReferenceTree.h"
 #include "TestTrees.h"
 
 #include "scanner/DirectoryWalker.h"
@@ -8,6 +9,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <tuple>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -25,6 +28,13 @@ const FolderInfo* childNamed(const FolderInfo& folder, const QString& name) {
     return nullptr;
 }
 
+// What a node says about itself, apart from its name, colour and children.
+using Figures = std::tuple<QString, qint64, qint64, qint64>;
+
+Figures figures(const FolderInfo& folder) {
+    return {folder.path, folder.depth, folder.totalSize, folder.fileCount};
+}
+
 qint64 ownEntrySize(const QString& path) {
     struct stat status;
     return lstat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_size) : -1;
@@ -36,6 +46,8 @@ class FolderTreeShapeTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void equalsPlainRecursiveBuild_data();
+    void equalsPlainRecursiveBuild();
     void sumsBottomUpAndDropsEmptyFolders();
     void coloursFollowListingPositionDroppedFoldersIncluded();
     void childrenLargestFirstEqualSizesInListingOrder();
@@ -46,6 +58,27 @@ private slots:
     void keepsOddNames();
     void chainTenThousandFoldersDeep();
 };
+
+void FolderTreeShapeTest::equalsPlainRecursiveBuild_data() {
+    QTest::addColumn<int>("items");
+    QTest::addColumn<unsigned>("seed");
+    QTest::newRow("small") << 300 << 1u;
+    QTest::newRow("wide") << 3000 << 7u;
+}
+
+// Hidden entries, a package, links to files and folders, empty folders and zero-byte files, in
+// the file system's own listing order.
+void FolderTreeShapeTest::equalsPlainRecursiveBuild() {
+    QFETCH(int, items);
+    QFETCH(unsigned, seed);
+    const QTemporaryDir dir = makeFastTemporaryDir();
+    generateTree(dir.path(), items, seed);
+
+    const FolderInfo built = withoutIds(recordBuild(dir.path()).tree());
+
+    QVERIFY(built == withoutIds(referenceTree(dir.path())));
+    QVERIFY(built.childFolders.size() > 1);
+}
 
 void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
     QTemporaryDir dir;
@@ -64,25 +97,17 @@ void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
 
     const FolderInfo tree = recordBuild(root).tree();
 
-    QCOMPARE(tree.path, root);
+    // Hidden entries never count; a dropped folder adds nothing to its parent, not even the
+    // count of its zero-byte files.
+    QCOMPARE(figures(tree), Figures(root, 0, 35, 4));
     QCOMPARE(tree.name, QFileInfo(root).fileName());
-    QCOMPARE(tree.depth, 0);
     QCOMPARE(tree.color, FolderColor::blue);
-    QCOMPARE(tree.totalSize, 35);
-    QCOMPARE(tree.fileCount, 4); // hidden files never count
     QCOMPARE(childNames(tree), QStringList{"x"});
     const FolderInfo& x = tree.childFolders[0];
-    QCOMPARE(x.path, root + "/x");
-    QCOMPARE(x.depth, 1);
-    QCOMPARE(x.totalSize, 30);
-    // A dropped folder adds nothing to its parent, not even the count of its zero-byte files.
-    QCOMPARE(x.fileCount, 3);
+    QCOMPARE(figures(x), Figures(root + "/x", 1, 30, 3));
     QCOMPARE(childNames(x), QStringList{"y"});
     const FolderInfo& y = x.childFolders[0];
-    QCOMPARE(y.path, root + "/x/y");
-    QCOMPARE(y.depth, 2);
-    QCOMPARE(y.totalSize, 20);
-    QCOMPARE(y.fileCount, 2);
+    QCOMPARE(figures(y), Figures(root + "/x/y", 2, 20, 2));
     QVERIFY(y.childFolders.empty());
     QCOMPARE(y.directFilesSize(), 20);
 }
@@ -254,7 +279,7 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
     const int depth = 10000;
     const FolderChain chain(dir.path(), depth);
 
-    RecordedBuild build = recordBuild(dir.path());
+    const RecordedBuild build = recordBuild(dir.path());
 
     const FolderInfo* folder = &build.tree();
     for (int level = 0; level <= depth; ++level) {
@@ -269,7 +294,6 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
     QVERIFY(folder->childFolders.empty());
     QVERIFY(folder->path.endsWith("/d/d"));
     QCOMPARE(build.records.last().processedItems, depth + 1);
-    releaseDeepTree(std::get<FolderInfo>(std::move(build.outcome)));
 }
 
 QTEST_GUILESS_MAIN(FolderTreeShapeTest)

@@ -5,8 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <vector>
-
 namespace tessarine::testing {
 
 bool RecordedBuild::wasCancelled() const {
@@ -64,17 +62,6 @@ QTemporaryDir makeFastTemporaryDir() {
     const QString memoryBacked = QStringLiteral("/dev/shm");
     const QString base = QFileInfo(memoryBacked).isWritable() ? memoryBacked : QDir::tempPath();
     return QTemporaryDir(base + QStringLiteral("/tessarine-tree-XXXXXX"));
-}
-
-void releaseDeepTree(FolderInfo tree) {
-    std::vector<FolderInfo> pending;
-    pending.push_back(std::move(tree));
-    while (!pending.empty()) {
-        FolderInfo last = std::move(pending.back());
-        pending.pop_back();
-        for (FolderInfo& child : last.childFolders)
-            pending.push_back(std::move(child));
-    }
 }
 
 } // namespace tessarine::testing

@@ -37,7 +37,4 @@ QStringList childNames(const FolderInfo& folder);
 // disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.
 QTemporaryDir makeFastTemporaryDir();
 
-// Takes a tree apart leaf first, so that a very deep one is released without deep recursion.
-void releaseDeepTree(FolderInfo tree);
-
 } // namespace tessarine::testing

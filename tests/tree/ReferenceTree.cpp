@@ -1,0 +1,70 @@
+#include "ReferenceTree.h"
+
+#include "scanner/ItemNameRules.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <dirent.h>
+#include <sys/stat.h>
+#include <vector>
+
+namespace tessarine::testing {
+
+namespace {
+
+FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
+                      qint64 colourIndex) {
+    FolderInfo node;
+    node.path = QFile::decodeName(path);
+    node.name = name;
+    node.depth = depth;
+    node.color = folderColorAt(colourIndex);
+    DIR* dir = opendir(path.constData());
+    if (!dir)
+        return node;
+    std::vector<QByteArray> names;
+    while (const dirent* entry = readdir(dir)) {
+        if (!isHiddenName(entry->d_name))
+            names.emplace_back(entry->d_name);
+    }
+    closedir(dir);
+    qint64 subfolders = 0;
+    for (const QByteArray& entryName : names) {
+        const QByteArray entryPath = path + '/' + entryName;
+        struct stat status;
+        const bool known = lstat(entryPath.constData(), &status) == 0;
+        if (known && S_ISDIR(status.st_mode) && !isPackageName(entryName)) {
+            FolderInfo child =
+                folderNode(entryPath, QFile::decodeName(entryName), depth + 1, subfolders++);
+            if (child.totalSize < 1 && child.childFolders.empty())
+                continue;
+            node.totalSize += child.totalSize;
+            node.fileCount += child.fileCount;
+            node.childFolders.push_back(std::move(child));
+        } else {
+            node.totalSize += known ? qint64(status.st_size) : 0;
+            node.fileCount += 1;
+        }
+    }
+    std::stable_sort(
+        node.childFolders.begin(), node.childFolders.end(),
+        [](const FolderInfo& a, const FolderInfo& b) { return a.totalSize > b.totalSize; });
+    return node;
+}
+
+} // namespace
+
+FolderInfo referenceTree(const QString& root) {
+    return folderNode(QFile::encodeName(root), QFileInfo(root).fileName(), 0, 0);
+}
+
+FolderInfo withoutIds(FolderInfo tree) {
+    tree.id = QUuid();
+    for (FolderInfo& child : tree.childFolders)
+        child = withoutIds(std::move(child));
+    return tree;
+}
+
+} // namespace tessarine::testing
