@@ -1,0 +1,44 @@
+#pragma once
+
+#include "BackgroundJob.h"
+#include "ExitCode.h"
+#include "ProgressText.h"
+#include "StandardStreams.h"
+
+#include <functional>
+#include <optional>
+
+namespace tessarine::cli {
+
+// A blocking operation of the core (a scan, a tree build), seen from the command line.
+template <typename Outcome, typename Progress> struct CancellableOperation {
+    std::function<Outcome()> run;
+    std::function<void()> cancel;
+    std::function<std::optional<Progress>()> progress;
+    Outcome cancelled; // what the operation gives when it is called off
+};
+
+// Runs the operation with a live progress line and Ctrl-C handling. An operation that finished in
+// the same instant as Ctrl-C still counts as called off: the user asked for it.
+template <typename Outcome, typename Progress>
+Outcome runCancellable(const CancellableOperation<Outcome, Progress>& operation) {
+    ProgressText<Progress> text;
+    Outcome outcome = operation.cancelled;
+    const bool interrupted = runInBackground({
+        [&] { outcome = operation.run(); },
+        operation.cancel,
+        [&] {
+            const auto progress = operation.progress();
+            return progress ? text.describe(*progress) : QString();
+        },
+    });
+    return interrupted ? operation.cancelled : outcome;
+}
+
+// Prints a failure in its own words and gives the exit status; cancelling is not failing.
+template <typename Error> int reportFailure(const Error& error) {
+    printError(error.errorDescription());
+    return error.kind == Error::Kind::cancelled ? exitCancelled : exitFailure;
+}
+
+} // namespace tessarine::cli

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "model/Records.h"
+
+#include <QList>
+#include <QString>
+
+namespace tessarine::cli {
+
+// The stored scans as an aligned table with a header row: date, folder, total size, files, id.
+// Sizes and counts are right-aligned so that their digits line up.
+QString historyTable(const QList<AnalysisResult>& results);
+
+} // namespace tessarine::cli

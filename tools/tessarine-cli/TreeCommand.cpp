@@ -1,0 +1,49 @@
+#include "Commands.h"
+
+#include "Arguments.h"
+#include "CancellableRun.h"
+
+#include "model/Json.h"
+#include "tree/FolderTreeService.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace tessarine::cli {
+
+namespace {
+
+// The service turns a root it cannot list into an empty tree, which is right for a folder that
+// vanishes under the dashboard but would hide a mistyped path here.
+bool isListableFolder(const QFileInfo& folder) {
+    return folder.isDir() && folder.isReadable() && folder.isExecutable();
+}
+
+FolderTreeOutcome buildTree(const QString& rootPath) {
+    FolderTreeService service;
+    return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
+        [&] { return service.build(rootPath); },
+        [&] { service.setCancelled(true); },
+        [&] { return service.progress(); },
+        FolderTreeError{FolderTreeError::Kind::cancelled, {}},
+    });
+}
+
+} // namespace
+
+int runTree(const QStringList& arguments) {
+    const auto parsing = parseFolderCommand(arguments, {}, QStringLiteral("tree"));
+    if (const int* usageStatus = std::get_if<int>(&parsing))
+        return *usageStatus;
+    const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
+    const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
+    if (!isListableFolder(folder))
+        return reportFailure(FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath});
+
+    const FolderTreeOutcome outcome = buildTree(rootPath);
+    if (const auto* error = std::get_if<FolderTreeError>(&outcome))
+        return reportFailure(*error);
+    return writeOutput(json::encode(std::get<FolderInfo>(outcome))) ? exitSuccess : exitFailure;
+}
+
+} // namespace tessarine::cli

@@ -1,0 +1,43 @@
+#include "Usage.h"
+
+#include "ExitCode.h"
+#include "StandardStreams.h"
+
+namespace tessarine::cli {
+
+namespace {
+
+QString usageText() {
+    return QStringLiteral(
+        "Usage:\n"
+        "  tessarine-cli scan FOLDER [--save] [--csv]\n"
+        "  tessarine-cli tree FOLDER\n"
+        "  tessarine-cli history [--json]\n"
+        "  tessarine-cli history delete ID\n"
+        "  tessarine-cli --help\n"
+        "\n"
+        "Commands:\n"
+        "  scan     Analyse FOLDER and print the result as JSON, in the form of the history "
+        "files.\n"
+        "           --save  also store the result in the scan history of the desktop app\n"
+        "           --csv   print the largest files as CSV instead of JSON\n"
+        "  tree     Print the size of every folder below FOLDER as a JSON tree.\n"
+        "  history  List the stored scans, newest first; --json prints them as a JSON array.\n"
+        "           history delete ID removes one stored scan.\n"
+        "\n"
+        "On a terminal, scan and tree show their progress on standard error; Ctrl-C cancels.\n"
+        "Exit status: 0 done, 1 failed, 2 bad usage, 130 cancelled.\n");
+}
+
+} // namespace
+
+int printUsage() {
+    return writeOutput(usageText().toUtf8()) ? exitSuccess : exitFailure;
+}
+
+int usageError(const QString& problem) {
+    writeToStandardError((problem + u'\n' + usageText()).toUtf8());
+    return exitUsage;
+}
+
+} // namespace tessarine::cli
