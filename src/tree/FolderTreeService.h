@@ -21,7 +21,7 @@ using FolderTreeOutcome = std::variant<FolderInfo, FolderTreeError>;
 // Builds the per-folder size tree of a scanned folder on demand. build() blocks its (worker)
 // thread; every progress record and the end of isBuilding are delivered on the thread the service
 // lives on (the user-interface thread), through queued calls. isCancelled may be set from any
-// thread while a build runs. The service must outlive a build that is running.
+// thread while a build runs. One build at a time; the service must outlive a running build.
 class FolderTreeService : public QObject {
     Q_OBJECT
     // The latest progress record, field by field for the interface; all change together.
