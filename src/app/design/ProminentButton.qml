@@ -18,7 +18,7 @@ Button {
         text: button.text
         symbol: button.symbol
         font: button.font
-        color: Theme.onAccent
+        color: Theme.labelOnAccent
     }
 
     background: Rectangle {

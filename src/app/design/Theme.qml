@@ -39,7 +39,7 @@ QtObject {
     readonly property color sidebarSelection: Qt.rgba(0, 0, 0, 0.07)
     readonly property color material: Qt.rgba(1, 1, 1, 0.82)
     readonly property color contentBackground: "#F5F5F7"
-    readonly property color onAccent: "#FFFFFF"
+    readonly property color labelOnAccent: "#FFFFFF"
 
     // A colour by its name: the named and semantic colours above, so that data carrying a colour
     // name (a category, a folder colour) can be painted. Unknown names give the secondary colour.

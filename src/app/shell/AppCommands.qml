@@ -1,0 +1,35 @@
+import QtQuick
+import Tessarine.App
+
+// The application's menu commands and their keyboard shortcuts. The shortcuts work from every
+// window of the application, as menu commands do.
+Item {
+    signal helpRequested
+
+    function newScan() {
+        AppState.showFolderPicker = true
+    }
+
+    function viewHistory() {
+        AppState.currentView = AppState.History
+    }
+
+    Shortcut {
+        sequence: "Ctrl+N"
+        context: Qt.ApplicationShortcut
+        onActivated: newScan()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Shift+H"
+        context: Qt.ApplicationShortcut
+        onActivated: viewHistory()
+    }
+
+    Shortcut {
+        // "?" is a shifted key on most layouts, and not every platform folds the Shift away.
+        sequences: ["Ctrl+?", "Ctrl+Shift+?"]
+        context: Qt.ApplicationShortcut
+        onActivated: helpRequested()
+    }
+}

@@ -1,0 +1,37 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+
+// The main window: the sidebar and the current screen, the menu commands, and the one error
+// alert that every screen of the window shares.
+ApplicationWindow {
+    id: window
+
+    width: 1200
+    height: 800
+    minimumWidth: 900
+    minimumHeight: 600
+    visible: true
+    title: "Tessarine"
+    color: Theme.windowBackground
+    font: Theme.body
+
+    menuBar: AppMenuBar {
+        commands: commands
+    }
+
+    AppCommands {
+        id: commands
+        onHelpRequested: helpWindow.showHelp()
+    }
+
+    ContentView {
+        anchors.fill: parent
+    }
+
+    ErrorAlert {}
+
+    HelpWindow {
+        id: helpWindow
+    }
+}

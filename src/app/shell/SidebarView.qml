@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+import Tessarine.Screens
+
+// The sidebar: where to go (a new scan, the analysis on display, the past scans) and the five
+// newest results, one click away.
+Rectangle {
+    color: Theme.sidebarBackground
+
+    Flickable {
+        anchors.fill: parent
+        contentHeight: sections.implicitHeight + Theme.spacingXLarge
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        ScrollBar.vertical: ScrollBar {}
+
+        Column {
+            id: sections
+            x: Theme.spacingMedium - 2
+            y: Theme.spacingLarge
+            width: parent.width - 2 * x
+            spacing: Theme.spacingLarge
+
+            Text {
+                leftPadding: Theme.spacingSmall
+                text: "Tessarine"
+                font: Theme.weighted(Theme.title2, Font.Bold)
+                color: Theme.primary
+            }
+
+            SidebarSection {
+                title: "Analyze"
+                SidebarRow {
+                    text: "New Scan"
+                    symbol: "folder.badge.plus"
+                    view: AppState.Landing
+                }
+                SidebarRow {
+                    objectName: "currentAnalysisRow"
+                    text: "Current Analysis"
+                    symbol: "chart.pie"
+                    view: AppState.Dashboard
+                    visible: AppState.currentResult.valid
+                }
+            }
+
+            SidebarSection {
+                title: "History"
+                SidebarRow {
+                    text: "Past Scans"
+                    symbol: "clock.arrow.circlepath"
+                    view: AppState.History
+                }
+            }
+
+            SidebarSection {
+                objectName: "recentSection"
+                title: "Recent"
+                visible: AppState.scanHistory.count > 0
+                Repeater {
+                    model: FirstRowsModel {
+                        sourceModel: AppState.scanHistory
+                        limit: 5
+                    }
+                    delegate: RecentScanRow {}
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,86 @@
+import QtQuick
+import QtTest
+import Tessarine
+import Tessarine.App
+import Tessarine.Testing
+
+// The tested items live in this visible window content: a TestCase itself is never shown.
+Item {
+    id: stage
+
+    width: 1200
+    height: 800
+
+    TestCase {
+        id: testCase
+
+        name: "DropTarget"
+        when: windowShown
+
+        Component {
+            id: contentComponent
+            ContentView {
+                width: stage.width
+                height: stage.height
+            }
+        }
+
+        property ContentView content
+
+        function init() {
+            content = createTemporaryObject(contentComponent, stage)
+            AppState.currentView = AppState.Landing
+        }
+
+        function cleanup() {
+            Fixture.leave()
+            if (AppState.isScanning)
+                AppState.cancelScan()
+            AppState.clearError()
+            Fixture.forgetFolderScans()
+        }
+
+        function overlay() {
+            return findChild(content, "dropOverlay")
+        }
+
+        function test_droppedFolderStartsAScan() {
+            verify(Fixture.dragOver(content, Fixture.folderUrl))
+            verify(content.isDropTargeted)
+            verify(overlay().shown)
+            verify(!overlay().startsNewScan)
+            compare(Fixture.drop(), Qt.CopyAction)
+            verify(!content.isDropTargeted)
+            tryCompare(AppState, "currentView", AppState.Scanning)
+            tryCompare(AppState, "isScanning", false, 30000)
+            compare(AppState.currentView, AppState.Dashboard)
+            compare(AppState.currentResult.rootPath, Fixture.folderPath)
+
+            // Over the dashboard the overlay says that a new scan replaces the one on display.
+            verify(Fixture.dragOver(content, Fixture.folderUrl))
+            verify(overlay().startsNewScan)
+            Fixture.leave()
+            verify(!content.isDropTargeted)
+            tryCompare(overlay(), "visible", false)
+        }
+
+        function test_droppedFileIsAcceptedAndIgnored() {
+            verify(Fixture.dragOver(content, Fixture.fileUrl))
+            compare(Fixture.drop(), Qt.CopyAction)
+            wait(50)
+            compare(AppState.currentView, AppState.Landing)
+            verify(!AppState.isScanning)
+            verify(!AppState.error.present)
+        }
+
+        function test_dropsAreRefusedWhileScanning() {
+            AppState.startScan(Fixture.folderUrl)
+            verify(AppState.isScanning)
+            verify(!Fixture.dragOver(content, Fixture.folderUrl))
+            verify(!content.isDropTargeted)
+            verify(!overlay().shown)
+            compare(Fixture.drop(), Qt.IgnoreAction)
+            compare(AppState.currentView, AppState.Scanning)
+        }
+    }
+}

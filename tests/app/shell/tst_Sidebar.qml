@@ -1,0 +1,68 @@
+import QtQuick
+import QtTest
+import Tessarine
+import Tessarine.App
+import Tessarine.Testing
+
+// The tested items live in this visible window content: a TestCase itself is never shown.
+Item {
+    id: stage
+
+    width: 250
+    height: 800
+
+    TestCase {
+        id: testCase
+
+        name: "Sidebar"
+        when: windowShown
+
+        Component {
+            id: sidebarComponent
+            SidebarView {
+                width: stage.width
+                height: stage.height
+            }
+        }
+
+        function rowsNamed(item, objectName) {
+            let found = []
+            for (let i = 0; i < item.children.length; ++i) {
+                const child = item.children[i]
+                if (child.objectName === objectName)
+                    found.push(child)
+                found = found.concat(rowsNamed(child, objectName))
+            }
+            return found
+        }
+
+        function test_recentRowsShowTheFiveNewestScans() {
+            compare(AppState.scanHistory.count, Fixture.storedScanCount)
+            const sidebar = createTemporaryObject(sidebarComponent, stage)
+            verify(findChild(sidebar, "recentSection").visible)
+            const rows = rowsNamed(sidebar, "recentScanRow")
+            compare(rows.length, 5)
+            // The newest is a scan of "/": the text after its only slash is empty.
+            compare(rows[0].folderName, "")
+            compare(rows[1].folderName, "Project 1")
+            compare(rows[4].folderName, "Project 4")
+            compare(rows[1].totalSize, AppState.scanHistory.at(1).totalSize)
+        }
+
+        function test_choosingARecentRowShowsItsResult() {
+            AppState.currentView = AppState.History
+            const sidebar = createTemporaryObject(sidebarComponent, stage)
+            const row = rowsNamed(sidebar, "recentScanRow")[2]
+            mouseClick(row)
+            compare(AppState.currentResult.id, AppState.scanHistory.at(2).id)
+            compare(AppState.currentView, AppState.Dashboard)
+            const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
+            verify(currentAnalysis.visible)
+            verify(currentAnalysis.selected)
+
+            mouseClick(rowsNamed(sidebar, "recentScanRow")[0])
+            compare(AppState.currentResult.rootPath, "/")
+            compare(AppState.currentView, AppState.Dashboard)
+        }
+    }
+}
