@@ -6,7 +6,7 @@ DIR        ?= $(CURDIR)
 JOBS       ?= $(shell nproc)
 CMAKE_GEN   = cmake -G Ninja -Wno-dev
 
-.PHONY: deps build run test test-fast test-asan bench format clean
+.PHONY: deps build run scan screenshots test test-fast test-asan bench format clean
 
 deps:
 	@bash scripts/install-deps.sh
@@ -18,7 +18,15 @@ build: deps $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
 
 run: build
+	$(BUILD)/src/app/shell/tessarine
+
+scan: build
 	$(BUILD)/tools/tessarine-cli scan "$(DIR)"
+
+# Renders the main window in its characteristic states to $(BUILD)/screenshots/.
+screenshots: build
+	cd $(BUILD) && ctest --output-on-failure -L screenshots
+	@ls -1 $(BUILD)/screenshots/*.png
 
 test-fast: build
 	cd $(BUILD) && ctest --output-on-failure -j $(JOBS)

@@ -1,28 +1,38 @@
 import QtQuick
 import Tessarine.App
 
-// The symbol-and-text content shared by the application's buttons.
-Row {
+// The symbol-and-text content shared by the application's buttons, centred in whatever width the
+// button gives it.
+Item {
+    id: label
+
     property string text
     property string symbol
     property color color: Theme.primary
     property font font: Theme.body
 
-    spacing: 6
+    implicitWidth: content.implicitWidth
+    implicitHeight: content.implicitHeight
 
-    Icon {
-        anchors.verticalCenter: parent.verticalCenter
-        visible: parent.symbol !== ""
-        symbol: parent.symbol
-        size: parent.font.pixelSize + 3
-        color: parent.color
-    }
+    Row {
+        id: content
+        anchors.centerIn: parent
+        spacing: 6
 
-    Text {
-        anchors.verticalCenter: parent.verticalCenter
-        visible: text !== ""
-        text: parent.text
-        font: parent.font
-        color: parent.color
+        Icon {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: label.symbol !== ""
+            symbol: label.symbol
+            size: label.font.pixelSize + 3
+            color: label.color
+        }
+
+        Text {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text !== ""
+            text: label.text
+            font: label.font
+            color: label.color
+        }
     }
 }

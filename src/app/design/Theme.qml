@@ -37,7 +37,7 @@ QtObject {
     // Surfaces that stand in for translucent materials, which the scene graph cannot blur.
     readonly property color sidebarBackground: "#E9E9EB"
     readonly property color sidebarSelection: Qt.rgba(0, 0, 0, 0.07)
-    readonly property color material: Qt.rgba(1, 1, 1, 0.82)
+    readonly property color material: Qt.rgba(1, 1, 1, 0.94)
     readonly property color contentBackground: "#F5F5F7"
     readonly property color labelOnAccent: "#FFFFFF"
 

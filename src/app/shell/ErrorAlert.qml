@@ -87,7 +87,7 @@ Dialog {
 
     background: Rectangle {
         radius: Theme.radiusCard + 2
-        color: Theme.material
+        color: Theme.controlBackground
         border.width: 1
         border.color: Theme.separator
 
