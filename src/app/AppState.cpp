@@ -18,6 +18,15 @@ constexpr auto progressWatchInterval = std::chrono::milliseconds(120);
 
 AppState* sharedInstance = nullptr;
 
+// Assigns the value when it differs, and says whether it did: assigning an equal value must not
+// notify the views.
+template <typename T> bool assignIfChanged(T& field, const T& value) {
+    if (field == value)
+        return false;
+    field = value;
+    return true;
+}
+
 QString folderPathOf(const QUrl& folder) {
     return folder.isLocalFile() ? folder.toLocalFile() : folder.toString(QUrl::PreferLocalFile);
 }
@@ -53,45 +62,33 @@ void AppState::setSharedInstance(AppState* state) {
 }
 
 void AppState::setCurrentView(AppView view) {
-    if (m_currentView == view)
-        return;
-    m_currentView = view;
-    emit currentViewChanged();
+    if (assignIfChanged(m_currentView, view))
+        emit currentViewChanged();
 }
 
 void AppState::setCurrentResult(const ResultHandle& result) {
-    if (m_currentResult == result)
-        return;
-    m_currentResult = result;
-    emit currentResultChanged();
+    if (assignIfChanged(m_currentResult, result))
+        emit currentResultChanged();
 }
 
 void AppState::setShowFolderPicker(bool show) {
-    if (m_showFolderPicker == show)
-        return;
-    m_showFolderPicker = show;
-    emit showFolderPickerChanged();
+    if (assignIfChanged(m_showFolderPicker, show))
+        emit showFolderPickerChanged();
 }
 
 void AppState::setIsScanning(bool scanning) {
-    if (m_isScanning == scanning)
-        return;
-    m_isScanning = scanning;
-    emit isScanningChanged();
+    if (assignIfChanged(m_isScanning, scanning))
+        emit isScanningChanged();
 }
 
 void AppState::setScanProgress(const ProgressHandle& progress) {
-    if (m_scanProgress == progress)
-        return;
-    m_scanProgress = progress;
-    emit scanProgressChanged();
+    if (assignIfChanged(m_scanProgress, progress))
+        emit scanProgressChanged();
 }
 
 void AppState::setError(const ErrorHandle& error) {
-    if (m_error == error)
-        return;
-    m_error = error;
-    emit errorChanged();
+    if (assignIfChanged(m_error, error))
+        emit errorChanged();
 }
 
 void AppState::clearError() {
