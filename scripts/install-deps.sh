@@ -12,7 +12,7 @@ packages=(
   # QML modules loaded at run time
   qml6-module-qtqml qml6-module-qtqml-models qml6-module-qtqml-workerscript
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
-  qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtquick-dialogs
+  qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
   qml6-module-qtquick-shapes qml6-module-qttest qt6-qpa-plugins
   # fonts: text face and the icon set
   fonts-inter fonts-material-design-icons-iconfont
