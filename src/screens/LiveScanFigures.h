@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/ProgressHandle.h"
+#include "screens/FigureListModel.h"
+#include "screens/ScanRateMeter.h"
+#include "screens/ScanStatus.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace tessarine {
+
+// Everything the scanning screen shows of the bound progress: the status panel's texts, the
+// performance cards, the statistics boxes and the share done. The screen's one-second timer calls
+// tick, which measures the rates and lets the clock-based texts move on between snapshots.
+class LiveScanFigures : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(
+        tessarine::ProgressHandle progress READ progress WRITE setProgress NOTIFY progressChanged)
+    Q_PROPERTY(tessarine::ScanStatus status READ status NOTIFY figuresChanged)
+    Q_PROPERTY(tessarine::FigureListModel* performance READ performance CONSTANT)
+    Q_PROPERTY(tessarine::FigureListModel* statistics READ statistics CONSTANT)
+    Q_PROPERTY(bool hasEstimate READ hasEstimate NOTIFY figuresChanged)
+    Q_PROPERTY(double completedFraction READ completedFraction NOTIFY figuresChanged)
+
+public:
+    explicit LiveScanFigures(QObject* parent = nullptr);
+
+    ProgressHandle progress() const { return m_progress; }
+    void setProgress(const ProgressHandle& progress);
+    const ScanStatus& status() const { return m_status; }
+    FigureListModel* performance() { return &m_performance; }
+    FigureListModel* statistics() { return &m_statistics; }
+    bool hasEstimate() const { return m_completedFraction.has_value(); }
+    double completedFraction() const { return m_completedFraction.value_or(0); }
+
+    // One period of the screen's timer. Without a snapshot there is nothing to measure.
+    Q_INVOKABLE void tick();
+
+signals:
+    void progressChanged();
+    void figuresChanged();
+
+private:
+    void update();
+
+    ProgressHandle m_progress;
+    ScanRateMeter m_rates;
+    ScanStatus m_status;
+    std::optional<double> m_completedFraction;
+    FigureListModel m_performance;
+    FigureListModel m_statistics;
+};
+
+} // namespace tessarine

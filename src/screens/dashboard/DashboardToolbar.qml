@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Layouts
+import Tessarine.App
+
+// The dashboard's actions, at the trailing end of the bar above its content.
+Rectangle {
+    implicitHeight: 48
+    color: Theme.controlBackground
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: Theme.separator
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.spacingLarge
+        anchors.rightMargin: Theme.spacingLarge
+        spacing: Theme.spacingSmall
+
+        Item { Layout.fillWidth: true }
+
+        BorderedButton {
+            objectName: "newScanButton"
+            text: "New Scan"
+            symbol: "folder.badge.plus"
+            onClicked: AppState.showFolderPicker = true
+        }
+    }
+}

@@ -1,0 +1,68 @@
+import QtQuick
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// One detected pattern: its kind's symbol on a tinted tile, what it is, and how much it weighs.
+Rectangle {
+    id: card
+
+    required property var insight
+    readonly property color tint: Theme.named(InsightStyle.color(insight.typeName))
+
+    implicitHeight: content.implicitHeight + 2 * 14
+    radius: 10
+    color: Theme.withOpacity(Theme.secondary, 0.05)
+
+    RowLayout {
+        id: content
+
+        anchors.fill: parent
+        anchors.margins: 14
+        spacing: Theme.spacingMedium
+
+        Rectangle {
+            Layout.alignment: Qt.AlignTop
+            implicitWidth: 36
+            implicitHeight: 36
+            radius: 8
+            color: Theme.withOpacity(card.tint, 0.1)
+
+            Icon {
+                anchors.centerIn: parent
+                symbol: InsightStyle.symbol(card.insight.typeName)
+                size: 18
+                color: card.tint
+            }
+        }
+
+        ColumnLayout {
+            Layout.fillWidth: true
+            Layout.alignment: Qt.AlignTop
+            spacing: 3
+
+            Text {
+                Layout.fillWidth: true
+                text: card.insight.title
+                font: Theme.weighted(Theme.subheadline, Font.Medium)
+                color: Theme.primary
+                wrapMode: Text.Wrap
+            }
+
+            Text {
+                Layout.fillWidth: true
+                text: card.insight.description
+                font: Theme.caption
+                color: Theme.secondary
+                wrapMode: Text.Wrap
+            }
+
+            Text {
+                visible: card.insight.affectedSize >= 1
+                text: Format.byteCount(card.insight.affectedSize) + " affected"
+                font: Theme.extraSmall
+                color: card.tint
+            }
+        }
+    }
+}

@@ -1,0 +1,92 @@
+import QtQuick
+import QtQuick.Layouts
+import Tessarine.App
+
+// The start screen: drop a folder or pick one, or reopen one of the latest scans.
+Item {
+    id: landing
+
+    // True while a drag carrying file locations hovers over the screen.
+    property bool isTargeted: false
+
+    // Starts a scan of the first dropped location when it is a folder; a dropped file or a
+    // location that cannot be read is ignored without a word.
+    function acceptDrop(urls) {
+        if (urls.length > 0 && FolderDrop.isFolder(urls[0]))
+            AppState.startScan(urls[0])
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        gradient: Gradient {
+            GradientStop { position: 0; color: "#F8F9FD" }
+            GradientStop { position: 0.6; color: "#F1F1F7" }
+            GradientStop { position: 1; color: "#ECE8F5" }
+        }
+    }
+
+    Flickable {
+        id: scroller
+
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: Math.max(height, content.implicitHeight + 2 * Theme.spacingHuge)
+        boundsBehavior: Flickable.StopAtBounds
+
+        ColumnLayout {
+            id: content
+
+            width: Math.min(scroller.width - 2 * Theme.spacingHuge, 720)
+            x: (scroller.width - width) / 2
+            y: Math.max(Theme.spacingHuge, (scroller.height - implicitHeight) / 2)
+            spacing: Theme.spacingSection
+
+            LandingHero {
+                Layout.alignment: Qt.AlignHCenter
+                Layout.bottomMargin: Theme.spacingSmall
+            }
+
+            DropZone {
+                objectName: "dropZone"
+                Layout.alignment: Qt.AlignHCenter
+                Layout.preferredWidth: Math.min(480, content.width)
+                targeted: landing.isTargeted
+                onClicked: AppState.showFolderPicker = true
+            }
+
+            OrSeparator { Layout.alignment: Qt.AlignHCenter }
+
+            ProminentButton {
+                Layout.alignment: Qt.AlignHCenter
+                text: "Select Folder"
+                symbol: "folder"
+                onClicked: AppState.showFolderPicker = true
+            }
+
+            RecentScansSection {
+                objectName: "recentScans"
+                Layout.fillWidth: true
+                Layout.topMargin: Theme.spacingSmall
+                visible: AppState.scanHistory.count > 0
+            }
+        }
+    }
+
+    DropArea {
+        anchors.fill: parent
+        onEntered: (drag) => {
+            drag.accepted = drag.hasUrls
+            landing.isTargeted = drag.hasUrls
+        }
+        onExited: landing.isTargeted = false
+        onDropped: (drop) => {
+            landing.isTargeted = false
+            if (!drop.hasUrls || drop.urls.length === 0) {
+                drop.accepted = false
+                return
+            }
+            drop.acceptProposedAction()
+            landing.acceptDrop(drop.urls)
+        }
+    }
+}

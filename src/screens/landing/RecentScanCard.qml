@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+import Tessarine.Screens
+
+// One of the latest scans on the start screen; a click shows it on the dashboard.
+AbstractButton {
+    id: card
+
+    required property var result
+
+    implicitWidth: 210
+    padding: Theme.spacingMedium
+    Accessible.name: result.rootName
+
+    onClicked: AppState.openResult(result)
+
+    background: Rectangle {
+        radius: Theme.radiusButton
+        color: card.down ? "#F2F2F5" : Theme.controlBackground
+        border.width: 1
+        border.color: card.hovered ? Theme.withOpacity(Theme.accent, 0.4) : Theme.separator
+    }
+
+    contentItem: Column {
+        spacing: Theme.spacingSmall
+
+        Row {
+            width: parent.width
+            spacing: 6
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "folder.fill"
+                color: Theme.blue
+            }
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width - 22
+                text: card.result.rootName
+                font: Theme.headline
+                color: Theme.primary
+                elide: Text.ElideMiddle
+            }
+        }
+
+        Row {
+            spacing: Theme.spacingMedium
+
+            DetailLabel {
+                symbol: "internaldrive"
+                text: Format.byteCount(card.result.totalSize)
+            }
+
+            DetailLabel {
+                symbol: "clock"
+                text: Format.relativeDate(card.result.scanDate)
+            }
+        }
+    }
+}

@@ -1,0 +1,119 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// The right panel of the scanning screen: the phase steps, then performance, location and
+// statistics (placeholders before the first snapshot), then the activity log.
+ColumnLayout {
+    id: panel
+
+    required property LiveScanFigures figures
+    required property ActivityLogModel activityLog
+    required property var progress
+
+    spacing: 0
+
+    // Anchored rather than laid out, so that the steps replacing "Initializing..." when the first
+    // snapshot arrives take their place at the trailing edge at once.
+    Item {
+        Layout.fillWidth: true
+        implicitHeight: 56
+
+        Text {
+            anchors.left: parent.left
+            anchors.leftMargin: 20
+            anchors.verticalCenter: parent.verticalCenter
+            text: "Scan Details"
+            font: Theme.headline
+            color: Theme.primary
+        }
+
+        PhaseStepsIndicator {
+            anchors.right: parent.right
+            anchors.rightMargin: 20
+            anchors.verticalCenter: parent.verticalCenter
+            visible: panel.progress.valid
+            phase: panel.progress.phase
+        }
+
+        Text {
+            anchors.right: parent.right
+            anchors.rightMargin: 20
+            anchors.verticalCenter: parent.verticalCenter
+            visible: !panel.progress.valid
+            text: "Initializing..."
+            font: Theme.caption
+            color: Theme.secondary
+        }
+    }
+
+    Rectangle {
+        Layout.fillWidth: true
+        implicitHeight: 1
+        color: Theme.separator
+    }
+
+    ScrollView {
+        id: scroller
+
+        Layout.fillWidth: true
+        Layout.fillHeight: true
+        contentWidth: availableWidth
+
+        ColumnLayout {
+            x: 20
+            width: scroller.availableWidth - 40
+            spacing: 24
+
+            ScanSection {
+                Layout.topMargin: 20
+                title: "Performance"
+                icon: "speedometer"
+
+                PerformanceCards {
+                    Layout.fillWidth: true
+                    figures: panel.figures.performance
+                    placeholder: !panel.progress.valid
+                }
+            }
+
+            ScanSection {
+                title: "Current Location"
+                icon: "location.fill"
+
+                LocationCrumbs {
+                    Layout.fillWidth: true
+                    crumbs: panel.figures.status.locationCrumbs
+                    emptyText: panel.progress.valid ? "Waiting for scan to start..."
+                                                    : "Preparing to scan..."
+                }
+            }
+
+            ScanSection {
+                title: "Statistics"
+                icon: "chart.bar.fill"
+
+                StatisticsGrid {
+                    Layout.fillWidth: true
+                    figures: panel.figures.statistics
+                    placeholder: !panel.progress.valid
+                }
+
+                ScanProgressBar {
+                    Layout.fillWidth: true
+                    Layout.topMargin: 8 - Theme.spacingMedium
+                    visible: panel.figures.hasEstimate
+                    percentage: panel.figures.completedFraction
+                }
+            }
+
+            ActivityLogView {
+                Layout.fillWidth: true
+                Layout.bottomMargin: 20
+                entries: panel.activityLog
+            }
+        }
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+import Tessarine.App
+import Tessarine.Screens
+
+// The spinning ring with the phase's symbol and the item count inside, and the phase under it.
+Column {
+    id: view
+
+    required property var status
+    required property bool hasProgress
+    required property real rotationAngle
+
+    spacing: Theme.spacingSmall
+
+    Item {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: 160
+        height: 160
+
+        ScannerRing { anchors.fill: parent }
+
+        ScannerArc {
+            anchors.fill: parent
+            rotation: view.rotationAngle
+        }
+
+        Column {
+            anchors.centerIn: parent
+            spacing: 2
+
+            GradientIcon {
+                anchors.horizontalCenter: parent.horizontalCenter
+                symbol: view.status.phaseSymbol
+                size: 28
+            }
+
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: view.hasProgress
+                text: view.status.itemCount
+                font: Theme.monospaced(Theme.title3, Font.Bold)
+                color: Theme.primary
+            }
+
+            Text {
+                anchors.horizontalCenter: parent.horizontalCenter
+                visible: view.hasProgress
+                text: "items"
+                font: Theme.extraSmall
+                color: Theme.secondary
+            }
+        }
+    }
+
+    Item {
+        width: 1
+        height: Theme.spacingTiny
+    }
+
+    Text {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: view.status.phaseTitle
+        font: Theme.headline
+        color: Theme.primary
+    }
+
+    Text {
+        anchors.horizontalCenter: parent.horizontalCenter
+        text: view.status.phaseDescription
+        font: Theme.caption
+        color: Theme.secondary
+    }
+
+    Text {
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(implicitWidth, 280)
+        visible: view.status.currentName !== ""
+        text: view.status.currentName
+        font: Theme.monospaced(Theme.caption)
+        color: Theme.tertiary
+        elide: Text.ElideMiddle
+        maximumLineCount: 1
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import Tessarine.App
+
+// The ring's spinning arc: a third of the circle with round caps, blue to purple. It is painted
+// once; the spin turns the item, so the canvas never repaints while the scan runs.
+Canvas {
+    onPaint: {
+        const context = getContext("2d")
+        context.reset()
+        const centre = width / 2
+        const gradient = context.createLinearGradient(0, 0, width, height)
+        gradient.addColorStop(0, Theme.blue)
+        gradient.addColorStop(1, Theme.purple)
+        context.lineWidth = 5
+        context.lineCap = "round"
+        context.strokeStyle = gradient
+        context.beginPath()
+        context.arc(centre, centre, centre - 3, -Math.PI / 2, -Math.PI / 2 + 0.35 * 2 * Math.PI)
+        context.stroke()
+    }
+}

@@ -1,0 +1,68 @@
+import QtQuick
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// What the window shows while a scan runs: the status panel with the spinning ring, counters and
+// Cancel on the left, the live details and the activity log on the right.
+Rectangle {
+    id: scanning
+
+    // Angle of the ring's spinning arc; one turn every two seconds for as long as the screen lives.
+    property real rotationAngle: 0
+
+    color: Theme.windowBackground
+
+    LiveScanFigures {
+        id: figures
+
+        progress: AppState.scanProgress
+    }
+
+    ActivityLogModel {
+        id: activityLog
+
+        currentPath: AppState.scanProgress.currentPath
+    }
+
+    Timer {
+        interval: 1000
+        repeat: true
+        running: true
+        onTriggered: figures.tick()
+    }
+
+    NumberAnimation on rotationAngle {
+        from: 0
+        to: 360
+        duration: 2000
+        loops: Animation.Infinite
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        ScanStatusPanel {
+            Layout.preferredWidth: 380
+            Layout.fillHeight: true
+            status: figures.status
+            hasProgress: AppState.scanProgress.valid
+            rotationAngle: scanning.rotationAngle
+        }
+
+        Rectangle {
+            Layout.fillHeight: true
+            implicitWidth: 1
+            color: Theme.separator
+        }
+
+        ScanDetailsPanel {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            figures: figures
+            activityLog: activityLog
+            progress: AppState.scanProgress
+        }
+    }
+}

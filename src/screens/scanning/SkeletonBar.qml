@@ -1,0 +1,8 @@
+import QtQuick
+import Tessarine.App
+
+// The grey bar that stands where a value will appear.
+Rectangle {
+    radius: 4
+    color: Theme.withOpacity(Theme.secondary, 0.2)
+}

@@ -1,0 +1,20 @@
+import QtQuick
+import QtTest
+import Tessarine.Fixtures
+
+// A test case the size of the main window that can save what a view rendered.
+TestCase {
+    width: 1200
+    height: 800
+    visible: true
+    when: windowShown
+
+    function saveScreenshot(item, name) {
+        let saved = false
+        verify(item.grabToImage(result => {
+            result.saveToFile(Fixtures.screenshotPath(name))
+            saved = true
+        }))
+        tryVerify(() => saved)
+    }
+}

@@ -1,0 +1,82 @@
+import QtQuick
+import QtTest
+import Tessarine.App
+import Tessarine.Fixtures
+import Tessarine.Screens
+import "ViewSearch.js" as ViewSearch
+
+ScreenTestCase {
+    id: testCase
+
+    name: "DashboardView"
+
+    Component {
+        id: dashboardComponent
+
+        DashboardView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    function init() {
+        AppState.currentView = AppState.Dashboard
+        AppState.showFolderPicker = false
+    }
+
+    function summaryCards(view) {
+        return ViewSearch.withProperty(view, "isAnimated")
+    }
+
+    function test_headerAndSummaryCards() {
+        Fixtures.showResult("/Users/ann/Movies")
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        const cards = summaryCards(view)
+        compare(cards.length, 4)
+        // Every card ends fully shown, whatever order the random delays gave them.
+        for (const card of cards)
+            tryCompare(card, "opacity", 1)
+        compare(cards.map(card => card.title), ["Total Size", "Files", "Folders", "Max Depth"])
+        compare(cards.map(card => card.value), ["2.5 GB", "1,234", "87", "12"])
+
+        const texts = ViewSearch.texts(view)
+        for (const expected of ["Movies", "/Users/ann/Movies", "Scanned in 12.3 seconds",
+                                "levels deep", "Rescan", "New Scan"])
+            verify(texts.indexOf(expected) >= 0, expected)
+        saveScreenshot(view, "dashboard")
+    }
+
+    function test_insightsShowOnlyWhatIsThere() {
+        Fixtures.showResult("/Users/ann/Library")
+        let view = createTemporaryObject(dashboardComponent, testCase)
+        verify(ViewSearch.shows(view, "Insights"))
+        verify(ViewSearch.shows(view, "Large cache files"))
+        verify(ViewSearch.shows(view, "Empty folders"))
+        // Only the insight that weighs something says how much.
+        compare(ViewSearch.texts(view).filter(text => text.endsWith(" affected")), ["150 MB affected"])
+        view.destroy()
+
+        Fixtures.showResult("/Users/ann/Library", false)
+        view = createTemporaryObject(dashboardComponent, testCase)
+        verify(!ViewSearch.shows(view, "Insights"))
+    }
+
+    function test_rescanScansTheSameFolder() {
+        // A name that a URL parser would cut at "#" or decode at "%41".
+        const folder = Fixtures.makeFolder("Odd #1 %41 name")
+        Fixtures.showResult(folder)
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        mouseClick(ViewSearch.named(view, "rescanButton"))
+        compare(AppState.currentView, AppState.Scanning)
+        tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
+        compare(AppState.currentResult.rootPath, folder)
+        verify(!AppState.error.present)
+    }
+
+    function test_newScanOpensThePicker() {
+        Fixtures.showResult("/Users/ann/Movies")
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        mouseClick(ViewSearch.named(view, "newScanButton"))
+        verify(AppState.showFolderPicker)
+    }
+}

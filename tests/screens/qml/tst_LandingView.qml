@@ -1,0 +1,93 @@
+import QtQuick
+import QtTest
+import Tessarine.App
+import Tessarine.Fixtures
+import Tessarine.Screens
+import "ViewSearch.js" as ViewSearch
+
+ScreenTestCase {
+    id: testCase
+
+    name: "LandingView"
+
+    Component {
+        id: landingComponent
+
+        LandingView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    function init() {
+        AppState.currentView = AppState.Landing
+        AppState.showFolderPicker = false
+        Fixtures.fillHistory(0)
+    }
+
+    function recentCards(view) {
+        return ViewSearch.withProperty(view, "result")
+    }
+
+    function test_emptyHistoryShowsNoRecentScans() {
+        const view = createTemporaryObject(landingComponent, testCase)
+        verify(ViewSearch.shows(view, "Tessarine"))
+        verify(ViewSearch.shows(view, "Analyze your disk space with beautiful visualizations"))
+        verify(ViewSearch.shows(view, "Drop a folder here"))
+        verify(ViewSearch.shows(view, "Select Folder"))
+        verify(!ViewSearch.shows(view, "Recent Scans"))
+        compare(recentCards(view).length, 0)
+    }
+
+    function test_recentScansShowTheFiveNewest() {
+        Fixtures.fillHistory(7)
+        const view = createTemporaryObject(landingComponent, testCase)
+        waitForRendering(view)
+        verify(ViewSearch.shows(view, "Recent Scans"))
+        // The strip scrolls sideways, so only the cards in view exist at first.
+        const strip = ViewSearch.named(view, "recentStrip")
+        compare(strip.count, 5)
+        compare(recentCards(view)[0].result.rootName, "Scan 7")
+        strip.positionViewAtEnd()
+        compare(strip.itemAtIndex(4).result.rootName, "Scan 3")
+        strip.positionViewAtBeginning()
+
+        saveScreenshot(view, "landing")
+
+        mouseClick(recentCards(view)[1])
+        compare(AppState.currentView, AppState.Dashboard)
+        compare(AppState.currentResult.rootName, "Scan 6")
+    }
+
+    function test_buttonsOpenThePickerAndTheHistory() {
+        Fixtures.fillHistory(2)
+        const view = createTemporaryObject(landingComponent, testCase)
+        mouseClick(ViewSearch.named(view, "dropZone"))
+        verify(AppState.showFolderPicker)
+
+        AppState.showFolderPicker = false
+        const select = ViewSearch.visibleItems(view, item => item.text === "Select Folder"
+                                                             && item.clicked !== undefined)[0]
+        mouseClick(select)
+        verify(AppState.showFolderPicker)
+
+        const viewAll = ViewSearch.visibleItems(view, item => item.text === "View All"
+                                                              && item.clicked !== undefined)[0]
+        mouseClick(viewAll)
+        compare(AppState.currentView, AppState.History)
+    }
+
+    function test_onlyADroppedFolderStartsAScan() {
+        const view = createTemporaryObject(landingComponent, testCase)
+        view.acceptDrop([Fixtures.fileUrl(Fixtures.makeFile("report.pdf"))])
+        compare(AppState.currentView, AppState.Landing)
+        verify(!AppState.error.present)
+
+        view.acceptDrop([])
+        compare(AppState.currentView, AppState.Landing)
+
+        view.acceptDrop([Fixtures.fileUrl(Fixtures.makeFolder("Photos 2024"))])
+        compare(AppState.currentView, AppState.Scanning)
+        AppState.cancelScan()
+    }
+}
