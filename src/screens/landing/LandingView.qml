@@ -72,16 +72,15 @@ Item {
         }
     }
 
+    // Only drags that carry file locations reach this area.
     DropArea {
         anchors.fill: parent
-        onEntered: (drag) => {
-            drag.accepted = drag.hasUrls
-            landing.isTargeted = drag.hasUrls
-        }
+        keys: ["text/uri-list"]
+        onEntered: landing.isTargeted = true
         onExited: landing.isTargeted = false
         onDropped: (drop) => {
             landing.isTargeted = false
-            if (!drop.hasUrls || drop.urls.length === 0) {
+            if (drop.urls.length === 0) {
                 drop.accepted = false
                 return
             }

@@ -19,6 +19,17 @@ ScreenTestCase {
         }
     }
 
+    // Stands for a file manager's drag: it carries the file-location type and moves over the view.
+    Component {
+        id: dragComponent
+
+        Item {
+            width: 10
+            height: 10
+            Drag.keys: ["text/uri-list"]
+        }
+    }
+
     function init() {
         AppState.currentView = AppState.Landing
         AppState.showFolderPicker = false
@@ -89,5 +100,22 @@ ScreenTestCase {
         view.acceptDrop([Fixtures.fileUrl(Fixtures.makeFolder("Photos 2024"))])
         compare(AppState.currentView, AppState.Scanning)
         AppState.cancelScan()
+    }
+
+    function test_hoveringADragTargetsTheDropZone() {
+        const view = createTemporaryObject(landingComponent, testCase)
+        const zone = ViewSearch.named(view, "dropZone")
+        const drag = createTemporaryObject(dragComponent, testCase, {x: 600, y: 400})
+        verify(!zone.targeted)
+
+        drag.Drag.active = true
+        tryVerify(() => view.isTargeted)
+        verify(zone.targeted)
+        saveScreenshot(view, "landing-targeted")
+
+        drag.Drag.active = false
+        tryVerify(() => !view.isTargeted)
+        verify(!zone.targeted)
+        compare(AppState.currentView, AppState.Landing)
     }
 }
