@@ -1,6 +1,5 @@
 // The texts a person reads on the terminal, checked without a terminal.
 
-#include "Arguments.h"
 #include "HistoryTable.h"
 #include "ProgressLine.h"
 #include "ProgressText.h"
@@ -23,7 +22,6 @@ private slots:
     void treeLine();
     void linesFitTheTerminal();
     void historyTableIsAlignedAndSafe();
-    void argumentsSplitOptionsFromFolders();
 
 private:
     const QDateTime m_start = QDateTime(QDate(2024, 3, 5), QTime(14, 0), Qt::UTC);
@@ -105,21 +103,6 @@ void CliTextsTest::historyTableIsAlignedAndSafe() {
     QCOMPARE(lines[2].indexOf(" 3 ") + 2, filesEnd);
     QVERIFY(lines[1].contains("1.23 GB"));
     QVERIFY(!lines[0].endsWith(' '));
-}
-
-void CliTextsTest::argumentsSplitOptionsFromFolders() {
-    QString problem;
-    const auto parsed =
-        parseArguments({"--save", "a", "--", "--csv", "-"}, {"--save", "--csv"}, &problem);
-    QVERIFY(parsed);
-    QCOMPARE(parsed->positional, (QStringList{"a", "--csv", "-"}));
-    QVERIFY(parsed->has("--save") && !parsed->has("--csv"));
-
-    QVERIFY(!parseArguments({"a", "-x"}, {"--save"}, &problem));
-    QCOMPARE(problem, "Unknown option: -x");
-
-    QVERIFY(asksForHelp({"scan", "-h"}));
-    QVERIFY(!asksForHelp({"scan", "--", "--help"}));
 }
 
 QTEST_GUILESS_MAIN(CliTextsTest)
