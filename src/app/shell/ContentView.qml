@@ -26,6 +26,7 @@ Item {
         }
 
         SidebarView {
+            objectName: "sidebar"
             SplitView.minimumWidth: 200
             SplitView.preferredWidth: 250
             SplitView.maximumWidth: 300

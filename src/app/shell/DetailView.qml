@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.App
+import Tessarine.Screens
 
 // The screen of the current view. The dashboard needs a result; without one the landing screen
 // stands in.
@@ -19,35 +20,17 @@ Loader {
 
     Component {
         id: landing
-        ScreenPlaceholder {
-            symbol: "chart.pie.fill"
-            title: "Tessarine"
-            subtitle: "Analyze your disk space with beautiful visualizations"
-            actionText: "Select Folder"
-            actionSymbol: "folder"
-            onActionTriggered: AppState.showFolderPicker = true
-        }
+        LandingView {}
     }
 
     Component {
         id: scanning
-        ScreenPlaceholder {
-            symbol: "magnifyingglass"
-            title: AppState.scanProgress.valid ? AppState.scanProgress.phaseName : "Starting scan..."
-            subtitle: Format.count(AppState.scanProgress.filesScanned) + " files"
-            actionText: "Cancel"
-            actionSymbol: "xmark"
-            onActionTriggered: AppState.cancelScan()
-        }
+        ScanningView {}
     }
 
     Component {
         id: dashboard
-        ScreenPlaceholder {
-            symbol: "folder.fill"
-            title: AppState.currentResult.rootName
-            subtitle: Format.byteCount(AppState.currentResult.totalSize)
-        }
+        DashboardView {}
     }
 
     Component {

@@ -14,6 +14,9 @@ Column {
         SoftShadow {
             anchors.fill: parent
             radius: badge.radius
+            spread: 8
+            strength: 0.08
+            offsetY: 4
         }
 
         Rectangle {
