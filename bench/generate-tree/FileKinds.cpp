@@ -16,8 +16,8 @@ constexpr std::int64_t GB = 1000 * MB;
 // Stems carry spaces, parentheses, quotes and non-ASCII letters on purpose: scanners must cope.
 constexpr std::array imageExtensions{"jpg"sv, "png"sv, "gif"sv, "heic"sv, "webp"sv, "svg"sv};
 constexpr std::array imageStems{"IMG"sv, "photo"sv, "Screenshot 2023-05-01"sv, "scan (2)"sv};
-constexpr std::array codeExtensions{"cpp"sv, "h"sv, "py"sv, "js"sv,  "ts"sv,
-                                    "go"sv,  "rs"sv, "c"sv, "java"sv, "swift"sv};
+constexpr std::array codeExtensions{"cpp"sv, "h"sv,  "py"sv, "js"sv,   "ts"sv,
+                                    "go"sv,  "rs"sv, "c"sv,  "java"sv, "swift"sv};
 constexpr std::array codeStems{"main"sv, "index"sv, "utils"sv, "parser"sv, "test_model"sv};
 constexpr std::array dataExtensions{"json"sv, "yaml"sv, "xml"sv, "toml"sv, "csv"sv};
 constexpr std::array dataStems{"config"sv, "package"sv, "schema"sv, "data"sv, "export"sv};
@@ -51,14 +51,17 @@ constexpr std::array hugeExtensions{"iso"sv, "dmg"sv, "mkv"sv, "img"sv, "vmdk"sv
 
 } // namespace
 
-std::span<const FileKind> fileKinds() { return kinds; }
+std::span<const FileKind> fileKinds() {
+    return kinds;
+}
 
-int totalFileKindWeight()
-{
+int totalFileKindWeight() {
     return std::accumulate(kinds.begin(), kinds.end(), 0,
                            [](int sum, const FileKind& kind) { return sum + kind.weight; });
 }
 
-std::span<const std::string_view> hugeFileExtensions() { return hugeExtensions; }
+std::span<const std::string_view> hugeFileExtensions() {
+    return hugeExtensions;
+}
 
 } // namespace tessarine::bench

@@ -9,10 +9,10 @@ namespace tessarine::bench {
 // compiler or standard library (the distributions of <random> are not portable).
 class Random {
 public:
-    explicit Random(std::uint64_t seed) : m_state(seed) {}
+    explicit Random(std::uint64_t seed)
+        : m_state(seed) {}
 
-    std::uint64_t next()
-    {
+    std::uint64_t next() {
         std::uint64_t z = (m_state += 0x9E3779B97F4A7C15ULL);
         z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ULL;
         z = (z ^ (z >> 27)) * 0x94D049BB133111EBULL;
@@ -29,8 +29,7 @@ public:
 
     // Log-uniform in [low, high]: file sizes span orders of magnitude, and real trees hold far
     // more small files than large ones.
-    std::int64_t logUniform(std::int64_t low, std::int64_t high)
-    {
+    std::int64_t logUniform(std::int64_t low, std::int64_t high) {
         const double lo = std::log(static_cast<double>(low) + 1.0);
         const double hi = std::log(static_cast<double>(high) + 1.0);
         return static_cast<std::int64_t>(std::exp(lo + unit() * (hi - lo))) - 1;

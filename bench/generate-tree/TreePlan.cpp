@@ -27,20 +27,19 @@ constexpr std::int64_t kNewestDate = 1'700'000'000;
 constexpr std::int64_t kOldestAge = 6LL * 365 * 24 * 3600;
 
 constexpr std::array folderWords{
-    "src"sv,      "lib"sv,     "assets"sv,  "images"sv,   "docs"sv,         "build"sv,
-    "tests"sv,    "data"sv,    "logs"sv,    "cache"sv,    "Photos"sv,       "Music"sv,
-    "Videos"sv,   "vendor"sv,  "config"sv,  "reports"sv,  "node_modules"sv, "2022"sv,
-    "Q1 plans"sv, "archive"sv, "drafts"sv,  "releases"sv, "Fotos Ñandú"sv,  "My Stuff"sv,
+    "src"sv,      "lib"sv,     "assets"sv, "images"sv,   "docs"sv,         "build"sv,
+    "tests"sv,    "data"sv,    "logs"sv,   "cache"sv,    "Photos"sv,       "Music"sv,
+    "Videos"sv,   "vendor"sv,  "config"sv, "reports"sv,  "node_modules"sv, "2022"sv,
+    "Q1 plans"sv, "archive"sv, "drafts"sv, "releases"sv, "Fotos Ñandú"sv,  "My Stuff"sv,
 };
 constexpr std::array hiddenFolderWords{".git"sv, ".cache"sv, ".config"sv, ".venv"sv, ".thumbs"sv};
 
 // How many folders of every thousand sit at depths 1, 2, ... 13: most at middle depths, a thin
 // tail of deep chains. Folders stop one level above the deepest level so their files still fit.
 constexpr std::array<int, kMaxDepth - 1> folderDepthPerMille{1,   30, 80, 140, 170, 160, 130,
-                                                              100, 70, 50, 30,  20,  19};
+                                                             100, 70, 50, 30,  20,  19};
 
-int pickDepth(Random& random)
-{
+int pickDepth(Random& random) {
     int ticket = static_cast<int>(random.below(1000));
     for (std::size_t index = 0; index < folderDepthPerMille.size(); ++index) {
         if (ticket < folderDepthPerMille[index])
@@ -50,13 +49,11 @@ int pickDepth(Random& random)
     return 1;
 }
 
-std::string childPath(const PlannedFolder& parent, std::string_view name)
-{
+std::string childPath(const PlannedFolder& parent, std::string_view name) {
     return parent.path.empty() ? std::string(name) : parent.path + "/" + std::string(name);
 }
 
-void planFolders(Random& random, TreePlan& plan)
-{
+void planFolders(Random& random, TreePlan& plan) {
     plan.folders.reserve(kFolderCount + 1);
     plan.folders.push_back({0, {}});
     std::vector<std::vector<std::size_t>> foldersByDepth(kMaxDepth, std::vector<std::size_t>{});
@@ -68,9 +65,9 @@ void planFolders(Random& random, TreePlan& plan)
             --depth;
         const auto& parents = foldersByDepth[depth - 1];
         const PlannedFolder& parent = plan.folders[parents[random.below(parents.size())]];
-        const std::string_view word = random.chance(0.015)
-                                          ? hiddenFolderWords[random.below(hiddenFolderWords.size())]
-                                          : folderWords[random.below(folderWords.size())];
+        const std::string_view word =
+            random.chance(0.015) ? hiddenFolderWords[random.below(hiddenFolderWords.size())]
+                                 : folderWords[random.below(folderWords.size())];
         const std::string name = std::string(word) + "-" + std::to_string(index);
         plan.folders.push_back({depth, childPath(parent, name)});
         foldersByDepth[depth].push_back(index);
@@ -78,8 +75,7 @@ void planFolders(Random& random, TreePlan& plan)
 }
 
 // A few folders (downloads, photo libraries, build outputs) hold far more files than the rest.
-std::vector<std::size_t> fileCountsPerFolder(Random& random, const TreePlan& plan)
-{
+std::vector<std::size_t> fileCountsPerFolder(Random& random, const TreePlan& plan) {
     std::vector<std::size_t> slots;
     for (std::size_t index = 0; index < plan.folders.size(); ++index) {
         const std::size_t weight = random.chance(0.05) ? 30 : 1;
@@ -91,8 +87,7 @@ std::vector<std::size_t> fileCountsPerFolder(Random& random, const TreePlan& pla
     return counts;
 }
 
-const FileKind& pickKind(Random& random)
-{
+const FileKind& pickKind(Random& random) {
     int ticket = static_cast<int>(random.below(totalFileKindWeight()));
     for (const FileKind& kind : fileKinds()) {
         if (ticket < kind.weight)
@@ -103,8 +98,7 @@ const FileKind& pickKind(Random& random)
 }
 
 std::string fileName(std::string_view stem, std::size_t serial, std::string_view extension,
-                     bool hidden)
-{
+                     bool hidden) {
     std::string name = hidden ? "." : "";
     name += stem;
     name += '_';
@@ -116,10 +110,11 @@ std::string fileName(std::string_view stem, std::size_t serial, std::string_view
     return name;
 }
 
-std::int64_t pickDate(Random& random) { return kNewestDate - random.logUniform(0, kOldestAge); }
+std::int64_t pickDate(Random& random) {
+    return kNewestDate - random.logUniform(0, kOldestAge);
+}
 
-void planFiles(Random& random, TreePlan& plan)
-{
+void planFiles(Random& random, TreePlan& plan) {
     const std::vector<std::size_t> counts = fileCountsPerFolder(random, plan);
     plan.files.reserve(kFileCount + kHugeFileCount);
     for (std::size_t folder = 0; folder < counts.size(); ++folder) {
@@ -127,10 +122,9 @@ void planFiles(Random& random, TreePlan& plan)
             const FileKind& kind = pickKind(random);
             const auto stem = kind.stems[random.below(kind.stems.size())];
             const auto extension = kind.extensions[random.below(kind.extensions.size())];
-            plan.files.push_back({folder,
-                                  fileName(stem, plan.files.size(), extension, random.chance(0.02)),
-                                  random.logUniform(kind.minimumSize, kind.maximumSize),
-                                  pickDate(random)});
+            plan.files.push_back(
+                {folder, fileName(stem, plan.files.size(), extension, random.chance(0.02)),
+                 random.logUniform(kind.minimumSize, kind.maximumSize), pickDate(random)});
         }
     }
     const auto hugeExtensions = hugeFileExtensions();
@@ -143,16 +137,14 @@ void planFiles(Random& random, TreePlan& plan)
     }
 }
 
-std::string pathFrom(const PlannedFolder& from, const std::string& target)
-{
+std::string pathFrom(const PlannedFolder& from, const std::string& target) {
     std::string relative;
     for (int level = 0; level < from.depth; ++level)
         relative += "../";
     return relative + target;
 }
 
-void planLinks(Random& random, TreePlan& plan)
-{
+void planLinks(Random& random, TreePlan& plan) {
     auto linkIn = [&](std::size_t folder, std::string_view kind, const std::string& target) {
         const std::string name = std::string(kind) + "-link-" + std::to_string(plan.links.size());
         plan.links.push_back({folder, name, pathFrom(plan.folders[folder], target)});
@@ -172,8 +164,7 @@ void planLinks(Random& random, TreePlan& plan)
 
 } // namespace
 
-TreePlan planTree(std::uint64_t seed)
-{
+TreePlan planTree(std::uint64_t seed) {
     Random random(seed);
     TreePlan plan;
     planFolders(random, plan);

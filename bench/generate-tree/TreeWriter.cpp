@@ -12,21 +12,20 @@ namespace tessarine::bench {
 
 namespace {
 
-[[noreturn]] void fail(const char* call, const std::string& path)
-{
+[[noreturn]] void fail(const char* call, const std::string& path) {
     throw std::runtime_error(std::string(call) + " " + path + ": " + std::strerror(errno));
 }
 
-bool isHidden(const std::string& name) { return !name.empty() && name.front() == '.'; }
+bool isHidden(const std::string& name) {
+    return !name.empty() && name.front() == '.';
+}
 
-std::string lastComponent(const std::string& path)
-{
+std::string lastComponent(const std::string& path) {
     const auto slash = path.rfind('/');
     return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
-std::string absolute(const std::string& root, const std::string& relative)
-{
+std::string absolute(const std::string& root, const std::string& relative) {
     return relative.empty() ? root : root + "/" + relative;
 }
 
@@ -34,13 +33,14 @@ std::string absolute(const std::string& root, const std::string& relative)
 // rather than through a full path lookup.
 class FolderHandle {
 public:
-    FolderHandle(const TreePlan& plan, const std::string& root) : m_plan(plan), m_root(root) {}
+    FolderHandle(const TreePlan& plan, const std::string& root)
+        : m_plan(plan)
+        , m_root(root) {}
     FolderHandle(const FolderHandle&) = delete;
     FolderHandle& operator=(const FolderHandle&) = delete;
     ~FolderHandle() { closeCurrent(); }
 
-    int descriptorOf(std::size_t folder)
-    {
+    int descriptorOf(std::size_t folder) {
         if (m_descriptor >= 0 && folder == m_folder)
             return m_descriptor;
         closeCurrent();
@@ -52,14 +52,12 @@ public:
         return m_descriptor;
     }
 
-    std::string pathOf(std::size_t folder) const
-    {
+    std::string pathOf(std::size_t folder) const {
         return absolute(m_root, m_plan.folders[folder].path);
     }
 
 private:
-    void closeCurrent()
-    {
+    void closeCurrent() {
         if (m_descriptor >= 0)
             ::close(m_descriptor);
         m_descriptor = -1;
@@ -71,8 +69,7 @@ private:
     std::size_t m_folder = 0;
 };
 
-void writeFolders(const TreePlan& plan, const std::string& root, TreeSummary& summary)
-{
+void writeFolders(const TreePlan& plan, const std::string& root, TreeSummary& summary) {
     if (::mkdir(root.c_str(), 0755) != 0)
         fail("mkdir", root);
     for (std::size_t index = 1; index < plan.folders.size(); ++index) {
@@ -84,14 +81,14 @@ void writeFolders(const TreePlan& plan, const std::string& root, TreeSummary& su
     }
 }
 
-void writeFile(int folder, const PlannedFile& file, const std::string& folderPath)
-{
+void writeFile(int folder, const PlannedFile& file, const std::string& folderPath) {
     const int descriptor =
         ::openat(folder, file.name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
     if (descriptor < 0)
         fail("create", folderPath + "/" + file.name);
     const timespec times[2] = {{file.modifiedAt, 0}, {file.modifiedAt, 0}};
-    const bool written = ::ftruncate(descriptor, file.size) == 0 && ::futimens(descriptor, times) == 0;
+    const bool written =
+        ::ftruncate(descriptor, file.size) == 0 && ::futimens(descriptor, times) == 0;
     const int savedErrno = errno;
     ::close(descriptor);
     errno = savedErrno;
@@ -99,8 +96,7 @@ void writeFile(int folder, const PlannedFile& file, const std::string& folderPat
         fail("size", folderPath + "/" + file.name);
 }
 
-void writeFiles(const TreePlan& plan, FolderHandle& folders, TreeSummary& summary)
-{
+void writeFiles(const TreePlan& plan, FolderHandle& folders, TreeSummary& summary) {
     for (const PlannedFile& file : plan.files) {
         writeFile(folders.descriptorOf(file.folder), file, folders.pathOf(file.folder));
         ++summary.files;
@@ -109,10 +105,10 @@ void writeFiles(const TreePlan& plan, FolderHandle& folders, TreeSummary& summar
     }
 }
 
-void writeLinks(const TreePlan& plan, FolderHandle& folders, TreeSummary& summary)
-{
+void writeLinks(const TreePlan& plan, FolderHandle& folders, TreeSummary& summary) {
     for (const PlannedLink& link : plan.links) {
-        if (::symlinkat(link.target.c_str(), folders.descriptorOf(link.folder), link.name.c_str()) != 0)
+        if (::symlinkat(link.target.c_str(), folders.descriptorOf(link.folder),
+                        link.name.c_str()) != 0)
             fail("symlink", folders.pathOf(link.folder) + "/" + link.name);
         ++summary.links;
     }
@@ -120,8 +116,7 @@ void writeLinks(const TreePlan& plan, FolderHandle& folders, TreeSummary& summar
 
 } // namespace
 
-TreeSummary writeTree(const TreePlan& plan, const std::string& root)
-{
+TreeSummary writeTree(const TreePlan& plan, const std::string& root) {
     TreeSummary summary;
     writeFolders(plan, root, summary);
     FolderHandle folders(plan, root);

@@ -15,8 +15,7 @@ namespace {
 constexpr int kGeneratorVersion = 1;
 constexpr std::uint64_t kSeed = 0x7E55A21E;
 
-int usage()
-{
+int usage() {
     std::fputs("usage: generate-tree DIR   (DIR must not exist)\n"
                "       generate-tree --version\n",
                stderr);
@@ -26,8 +25,7 @@ int usage()
 } // namespace
 } // namespace tessarine::bench
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     using namespace tessarine::bench;
     if (argc != 2)
         return usage();
