@@ -3,10 +3,12 @@
 #include "model/Records.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QDateTime>
 #include <QString>
 #include <QStringView>
 
+#include <functional>
 #include <optional>
 
 // The one JSON coder of the application: the history files and the JSON export both go through
@@ -18,6 +20,9 @@ namespace tessarine::json {
 
 QByteArray encode(const AnalysisResult& result);
 QByteArray encode(const FolderInfo& folder);
+// The same text as encode(folder), handed to `sink` in pieces as it is made (a large tree's text
+// is tens of megabytes). Stops passing pieces on once the sink returns false; returns false then.
+bool encode(const FolderInfo& folder, const std::function<bool(QByteArrayView)>& sink);
 
 // Fails as a whole, with a text naming the offending member in *error, on malformed JSON, a
 // missing member, a wrong JSON type, an unknown enumeration value, a bad UUID or a bad date.

@@ -57,4 +57,10 @@ QByteArray encode(const FolderInfo& folder) {
     return writer.take();
 }
 
+bool encode(const FolderInfo& folder, const std::function<bool(QByteArrayView)>& sink) {
+    JsonWriter writer(sink);
+    writeFolderTree(writer, folder);
+    return writer.finish();
+}
+
 } // namespace tessarine::json

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QStringView>
 #include <QUuid>
 
+#include <functional>
 #include <vector>
 
 namespace tessarine::json {
@@ -13,6 +15,18 @@ namespace tessarine::json {
 // object members in ascending name order; the writer only lays them out.
 class JsonWriter {
 public:
+    // Receives the text piece by piece; false stops the passing on (a failed write).
+    using Sink = std::function<bool(QByteArrayView)>;
+
+    JsonWriter() = default;
+    // Passes the text on to `sink` in pieces of about pieceBytes as it is written, instead of
+    // keeping all of it: a large folder tree's text then never lies in memory whole, and the few
+    // pages of one piece are reused instead of fresh ones being touched for every byte.
+    explicit JsonWriter(Sink sink)
+        : m_sink(std::move(sink)) {}
+
+    static constexpr qsizetype pieceBytes = 256 * 1024;
+
     void beginObject();
     void endObject();
     void beginArray();
@@ -32,7 +46,10 @@ public:
         write(value);
     }
 
+    // Without a sink: the whole text.
     QByteArray take();
+    // With a sink: passes on the rest of the text; whether the sink took every piece.
+    bool finish();
 
 private:
     void beginValue();
@@ -40,7 +57,13 @@ private:
     void beginContainer(char open);
     void endContainer(char close);
     void appendQuoted(QStringView text);
+    // Appends each unit, escaped, as one byte: only for ASCII or UTF-8 units.
+    template <typename Unit> void appendEscaped(const Unit* begin, const Unit* end);
 
+    void passOn();
+
+    Sink m_sink;
+    bool m_sinkFailed = false;
     QByteArray out;
     std::vector<bool> containerHasItems;
     bool afterKey = false;

@@ -9,6 +9,17 @@
 
 namespace tessarine {
 
+// What a walk records beyond, or leaves out of, what a scan needs.
+struct ListingDetail {
+    // Symbolic links keep their own size (ListedEntry::ownSize), at the cost of one fstatat each
+    // that the entry type alone would otherwise spare; a scan counts no links.
+    bool linkSizes = false;
+    // Files, special files and sized links are not kept one by one but summed into their folder
+    // (ListedDirectory::summedSize). A folder tree needs only each folder's totals, and those
+    // entries, with their names, are most of a listing's memory.
+    bool summedFiles = false;
+};
+
 // Everything one walk discovered below a root folder, held compactly in arenas. The root is
 // absent when the root folder could not be opened. Move-only: the entries point into the arenas.
 class DirectoryListing {

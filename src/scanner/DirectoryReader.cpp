@@ -6,6 +6,7 @@
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <optional>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -32,8 +33,9 @@ qint64 modifiedMsecs(const struct stat& status) {
 
 } // namespace
 
-DirectoryReader::DirectoryReader(ListingArena& arena)
+DirectoryReader::DirectoryReader(ListingArena& arena, ListingDetail detail)
     : m_arena(arena)
+    , m_detail(detail)
     , m_buffer(
           std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes / sizeof(std::uint64_t))) {}
 
@@ -42,6 +44,8 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
     m_entries.clear();
     m_subfolders.clear();
     m_folderCount = 0;
+    qint64 summedCount = 0;
+    qint64 summedSize = 0;
     auto* bytes = reinterpret_cast<char*>(m_buffer.get());
     while (!cancelled.load(std::memory_order_relaxed)) {
         const long filled = syscall(SYS_getdents64, fd, bytes, bufferBytes);
@@ -54,30 +58,43 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             const QByteArrayView nameView(name, qsizetype(std::strlen(name)));
             if (isHiddenName(nameView))
                 continue; // also drops "." and ".."
-            m_entries.push_back(describe(fd, folder, nameView, record->type));
-            m_folderCount += m_entries.back().isFolder();
+            const ListedEntry entry = describe(fd, folder, nameView, record->type);
+            const std::optional<qint64> size = entry.ownSize();
+            if (m_detail.summedFiles && size) {
+                ++summedCount;
+                summedSize += *size;
+                continue;
+            }
+            m_entries.push_back(entry);
+            m_folderCount += entry.isFolder();
         }
     }
-    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)));
+    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
+                      summedSize);
     return m_subfolders;
 }
 
+// `name` lies in the getdents buffer, NUL-terminated, so it can be looked up before deciding
+// whether the listing keeps a copy.
 ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArrayView name,
                                       unsigned char type) {
-    const QByteArrayView storedName = m_arena.copyName(name);
-    // The entry type from the listing settles folders and links without a stat; everything else,
-    // and file systems that report no type, need one for size, date and kind.
+    // The entry type from the listing settles folders, and links whose size is not wanted, without
+    // a stat; everything else, and file systems that report no type, need one for size, date and
+    // kind.
     if (type == DT_DIR)
-        return describeFolder(folder, storedName);
-    if (type == DT_LNK)
-        return ListedEntry::unsized(storedName, EntryKind::symlink);
+        return describeFolder(folder, m_arena.copyName(name));
+    if (type == DT_LNK && !m_detail.linkSizes)
+        return ListedEntry::unsized(m_arena.copyName(name), EntryKind::symlink);
     struct stat status;
-    if (fstatat(fd, storedName.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return ListedEntry::unsized(storedName, EntryKind::unreadable);
+    if (fstatat(fd, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return ListedEntry::unsized(m_arena.copyName(name), EntryKind::unreadable);
     if (S_ISDIR(status.st_mode))
-        return describeFolder(folder, storedName);
-    if (S_ISLNK(status.st_mode))
-        return ListedEntry::unsized(storedName, EntryKind::symlink);
+        return describeFolder(folder, m_arena.copyName(name));
+    // A summed entry is dropped right after: its name would only take space.
+    const QByteArrayView storedName =
+        m_detail.summedFiles ? QByteArrayView() : m_arena.copyName(name);
+    if (S_ISLNK(status.st_mode)) // the stat is made anyway, so its size is kept
+        return ListedEntry::link(storedName, qint64(status.st_size));
     return ListedEntry::sized(storedName,
                               S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
                               qint64(status.st_size), modifiedMsecs(status));

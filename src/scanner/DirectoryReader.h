@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scanner/DirectoryListing.h"
 #include "scanner/ListedDirectory.h"
 #include "scanner/ListingArena.h"
 
@@ -15,7 +16,7 @@ namespace tessarine {
 // owns a large getdents buffer and scratch space reused for every folder.
 class DirectoryReader {
 public:
-    explicit DirectoryReader(ListingArena& arena);
+    explicit DirectoryReader(ListingArena& arena, ListingDetail detail = {});
 
     // Fills `folder` with the visible entries of the folder open as `fd` (the descriptor stays
     // open). Returns the new sub-folders to descend into, in listing order; packages are not
@@ -31,6 +32,7 @@ private:
     ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
 
     ListingArena& m_arena;
+    const ListingDetail m_detail;
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;

@@ -149,7 +149,7 @@ WalkOutcome WalkSession::run() {
 }
 
 void WalkSession::work(ListingArena& arena) {
-    DirectoryReader reader(arena);
+    DirectoryReader reader(arena, m_options.detail);
     while (const std::optional<PendingFolder> pending = take()) {
         listFolder(reader, *pending);
         std::lock_guard lock(m_mutex);
@@ -180,7 +180,8 @@ void WalkSession::listFolder(DirectoryReader& reader, const PendingFolder& pendi
         return;
     }
     const auto subfolders = reader.read(fd, *pending.folder, *m_cancelled);
-    m_items.fetch_add(qint64(pending.folder->entries().size()), std::memory_order_relaxed);
+    m_items.fetch_add(qint64(pending.folder->entries().size()) + pending.folder->summedCount(),
+                      std::memory_order_relaxed);
     m_folders.fetch_add(reader.lastFolderCount(), std::memory_order_relaxed);
     m_recentFolder.store(pending.folder, std::memory_order_release);
     queueSubfolders(subfolders, fd);

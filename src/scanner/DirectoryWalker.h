@@ -34,6 +34,7 @@ public:
         // past it a sub-folder is reopened component by component from the root. 0 means half of
         // the process's open-file limit (whose soft value the walker raises to the hard one).
         int maxHeldDescriptors = 0;
+        ListingDetail detail;
         std::chrono::milliseconds progressInterval{120};
         // Called on the thread that runs walk(), about once per progressInterval.
         std::function<void(const WalkProgress&)> onProgress;

@@ -14,9 +14,12 @@ QByteArray ListedDirectory::pathBelow(QByteArrayView rootPath) const {
     return path;
 }
 
-void ListedDirectory::setEntries(std::span<ListedEntry> entries) {
+void ListedDirectory::setEntries(std::span<ListedEntry> entries, qint64 summedCount,
+                                 qint64 summedSize) {
     m_entries = entries.data();
     m_entryCount = quint32(entries.size());
+    m_summedCount = summedCount;
+    m_summedSize = summedSize;
     m_state = State::listed;
 }
 

@@ -30,17 +30,23 @@ public:
     QByteArrayView name() const { return {m_name, qsizetype(m_nameLength)}; }
     State state() const { return m_state; }
     std::span<const ListedEntry> entries() const { return {m_entries, m_entryCount}; }
+    // The entries left out of entries() by a walk that sums files (ListingDetail::summedFiles):
+    // how many, and the sum of their own sizes. Zero otherwise.
+    qint64 summedCount() const { return m_summedCount; }
+    qint64 summedSize() const { return m_summedSize; }
 
     // The path of this folder below rootPath, built by following the parent links.
     QByteArray pathBelow(QByteArrayView rootPath) const;
 
-    void setEntries(std::span<ListedEntry> entries);
+    void setEntries(std::span<ListedEntry> entries, qint64 summedCount = 0, qint64 summedSize = 0);
     void markUnreadable() { m_state = State::unreadable; }
 
 private:
     const ListedDirectory* m_parent;
     const char* m_name;
     ListedEntry* m_entries = nullptr;
+    qint64 m_summedCount = 0;
+    qint64 m_summedSize = 0;
     quint32 m_nameLength;
     quint32 m_entryCount = 0;
     State m_state = State::pending;

@@ -4,7 +4,7 @@ namespace tessarine {
 
 ListedEntry::ListedEntry(QByteArrayView name, EntryKind kind)
     : m_name(name.data())
-    , m_payload{.sized = {0, unknownModificationTime}}
+    , m_payload{.sized = {-1, unknownModificationTime}}
     , m_nameLength(quint32(name.size()))
     , m_kind(kind) {}
 
@@ -18,6 +18,12 @@ ListedEntry ListedEntry::sized(QByteArrayView name, EntryKind kind, qint64 size,
 ListedEntry ListedEntry::folder(QByteArrayView name, ListedDirectory* contents) {
     ListedEntry entry(name, EntryKind::directory);
     entry.m_payload.contents = contents;
+    return entry;
+}
+
+ListedEntry ListedEntry::link(QByteArrayView name, qint64 ownSize) {
+    ListedEntry entry(name, EntryKind::symlink);
+    entry.m_payload.sized.size = ownSize;
     return entry;
 }
 

@@ -4,6 +4,7 @@
 #include <QtGlobal>
 
 #include <limits>
+#include <optional>
 
 namespace tessarine {
 
@@ -16,7 +17,7 @@ enum class EntryKind : quint8 {
     special,    // fifo, socket or device: counted like a file of its st_size, never opened
     directory,  // a folder whose contents are listed below it
     package,    // a bundle folder: one folder, its contents deliberately left out
-    symlink,    // never followed, so it has neither size nor contents
+    symlink,    // never followed, so it has no contents; its own size only when asked for
     unreadable, // its metadata could not be read (it vanished, or the stat failed)
 };
 
@@ -27,6 +28,8 @@ public:
     static ListedEntry sized(QByteArrayView name, EntryKind kind, qint64 size,
                              qint64 modifiedMsecs);
     static ListedEntry folder(QByteArrayView name, ListedDirectory* contents);
+    // A symbolic link with the st_size of the link itself (the length of its target).
+    static ListedEntry link(QByteArrayView name, qint64 ownSize);
     // Packages, symbolic links and unreadable entries: a name and a kind, nothing more.
     static ListedEntry unsized(QByteArrayView name, EntryKind kind);
 
@@ -37,6 +40,14 @@ public:
     bool isSized() const { return m_kind == EntryKind::file || m_kind == EntryKind::special; }
     // Logical size (st_size) of a file or special file; 0 for everything else.
     qint64 size() const { return isSized() ? m_payload.sized.size : 0; }
+    // What the file system gives as the size of the entry itself, not followed: size() for a
+    // file or special file, the link's own size for a symbolic link made by link(); none for
+    // everything else. The scan counts no links, so only the folder tree asks for this.
+    std::optional<qint64> ownSize() const {
+        if (isSized() || (m_kind == EntryKind::symlink && m_payload.sized.size >= 0))
+            return m_payload.sized.size;
+        return std::nullopt;
+    }
     // Milliseconds since the epoch, or unknownModificationTime.
     qint64 modifiedMsecs() const {
         return isSized() ? m_payload.sized.modifiedMsecs : unknownModificationTime;
@@ -51,6 +62,7 @@ private:
 
     const char* m_name;
     // Folders never carry a size or a date and files never carry contents, so they share space.
+    // A symbolic link may keep its own size here; -1 when it has none.
     union Payload {
         struct Sized {
             qint64 size;

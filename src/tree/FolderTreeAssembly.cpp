@@ -114,21 +114,19 @@ void FolderTreeAssembly::enter(const ListedDirectory& folder, QByteArrayView nam
     if (!name.isEmpty())
         appendPathComponent(m_path, name);
     const auto entries = folder.entries();
-    m_stack.push_back(Frame{entries.data(),
-                            entries.data() + entries.size(),
-                            name,
-                            parentPathLength,
-                            depth,
-                            color,
-                            0,
-                            0,
-                            0,
-                            {}});
+    std::vector<FolderInfo> children;
+    // With the files summed away the entries are nearly all sub-folders: one allocation each.
+    if (folder.summedCount() > 0 || entries.size() > 1)
+        children.reserve(entries.size());
+    m_stack.push_back(Frame{entries.data(), entries.data() + entries.size(), name, parentPathLength,
+                            depth, color, folder.summedSize(), folder.summedCount(), 0,
+                            std::move(children)});
 }
 
 void FolderTreeAssembly::visit(Frame& frame, const ListedEntry& entry) {
     if (entry.kind() != EntryKind::directory) {
-        frame.totalSize += entry.isSized() ? entry.size() : unlistedEntrySize(entry.name());
+        const std::optional<qint64> size = entry.ownSize();
+        frame.totalSize += size ? *size : unlistedEntrySize(entry.name());
         frame.fileCount += 1;
         return;
     }
@@ -148,10 +146,12 @@ std::optional<FolderInfo> FolderTreeAssembly::finish(Frame& frame) {
     const bool isRoot = m_stack.size() == 1;
     if (!isRoot && frame.totalSize < 1 && frame.children.empty())
         return std::nullopt;
-    // Stable, so that folders of equal size keep their listing order.
-    std::stable_sort(
-        frame.children.begin(), frame.children.end(),
-        [](const FolderInfo& a, const FolderInfo& b) { return a.totalSize > b.totalSize; });
+    // Stable, so that folders of equal size keep their listing order. The sort's scratch buffer is
+    // not worth asking for without two children to order.
+    if (frame.children.size() > 1)
+        std::stable_sort(
+            frame.children.begin(), frame.children.end(),
+            [](const FolderInfo& a, const FolderInfo& b) { return a.totalSize > b.totalSize; });
     FolderInfo node;
     node.path = isRoot ? m_rootPath : QFile::decodeName(m_path);
     node.name = folderName(frame);
@@ -163,9 +163,10 @@ std::optional<FolderInfo> FolderTreeAssembly::finish(Frame& frame) {
     return node;
 }
 
-// Packages, symbolic links and entries whose metadata could not be read carry no size in the
-// listing. They count as files of the size the file system gives their own entry (a link is not
-// followed); one that cannot be read, or has vanished since, counts as zero bytes.
+// Packages and entries whose metadata could not be read (and links, were the walk told not to
+// size them) carry no size in the listing. They count as files of the size the file system gives
+// their own entry (a link is not followed); one that cannot be read, or has vanished since, counts
+// as zero bytes.
 qint64 FolderTreeAssembly::unlistedEntrySize(QByteArrayView name) const {
     QByteArray path = m_path;
     appendPathComponent(path, name);

@@ -20,12 +20,13 @@ qint64 treeFolderCount(const DirectoryListing& listing);
 // The node pass of a folder tree build: turns a finished listing into the FolderInfo tree.
 //
 // It reads only what the enumeration stored, and does not list every folder a second time. The
-// walker keeps each folder's entries in listing order with the size of every file, so a second
-// listing would give the same tree at twice the cost; a folder the walker could not open (no
-// permission, or removed before it got there) is marked unreadable in the listing and becomes an
-// empty leaf here, exactly as a failed second listing would make it. Folders are finished in the
-// same depth-first order as a recursive build, with an explicit stack so that depth is unlimited;
-// no parallelism is needed, as the pass touches no disk but for the rare package or link.
+// walker keeps each folder's sub-folders in listing order, with the totals of its files (or each
+// file with its size), so a second listing would give the same tree at twice the cost; a folder the
+// walker could not open (no permission, or removed before it got there) is marked unreadable in the
+// listing and becomes an empty leaf here, exactly as a failed second listing would make it. Folders
+// are finished in the same depth-first order as a recursive build, with an explicit stack so that
+// depth is unlimited; no parallelism is needed, as the pass touches no disk but for the rare
+// package or unreadable entry (the walk sizes the links).
 class FolderTreeAssembly {
 public:
     // Told (processed folders, name of the folder just finished) every updateInterval folders and

@@ -1,6 +1,7 @@
 #include "SampleRecords.h"
 
 #include "model/Json.h"
+#include "model/JsonWriter.h"
 
 #include <QTest>
 
@@ -181,6 +182,53 @@ private slots:
         const AnalysisResult copy = decoded(withTree);
         QVERIFY(copy.folderTree == result.folderTree);
         QCOMPARE(json::encode(copy), withTree);
+    }
+
+    // Pieces handed to a sink join up to exactly the text encoded whole, however they fall.
+    void folderTreeInPieces() {
+        FolderInfo root = *fullResult().folderTree;
+        // Wide enough for the text to pass a piece boundary many times over.
+        for (int i = 0; i < 3000; ++i) {
+            FolderInfo child;
+            child.name = QStringLiteral("child %1").arg(i);
+            child.path = root.path + u'/' + child.name;
+            child.totalSize = i;
+            root.childFolders.push_back(child);
+        }
+        const QByteArray whole = json::encode(root);
+        QVERIFY(whole.size() > 2 * json::JsonWriter::pieceBytes);
+
+        QList<QByteArray> pieces;
+        QVERIFY(json::encode(root, [&](QByteArrayView piece) {
+            pieces.append(piece.toByteArray());
+            return true;
+        }));
+        QVERIFY(pieces.size() > 2);
+        QCOMPARE(pieces.join(), whole);
+
+        // A sink that fails is not called again, and the failure is reported.
+        int calls = 0;
+        QVERIFY(!json::encode(root, [&](QByteArrayView) {
+            ++calls;
+            return false;
+        }));
+        QCOMPARE(calls, 1);
+    }
+
+    // Escapes come out the same before and after the first non-ASCII character, and in a string
+    // longer than the writer's escaping buffer.
+    void escapedText() {
+        FolderInfo folder;
+        const QString odd = QStringLiteral("q\"b\\s/n\nt\t\x01");
+        const QByteArray oddEscaped = "q\\\"b\\\\s\\/n\\nt\\t\\u0001";
+        folder.name = QString(2000, u'a') + odd + QStringLiteral("\u00e9\U0001F600") + odd;
+        folder.path = odd;
+        const QByteArray bytes = json::encode(folder);
+        const QByteArray expectedName = QByteArray(2000, 'a') + oddEscaped +
+                                        QString(QStringLiteral("\u00e9\U0001F600")).toUtf8() +
+                                        oddEscaped;
+        QVERIFY(bytes.contains("\"name\" : \"" + expectedName + "\""));
+        QVERIFY(bytes.contains("\"path\" : \"" + oddEscaped + "\""));
     }
 
     void dates() {

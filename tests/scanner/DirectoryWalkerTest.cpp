@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include <climits>
+#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,6 +46,8 @@ private slots:
     void handlesMissingAndSymlinkedRoots();
     void cancelledWalkReleasesDescriptors();
     void reportsProgressConsistently();
+    void keepsLinkSizesWhenAsked();
+    void sumsFilesIntoTheirFolders();
 };
 
 void DirectoryWalkerTest::matchesSequentialWalk_data() {
@@ -83,9 +86,12 @@ void DirectoryWalkerTest::matchesSequentialWalk() {
     QCOMPARE(openDescriptorCount(), descriptorsBefore);
 }
 
-void DirectoryWalkerTest::classifiesEntries() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
+namespace {
+
+using OwnSize = std::optional<qint64>;
+
+// One entry of every kind, with hidden ones beside and below them.
+void writeMixedTree(const QString& root) {
     writeFile(root + "/plain.txt", 1234);
     writeFile(root + "/empty", 0);
     writeFile(root + "/Editor.APP/Contents/Info.plist", 99);
@@ -95,6 +101,30 @@ void DirectoryWalkerTest::classifiesEntries() {
     QVERIFY(QFile::link(root + "/sub", root + "/link-to-folder"));
     QVERIFY(QFile::link(root + "/nowhere", root + "/dangling"));
     QCOMPARE(mkfifo(QFile::encodeName(root + "/pipe").constData(), 0644), 0);
+}
+
+// Walks the mixed tree, made with files and a link in sub-folders too.
+DirectoryListing walkDeeperMixedTree(const QString& root, ListingDetail detail) {
+    writeMixedTree(root);
+    writeFile(root + "/sub/inner.bin", 40);
+    writeFile(root + "/sub/deeper/last.dat", 7);
+    QFile::link(root + "/nowhere/at/all", root + "/sub/sub-dangling");
+    DirectoryWalker::Options options;
+    options.detail = detail;
+    return walk(root, std::move(options));
+}
+
+qint64 ownLinkSize(const QString& path) {
+    struct stat status;
+    return lstat(QFile::encodeName(path).constData(), &status) == 0 ? qint64(status.st_size) : -1;
+}
+
+} // namespace
+
+void DirectoryWalkerTest::classifiesEntries() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    writeMixedTree(root);
 
     const DirectoryListing listing = walk(root);
 
@@ -213,6 +243,64 @@ void DirectoryWalkerTest::reportsProgressConsistently() {
         QVERIFY(report.recentFolderPath.isEmpty() || report.recentFolderPath.startsWith(root));
         previous = report.items;
     }
+}
+
+void DirectoryWalkerTest::keepsLinkSizesWhenAsked() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    const DirectoryListing sized = walkDeeperMixedTree(root, {.linkSizes = true});
+
+    QMap<QByteArray, const ListedEntry*> byName;
+    for (ListingCursor cursor(sized); cursor.next();)
+        byName.insert(cursor.entry().name().toByteArray(), &cursor.entry());
+    for (const char* link : {"link-to-file", "link-to-folder", "dangling", "sub-dangling"}) {
+        const QString path = root + (link[0] == 's' ? "/sub/" : "/") + link;
+        QCOMPARE(byName[link]->kind(), EntryKind::symlink);
+        QCOMPARE(byName[link]->ownSize(), OwnSize(ownLinkSize(path)));
+        // The scan's view of a link is unchanged: no size, no date.
+        QCOMPARE(byName[link]->size(), 0);
+        QCOMPARE(byName[link]->modifiedMsecs(), ListedEntry::unknownModificationTime);
+    }
+    QCOMPARE(byName["plain.txt"]->ownSize(), OwnSize(1234));
+    QCOMPARE(byName["Editor.APP"]->ownSize(), OwnSize());
+    QCOMPARE(byName["sub"]->ownSize(), OwnSize());
+
+    // Without the option the links carry no size at all.
+    const DirectoryListing plain = walk(root);
+    for (ListingCursor cursor(plain); cursor.next();) {
+        if (cursor.entry().kind() == EntryKind::symlink)
+            QCOMPARE(cursor.entry().ownSize(), OwnSize());
+    }
+}
+
+void DirectoryWalkerTest::sumsFilesIntoTheirFolders() {
+    QTemporaryDir dir;
+    const QString root = dir.path();
+    const DirectoryListing summed =
+        walkDeeperMixedTree(root, {.linkSizes = true, .summedFiles = true});
+    const DirectoryListing full = walk(root);
+
+    // Only folders and packages are left as entries; the rest is in each folder's totals.
+    QMap<QByteArray, const ListedDirectory*> folders;
+    for (ListingCursor cursor(summed); cursor.next();) {
+        QVERIFY(cursor.entry().isFolder());
+        if (const ListedDirectory* contents = cursor.entry().contents())
+            folders.insert(cursor.entry().name().toByteArray(), contents);
+    }
+    QCOMPARE(folders.keys(), (QList<QByteArray>{"deeper", "sub"}));
+    // plain.txt, empty, pipe and the three links; nothing hidden.
+    QCOMPARE(summed.root()->summedCount(), 6);
+    QCOMPARE(summed.root()->summedSize(), 1234 + ownLinkSize(root + "/link-to-file") +
+                                              ownLinkSize(root + "/link-to-folder") +
+                                              ownLinkSize(root + "/dangling"));
+    QCOMPARE(folders["sub"]->summedCount(), 2);
+    QCOMPARE(folders["sub"]->summedSize(), 40 + ownLinkSize(root + "/sub/sub-dangling"));
+    QCOMPARE(folders["deeper"]->summedCount(), 1);
+    QCOMPARE(folders["deeper"]->summedSize(), 7);
+    // Counted as items all the same, so progress and totals do not change.
+    QCOMPARE(summed.itemCount(), full.itemCount());
+    QCOMPARE(summed.folderCount(), full.folderCount());
+    QCOMPARE(full.root()->summedCount(), 0);
 }
 
 QTEST_GUILESS_MAIN(DirectoryWalkerTest)

@@ -32,7 +32,11 @@ Outcome runCancellable(const CancellableOperation<Outcome, Progress>& operation)
             return progress ? text.describe(*progress) : QString();
         },
     });
-    return interrupted ? operation.cancelled : outcome;
+    // Two returns rather than one ?: expression, which would copy: the outcome is moved out, and
+    // a folder tree of a large disk is tens of thousands of nodes.
+    if (interrupted)
+        return operation.cancelled;
+    return outcome;
 }
 
 // Prints a failure in its own words and gives the exit status; cancelling is not failing.

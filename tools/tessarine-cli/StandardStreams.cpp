@@ -13,7 +13,7 @@ namespace {
 int outputDescriptor = STDOUT_FILENO;
 
 // write() may take less than asked, or be interrupted by Ctrl-C; neither is a failure.
-bool writeAll(int descriptor, const QByteArray& bytes) {
+bool writeAll(int descriptor, QByteArrayView bytes) {
     const char* data = bytes.constData();
     qsizetype left = bytes.size();
     while (left > 0) {
@@ -37,7 +37,7 @@ void reserveStandardOutput() {
     ::dup2(STDERR_FILENO, STDOUT_FILENO);
 }
 
-bool writeOutput(const QByteArray& bytes) {
+bool writeOutput(QByteArrayView bytes) {
     if (writeAll(outputDescriptor, bytes))
         return true;
     const int reason = errno;

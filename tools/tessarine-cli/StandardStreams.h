@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 namespace tessarine::cli {
@@ -12,7 +13,7 @@ void reserveStandardOutput();
 
 // Writes all of bytes to the reserved standard output. On failure (a closed pipe, a full disk)
 // prints why on standard error and returns false.
-bool writeOutput(const QByteArray& bytes);
+bool writeOutput(QByteArrayView bytes);
 
 // One line on standard error.
 void printError(const QString& text);

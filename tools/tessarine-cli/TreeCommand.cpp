@@ -43,7 +43,10 @@ int runTree(const QStringList& arguments) {
     const FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
-    return writeOutput(json::encode(std::get<FolderInfo>(outcome))) ? exitSuccess : exitFailure;
+    // Written out as it is encoded: the text of a large tree is tens of megabytes.
+    const bool written = json::encode(std::get<FolderInfo>(outcome),
+                                      [](QByteArrayView piece) { return writeOutput(piece); });
+    return written ? exitSuccess : exitFailure;
 }
 
 } // namespace tessarine::cli
