@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstring>
 #include <utility>
 
 namespace tessarine::json {
@@ -16,38 +17,72 @@ namespace {
 // written here and one written on a Mac look alike: two spaces per level, " : " after a name.
 constexpr int indentWidth = 2;
 
-// Foundation also escapes '/' unless told not to; any reader takes both forms.
-const char* escapeFor(char c) {
-    switch (c) {
-    case '"':
-        return "\\\"";
-    case '\\':
-        return "\\\\";
-    case '/':
-        return "\\/";
-    case '\b':
-        return "\\b";
-    case '\f':
-        return "\\f";
-    case '\n':
-        return "\\n";
-    case '\r':
-        return "\\r";
-    case '\t':
-        return "\\t";
-    default:
-        return nullptr;
+// The longest escape of one byte, \u00XX.
+constexpr qsizetype longestEscape = 6;
+
+// How one ASCII character is written inside a string: itself, or a two-character escape as
+// Foundation writes them ('/' too, unless told not to; any reader takes both forms). Length 0
+// marks the control characters without a short form, written as \u00XX.
+struct AsciiForm {
+    char first = 0;
+    char second = 0;
+    unsigned char length = 0;
+};
+
+constexpr std::array<AsciiForm, 0x80> asciiForms = [] {
+    std::array<AsciiForm, 0x80> forms{};
+    for (int c = 0x20; c < 0x80; ++c)
+        forms[c] = {char(c), 0, 1};
+    for (const auto& [c, shortForm] : {std::pair{'"', '"'},
+                                       {'\\', '\\'},
+                                       {'/', '/'},
+                                       {'\b', 'b'},
+                                       {'\f', 'f'},
+                                       {'\n', 'n'},
+                                       {'\r', 'r'},
+                                       {'\t', 't'}})
+        forms[uchar(c)] = {'\\', shortForm, 2};
+    return forms;
+}();
+
+// Writes one ASCII character, escaped. Both bytes of the form are stored whatever its length, so
+// that the common characters take no branch.
+char* escapedAscii(char16_t c, char* target) {
+    const AsciiForm form = asciiForms[c];
+    if (form.length == 0) {
+        static constexpr char hexDigits[] = "0123456789abcdef";
+        for (const char part : {'\\', 'u', '0', '0', hexDigits[c >> 4], hexDigits[c & 0xF]})
+            *target++ = part;
+        return target;
     }
+    target[0] = form.first;
+    target[1] = form.second;
+    return target + form.length;
 }
 
 } // namespace
 
 // Every item starts on a new line, so this is where a full piece is passed on.
 void JsonWriter::newLine() {
-    if (m_sink && out.size() >= pieceBytes)
+    if (m_sink && m_used >= pieceBytes)
         passOn();
-    out.append('\n');
-    out.append(qsizetype(containerHasItems.size()) * indentWidth, ' ');
+    const auto indent = qsizetype(containerHasItems.size()) * indentWidth;
+    char* target = tail(1 + indent);
+    *target = '\n';
+    std::memset(target + 1, ' ', std::size_t(indent));
+    advance(target + 1 + indent);
+}
+
+// Grows by doubling, without initialising: every byte is written before it is counted.
+char* JsonWriter::tail(qsizetype bytes) {
+    if (m_used + bytes > m_out.size())
+        m_out.resize(std::max(2 * m_out.size(), m_used + bytes));
+    return m_out.data() + m_used;
+}
+
+void JsonWriter::append(const char* text, qsizetype length) {
+    std::memcpy(tail(length), text, std::size_t(length));
+    m_used += length;
 }
 
 // Places the separator and line break owed before the next item of the current container.
@@ -59,14 +94,14 @@ void JsonWriter::beginValue() {
     if (containerHasItems.empty())
         return;
     if (containerHasItems.back())
-        out.append(',');
+        append(',');
     containerHasItems.back() = true;
     newLine();
 }
 
 void JsonWriter::beginContainer(char open) {
     beginValue();
-    out.append(open);
+    append(open);
     containerHasItems.push_back(false);
 }
 
@@ -74,10 +109,10 @@ void JsonWriter::endContainer(char close) {
     // An empty container still spans lines, with one blank line inside, as the platform's
     // encoder writes it.
     if (!containerHasItems.back())
-        out.append('\n');
+        append('\n');
     containerHasItems.pop_back();
     newLine();
-    out.append(close);
+    append(close);
 }
 
 void JsonWriter::beginObject() {
@@ -99,52 +134,31 @@ void JsonWriter::endArray() {
 void JsonWriter::key(QStringView name) {
     beginValue();
     appendQuoted(name);
-    out.append(" : ");
+    append(" : ", 3);
     afterKey = true;
 }
 
 void JsonWriter::appendQuoted(QStringView text) {
-    out.append('"');
     // Member names, folder names and paths are nearly always ASCII, whose UTF-16 units are
     // their UTF-8 bytes: those are escaped straight from the string, without a UTF-8 copy of
     // it. The rest, from the first other unit on (never inside a surrogate pair), is converted
-    // first.
-    const auto firstOther =
-        std::find_if(text.begin(), text.end(), [](QChar unit) { return unit.unicode() >= 0x80; });
-    const auto asciiLength = qsizetype(firstOther - text.begin());
-    appendEscaped(text.utf16(), text.utf16() + asciiLength);
-    if (asciiLength < text.size()) {
-        const QByteArray rest = text.sliced(asciiLength).toUtf8();
-        appendEscaped(rest.constData(), rest.constData() + rest.size());
-    }
-    out.append('"');
-}
-
-// Escaped into a buffer on the stack and appended in blocks: one call per byte into the output
-// array costs more than the escaping itself.
-template <typename Unit> void JsonWriter::appendEscaped(const Unit* begin, const Unit* end) {
-    static constexpr char hexDigits[] = "0123456789abcdef";
-    static constexpr std::size_t longestEscape = 6; // \u00XX
-    std::array<char, 1024> buffer;
-    std::size_t used = 0;
-    for (; begin != end; ++begin) {
-        if (used > buffer.size() - longestEscape) {
-            out.append(buffer.data(), qsizetype(used));
-            used = 0;
-        }
-        const auto c = char(*begin);
-        if (const char* escape = escapeFor(c)) {
-            buffer[used++] = escape[0];
-            buffer[used++] = escape[1];
-        } else if (uchar(c) < 0x20) {
-            for (const char part :
-                 {'\\', 'u', '0', '0', hexDigits[uchar(c) >> 4], hexDigits[c & 0xF]})
-                buffer[used++] = part;
-        } else {
-            buffer[used++] = c;
+    // first. No unit takes more than longestEscape bytes, whichever way it goes.
+    char* target = tail(2 + text.size() * longestEscape);
+    *target++ = '"';
+    const char16_t* unit = text.utf16();
+    const char16_t* const end = unit + text.size();
+    for (; unit != end && *unit < 0x80; ++unit)
+        target = escapedAscii(*unit, target);
+    if (unit != end) {
+        for (const char byte : QStringView(unit, end).toUtf8()) {
+            if (uchar(byte) < 0x80)
+                target = escapedAscii(char16_t(byte), target);
+            else
+                *target++ = byte;
         }
     }
-    out.append(buffer.data(), qsizetype(used));
+    *target++ = '"';
+    advance(target);
 }
 
 void JsonWriter::write(QStringView text) {
@@ -157,19 +171,21 @@ void JsonWriter::write(qint64 value) {
     // Formatted on the stack: a tree writes several numbers per folder.
     std::array<char, 24> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    out.append(digits.data(), qsizetype(end - digits.data()));
+    append(digits.data(), qsizetype(end - digits.data()));
 }
 
 void JsonWriter::write(double value) {
     beginValue();
     // JSON has no NaN or infinity; a broken duration must not make the whole result unreadable.
-    out.append(std::isfinite(value) ? QByteArray::number(value, 'g', QLocale::FloatingPointShortest)
-                                    : QByteArray("0"));
+    const QByteArray text = std::isfinite(value)
+                                ? QByteArray::number(value, 'g', QLocale::FloatingPointShortest)
+                                : QByteArray("0");
+    append(text.constData(), text.size());
 }
 
 void JsonWriter::write(bool value) {
     beginValue();
-    out.append(value ? "true" : "false");
+    append(value ? "true" : "false", value ? 4 : 5);
 }
 
 void JsonWriter::write(const QUuid& id) {
@@ -192,24 +208,26 @@ void JsonWriter::write(const QUuid& id) {
         text[used++] = hexDigits[bytes[i] & 0xF];
     }
     text[used++] = '"';
-    out.append(text.data(), qsizetype(used));
+    append(text.data(), qsizetype(used));
 }
 
 QByteArray JsonWriter::take() {
-    out.append('\n');
-    return std::move(out);
+    append('\n');
+    m_out.resize(m_used);
+    m_used = 0;
+    return std::move(m_out);
 }
 
 bool JsonWriter::finish() {
-    out.append('\n');
+    append('\n');
     passOn();
     return !m_sinkFailed;
 }
 
 void JsonWriter::passOn() {
     if (!m_sinkFailed)
-        m_sinkFailed = !m_sink(out);
-    out.resize(0); // keeps the capacity for the next piece
+        m_sinkFailed = !m_sink(QByteArrayView(m_out.constData(), m_used));
+    m_used = 0; // the room is reused for the next piece
 }
 
 } // namespace tessarine::json

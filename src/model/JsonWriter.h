@@ -54,17 +54,26 @@ public:
 private:
     void beginValue();
     void newLine();
+    // Room for `bytes` more bytes at the end of the text; advance() then counts those written.
+    char* tail(qsizetype bytes);
+    void advance(char* end) { m_used = end - m_out.data(); }
+    void append(char c) {
+        *tail(1) = c;
+        ++m_used;
+    }
+    void append(const char* text, qsizetype length);
     void beginContainer(char open);
     void endContainer(char close);
     void appendQuoted(QStringView text);
-    // Appends each unit, escaped, as one byte: only for ASCII or UTF-8 units.
-    template <typename Unit> void appendEscaped(const Unit* begin, const Unit* end);
 
     void passOn();
 
     Sink m_sink;
     bool m_sinkFailed = false;
-    QByteArray out;
+    // The text not passed on yet is m_out's first m_used bytes; the rest of m_out is room to
+    // write into, so that each piece of text is a plain copy and not a call into the array.
+    QByteArray m_out;
+    qsizetype m_used = 0;
     std::vector<bool> containerHasItems;
     bool afterKey = false;
 };
