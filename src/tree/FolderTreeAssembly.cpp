@@ -1,43 +1,117 @@
 #include "tree/FolderTreeAssembly.h"
 
-#include <QFile>
+#include "tree/SubtreeBuilder.h"
 
 #include <algorithm>
-#include <fcntl.h>
-#include <sys/stat.h>
+#include <thread>
+#include <unordered_map>
+#include <vector>
 
 namespace tessarine {
 
 namespace {
 
-QString decodedName(QByteArrayView bytes) {
-    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
+// Subtrees per thread: the smaller each is, the less one late large subtree leaves the other
+// threads idle.
+constexpr qint64 subtreesPerThread = 8;
+// How far down the pass splits subtrees; a chain of single folders has nothing to share anyway.
+constexpr qint64 deepestSplit = 32;
+
+// A subtree built by one thread, and its finished node (empty when its parent drops it).
+struct SharedSubtree {
+    SubtreeStart start;
+    qint64 folderCount;
+    std::optional<FolderInfo> node;
+};
+
+// The listed folders below `root`, root first, depth first in listing order (so a folder's first
+// listed sub-folder follows it, and each further one follows the subtree before it), with the
+// number of listed folders in each one's subtree, itself included.
+std::vector<qint64> listedSubtreeSizes(const ListedDirectory* root) {
+    struct Pending {
+        const ListedDirectory* folder;
+        std::size_t parent;
+    };
+    std::vector<std::size_t> parents;
+    std::vector<Pending> pending{{root, 0}};
+    std::vector<const ListedDirectory*> children;
+    while (!pending.empty()) {
+        const Pending next = pending.back();
+        pending.pop_back();
+        const std::size_t index = parents.size();
+        parents.push_back(next.parent);
+        children.clear();
+        for (const ListedEntry& entry : next.folder->entries()) {
+            if (entry.kind() == EntryKind::directory && isListed(entry.contents()))
+                children.push_back(entry.contents());
+        }
+        for (auto child = children.rbegin(); child != children.rend(); ++child)
+            pending.push_back({*child, index});
+    }
+    std::vector<qint64> sizes(parents.size(), 1);
+    for (std::size_t index = sizes.size() - 1; index > 0; --index)
+        sizes[parents[index]] += sizes[index];
+    return sizes;
 }
 
-// The last component of a cleaned absolute path; "/" names itself.
-QString lastPathComponent(const QString& path) {
-    return path == QLatin1String("/") ? path : path.sliced(path.lastIndexOf(u'/') + 1);
+// Splits the subtree of `start` (at `index` in `sizes`) into subtrees of at most `largest`
+// folders where its depth allows, each with the path and colour its parent's listing gives it.
+void split(const SubtreeStart& start, std::size_t index, const std::vector<qint64>& sizes,
+           qint64 largest, std::vector<SharedSubtree>& subtrees) {
+    if (sizes[index] <= largest || start.depth == deepestSplit) {
+        subtrees.push_back({start, sizes[index], std::nullopt});
+        return;
+    }
+    QByteArray path = start.parentPath;
+    if (!start.name.isEmpty())
+        appendPathComponent(path, start.name);
+    qint64 position = 0;
+    std::size_t child = index + 1;
+    for (const ListedEntry& entry : start.folder->entries()) {
+        if (entry.kind() != EntryKind::directory)
+            continue;
+        const FolderColor color = folderColorAt(position++);
+        if (!isListed(entry.contents()))
+            continue;
+        split({entry.contents(), path, entry.name(), start.depth + 1, color}, child, sizes, largest,
+              subtrees);
+        child += std::size_t(sizes[child]);
+    }
 }
 
-bool isListed(const ListedDirectory* folder) {
-    return folder && folder->state() == ListedDirectory::State::listed;
+// The subtrees to build side by side, largest first: the folders above them are few, and are
+// finished afterwards. None when there are not two to share out.
+std::vector<SharedSubtree> sharedSubtrees(const SubtreeStart& root, int threadCount) {
+    const std::vector<qint64> sizes = listedSubtreeSizes(root.folder);
+    std::vector<SharedSubtree> subtrees;
+    split(root, 0, sizes, std::max<qint64>(sizes[0] / (subtreesPerThread * threadCount), 1),
+          subtrees);
+    if (subtrees.size() < 2)
+        return {};
+    std::stable_sort(subtrees.begin(), subtrees.end(),
+                     [](const auto& a, const auto& b) { return a.folderCount > b.folderCount; });
+    return subtrees;
+}
+
+// Each thread takes the next subtree not yet taken: which ones are large is not known beforehand.
+void buildSideBySide(std::vector<SharedSubtree>& subtrees, int threadCount,
+                     const std::atomic<bool>& cancelled, AssemblyProgress& progress,
+                     const QString& rootPath) {
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&] {
+        SubtreeBuilder builder(cancelled, progress, rootPath);
+        for (std::size_t taken; (taken = next.fetch_add(1)) < subtrees.size();) {
+            SharedSubtree& subtree = subtrees[taken];
+            subtree.node = builder.build(subtree.start);
+        }
+    };
+    std::vector<std::jthread> helpers;
+    for (int helper = 1; helper < threadCount; ++helper)
+        helpers.emplace_back(work);
+    work();
 }
 
 } // namespace
-
-// One folder whose entries are being summed.
-struct FolderTreeAssembly::Frame {
-    const ListedEntry* next;
-    const ListedEntry* end;
-    QByteArrayView name; // empty for the root
-    qsizetype parentPathLength;
-    qint64 depth;
-    FolderColor color;
-    qint64 totalSize = 0;
-    qint64 fileCount = 0;
-    qint64 subfolderCount = 0; // sub-folders met so far, dropped ones included: the colour index
-    std::vector<FolderInfo> children;
-};
 
 qint64 treeFolderCount(const DirectoryListing& listing) {
     qint64 count = 0;
@@ -63,121 +137,44 @@ qint64 FolderTreeAssembly::updateInterval(qint64 folderCount) {
 }
 
 FolderTreeAssembly::FolderTreeAssembly(const std::atomic<bool>& cancelled, qint64 folderCount,
-                                       FolderCallback onInterval)
+                                       FolderCallback onInterval, int threadCount)
     : m_cancelled(cancelled)
     , m_folderCount(folderCount)
-    , m_interval(updateInterval(folderCount))
-    , m_onInterval(std::move(onInterval)) {}
-
-FolderTreeAssembly::~FolderTreeAssembly() = default;
+    , m_threadCount(threadCount > 0 ? threadCount
+                                    : std::max(1, int(std::thread::hardware_concurrency())))
+    , m_progress(folderCount, updateInterval(folderCount), std::move(onInterval)) {}
 
 std::optional<FolderInfo> FolderTreeAssembly::assemble(const DirectoryListing& listing,
                                                        const QString& rootPath) {
-    m_rootPath = rootPath;
-    m_rootName = lastPathComponent(rootPath);
     if (!isListed(listing.root())) {
         // A root the walker could not open cannot be listed directly either: like any folder that
         // cannot be listed it is an empty leaf, counted but without a progress record.
-        ++m_processed;
+        m_progress.skipped();
         FolderInfo leaf;
-        leaf.path = m_rootPath;
-        leaf.name = m_rootName;
+        leaf.path = rootPath;
+        leaf.name = lastPathComponent(rootPath);
         return leaf;
     }
-    m_path = listing.rootPath();
-    m_stack.clear();
-    enter(*listing.root(), {}, 0, folderColorAt(0));
-    while (!m_cancelled.load(std::memory_order_relaxed)) {
-        Frame& top = m_stack.back();
-        if (top.next != top.end) {
-            visit(top, *top.next++);
-            continue;
-        }
-        std::optional<FolderInfo> node = finish(top);
-        m_path.truncate(top.parentPathLength);
-        m_stack.pop_back();
-        if (m_stack.empty())
-            return node;
-        if (node) {
-            Frame& parent = m_stack.back();
-            parent.totalSize += node->totalSize;
-            parent.fileCount += node->fileCount;
-            parent.children.push_back(std::move(*node));
-        }
+    const SubtreeStart root{listing.root(), listing.rootPath(), {}, 0, folderColorAt(0)};
+    std::vector<SharedSubtree> subtrees;
+    if (m_threadCount > 1 && m_folderCount >= parallelFolderCount) {
+        subtrees = sharedSubtrees(root, m_threadCount);
+        if (!subtrees.empty())
+            buildSideBySide(subtrees, m_threadCount, m_cancelled, m_progress, rootPath);
     }
-    return std::nullopt;
-}
 
-void FolderTreeAssembly::enter(const ListedDirectory& folder, QByteArrayView name, qint64 depth,
-                               FolderColor color) {
-    const qsizetype parentPathLength = m_path.size();
-    if (!name.isEmpty())
-        appendPathComponent(m_path, name);
-    const auto entries = folder.entries();
-    std::vector<FolderInfo> children;
-    // With the files summed away the entries are nearly all sub-folders: one allocation each.
-    if (folder.summedCount() > 0 || entries.size() > 1)
-        children.reserve(entries.size());
-    m_stack.push_back(Frame{entries.data(), entries.data() + entries.size(), name, parentPathLength,
-                            depth, color, folder.summedSize(), folder.summedCount(), 0,
-                            std::move(children)});
-}
-
-void FolderTreeAssembly::visit(Frame& frame, const ListedEntry& entry) {
-    if (entry.kind() != EntryKind::directory) {
-        const std::optional<qint64> size = entry.ownSize();
-        frame.totalSize += size ? *size : unlistedEntrySize(entry.name());
-        frame.fileCount += 1;
-        return;
-    }
-    const FolderColor color = folderColorAt(frame.subfolderCount++);
-    if (!isListed(entry.contents())) {
-        // An empty leaf, which its parent drops at once; it still counts as processed.
-        ++m_processed;
-        return;
-    }
-    enter(*entry.contents(), entry.name(), frame.depth + 1, color); // invalidates `frame`
-}
-
-std::optional<FolderInfo> FolderTreeAssembly::finish(Frame& frame) {
-    ++m_processed;
-    if (m_processed % m_interval == 0 || m_processed == m_folderCount)
-        m_onInterval(m_processed, folderName(frame));
-    const bool isRoot = m_stack.size() == 1;
-    if (!isRoot && frame.totalSize < 1 && frame.children.empty())
+    std::unordered_map<const ListedDirectory*, std::optional<FolderInfo>*> ready;
+    for (SharedSubtree& subtree : subtrees)
+        ready.emplace(subtree.start.folder, &subtree.node);
+    SubtreeBuilder above(m_cancelled, m_progress, rootPath,
+                         [&](const ListedDirectory* folder) -> std::optional<FolderInfo>* {
+                             const auto found = ready.find(folder);
+                             return found == ready.end() ? nullptr : found->second;
+                         });
+    std::optional<FolderInfo> tree = above.build(root);
+    if (m_cancelled.load())
         return std::nullopt;
-    // Stable, so that folders of equal size keep their listing order. The sort's scratch buffer is
-    // not worth asking for without two children to order.
-    if (frame.children.size() > 1)
-        std::stable_sort(
-            frame.children.begin(), frame.children.end(),
-            [](const FolderInfo& a, const FolderInfo& b) { return a.totalSize > b.totalSize; });
-    FolderInfo node;
-    node.path = isRoot ? m_rootPath : QFile::decodeName(m_path);
-    node.name = folderName(frame);
-    node.totalSize = frame.totalSize;
-    node.fileCount = frame.fileCount;
-    node.childFolders = std::move(frame.children);
-    node.depth = frame.depth;
-    node.color = frame.color;
-    return node;
-}
-
-// Packages and entries whose metadata could not be read (and links, were the walk told not to
-// size them) carry no size in the listing. They count as files of the size the file system gives
-// their own entry (a link is not followed); one that cannot be read, or has vanished since, counts
-// as zero bytes.
-qint64 FolderTreeAssembly::unlistedEntrySize(QByteArrayView name) const {
-    QByteArray path = m_path;
-    appendPathComponent(path, name);
-    struct stat status;
-    if (fstatat(AT_FDCWD, path.constData(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-        return 0;
-    return qint64(status.st_size);
-}
-
-QString FolderTreeAssembly::folderName(const Frame& frame) const {
-    return frame.name.isEmpty() ? m_rootName : decodedName(frame.name);
+    return tree;
 }
 
 } // namespace tessarine

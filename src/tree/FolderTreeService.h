@@ -46,9 +46,11 @@ public:
     // Call from a worker thread (or a test thread other than the service's).
     FolderTreeOutcome build(const QString& rootPath);
 
-    // Receives every progress record as it is made, on the thread running build(), before it is
-    // handed to the service's thread: a caller can follow the whole sequence instead of sampling
-    // it, or act at an exact point of the build. Set it before build() starts.
+    // Receives every progress record as it is made, before it is handed to the service's thread:
+    // a caller can follow the whole sequence instead of sampling it, or act at an exact point of
+    // the build. Records come one at a time and in order, on the thread running build() or, while
+    // a large tree's subtrees are built side by side, on one of its helper threads. Set it before
+    // build() starts.
     using ProgressObserver = std::function<void(const FolderTreeProgress&)>;
     void setProgressObserver(ProgressObserver observer) { m_observer = std::move(observer); }
 

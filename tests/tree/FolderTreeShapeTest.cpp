@@ -3,6 +3,7 @@
 #include "TestTrees.h"
 
 #include "scanner/DirectoryWalker.h"
+#include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
 #include <QDir>
@@ -10,6 +11,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <tuple>
 
 #include <unistd.h>
@@ -50,6 +52,7 @@ private slots:
     void missingRootIsBareLeaf();
     void keepsOddNames();
     void chainTenThousandFoldersDeep();
+    void sharedOutAcrossThreadsEqualsOneThread();
 };
 
 void FolderTreeShapeTest::equalsPlainRecursiveBuild_data() {
@@ -268,6 +271,51 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
     QVERIFY(folder->childFolders.empty());
     QVERIFY(folder->path.endsWith("/d/d"));
     QCOMPARE(build.records.last().processedItems, depth + 1);
+}
+
+// Enough folders for the node pass to share subtrees out, some of them unreadable; the threads
+// must give the single thread's tree, count every folder once and report in increasing order.
+void FolderTreeShapeTest::sharedOutAcrossThreadsEqualsOneThread() {
+    const QTemporaryDir dir = makeFastTemporaryDir();
+    generateTree(dir.path(), 24000, 11u);
+    const std::atomic<bool> notCancelled{false};
+    const DirectoryListing listing = enumerateFolders(dir.path(), notCancelled, {});
+    int unreadable = 0;
+    for (const ListedEntry& entry : listing.root()->entries()) {
+        if (entry.contents() && entry.contents()->state() == ListedDirectory::State::listed &&
+            unreadable++ % 3 == 0)
+            const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
+    }
+    const qint64 folderCount = treeFolderCount(listing);
+    QVERIFY(folderCount >= FolderTreeAssembly::parallelFolderCount);
+
+    const auto assemble = [&](int threads, const std::atomic<bool>& cancelled,
+                              QList<qint64>& reported) {
+        FolderTreeAssembly assembly(
+            cancelled, folderCount,
+            [&](qint64 processed, const QString&) { reported.append(processed); }, threads);
+        const std::optional<FolderInfo> tree = assembly.assemble(listing, dir.path());
+        return std::pair(tree ? std::optional(withoutIds(*tree)) : std::nullopt,
+                         assembly.processedCount());
+    };
+    QList<qint64> alone, shared;
+    const auto [single, singleCount] = assemble(1, notCancelled, alone);
+    const auto [parallel, parallelCount] = assemble(4, notCancelled, shared);
+
+    QVERIFY(single && parallel);
+    QVERIFY(*parallel == *single);
+    QCOMPARE(parallelCount, singleCount);
+    QCOMPARE(shared.last(), folderCount);
+    QVERIFY(std::is_sorted(shared.begin(), shared.end()));
+    QVERIFY(std::adjacent_find(shared.begin(), shared.end()) == shared.end());
+    QVERIFY(shared.size() > 100);
+
+    // Called off at the first record, while the threads are busy with their subtrees.
+    std::atomic<bool> cancelled{false};
+    FolderTreeAssembly assembly(
+        cancelled, folderCount, [&](qint64, const QString&) { cancelled = true; }, 4);
+    QVERIFY(!assembly.assemble(listing, dir.path()));
+    QVERIFY(assembly.processedCount() < folderCount);
 }
 
 QTEST_GUILESS_MAIN(FolderTreeShapeTest)
