@@ -40,12 +40,16 @@ int runTree(const QStringList& arguments) {
     if (!isListableFolder(folder))
         return reportFailure(FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath});
 
-    const FolderTreeOutcome outcome = buildTree(rootPath);
+    FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
+    // Kept to the end of the process, which follows at once: handing a large tree's nodes back to
+    // the allocator one by one would only delay it. Held by a static, so leak checkers see it.
+    static const FolderInfo* keptUntilExit = nullptr;
+    keptUntilExit = new FolderInfo(std::get<FolderInfo>(std::move(outcome)));
     // Written out as it is encoded: the text of a large tree is tens of megabytes.
-    const bool written = json::encode(std::get<FolderInfo>(outcome),
-                                      [](QByteArrayView piece) { return writeOutput(piece); });
+    const bool written =
+        json::encode(*keptUntilExit, [](QByteArrayView piece) { return writeOutput(piece); });
     return written ? exitSuccess : exitFailure;
 }
 
