@@ -60,6 +60,26 @@ char* escapedAscii(char16_t c, char* target) {
     return target + form.length;
 }
 
+// Writes `text` escaped, as UTF-8. Member names, folder names and paths are nearly always ASCII,
+// whose UTF-16 units are their UTF-8 bytes: those are escaped straight from the string, without
+// a UTF-8 copy of it. The rest, from the first other unit on (never inside a surrogate pair), is
+// converted first. No unit takes more than longestEscape bytes, whichever way it goes.
+char* escaped(QStringView text, char* target) {
+    const char16_t* unit = text.utf16();
+    const char16_t* const end = unit + text.size();
+    for (; unit != end && *unit < 0x80; ++unit)
+        target = escapedAscii(*unit, target);
+    if (unit != end) {
+        for (const char byte : QStringView(unit, end).toUtf8()) {
+            if (uchar(byte) < 0x80)
+                target = escapedAscii(char16_t(byte), target);
+            else
+                *target++ = byte;
+        }
+    }
+    return target;
+}
+
 } // namespace
 
 // Every item starts on a new line, so this is where a full piece is passed on.
@@ -138,25 +158,37 @@ void JsonWriter::key(QStringView name) {
     afterKey = true;
 }
 
+void JsonWriter::plainKey(QStringView name) {
+    beginValue();
+    char* target = tail(name.size() + 5);
+    *target++ = '"';
+    for (const QChar unit : name)
+        *target++ = char(unit.unicode());
+    std::memcpy(target, "\" : ", 4);
+    advance(target + 4);
+    afterKey = true;
+}
+
 void JsonWriter::appendQuoted(QStringView text) {
-    // Member names, folder names and paths are nearly always ASCII, whose UTF-16 units are
-    // their UTF-8 bytes: those are escaped straight from the string, without a UTF-8 copy of
-    // it. The rest, from the first other unit on (never inside a surrogate pair), is converted
-    // first. No unit takes more than longestEscape bytes, whichever way it goes.
     char* target = tail(2 + text.size() * longestEscape);
     *target++ = '"';
-    const char16_t* unit = text.utf16();
-    const char16_t* const end = unit + text.size();
-    for (; unit != end && *unit < 0x80; ++unit)
-        target = escapedAscii(*unit, target);
-    if (unit != end) {
-        for (const char byte : QStringView(unit, end).toUtf8()) {
-            if (uchar(byte) < 0x80)
-                target = escapedAscii(char16_t(byte), target);
-            else
-                *target++ = byte;
-        }
-    }
+    target = escaped(text, target);
+    *target++ = '"';
+    advance(target);
+}
+
+void JsonWriter::escape(QStringView text, QByteArray& target) {
+    const qsizetype start = target.size();
+    target.resize(start + text.size() * longestEscape);
+    target.truncate(escaped(text, target.data() + start) - target.constData());
+}
+
+void JsonWriter::writeEscaped(QByteArrayView escapedText) {
+    beginValue();
+    char* target = tail(2 + escapedText.size());
+    *target++ = '"';
+    std::memcpy(target, escapedText.data(), std::size_t(escapedText.size()));
+    target += escapedText.size();
     *target++ = '"';
     advance(target);
 }

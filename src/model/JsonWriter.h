@@ -32,8 +32,14 @@ public:
     void beginArray();
     void endArray();
     void key(QStringView name);
+    // A member name of this program's own, spelled out in the code: plain ASCII with nothing to
+    // escape, so it is copied as it is.
+    template <std::size_t N> void key(const char16_t (&name)[N]) { plainKey(QStringView(name)); }
 
     void write(QStringView text);
+    // A string whose text escape() has already made; a folder tree writes each path this way, as
+    // its parent's escaped path and its own escaped name.
+    void writeEscaped(QByteArrayView escapedText);
     void write(qint64 value);
     void write(double value);
     void write(bool value);
@@ -45,6 +51,14 @@ public:
         key(name);
         write(value);
     }
+    template <std::size_t N, typename Value>
+    void member(const char16_t (&name)[N], const Value& value) {
+        key(name);
+        write(value);
+    }
+
+    // Appends `text` to `target` as it stands between the quotes of a JSON string.
+    static void escape(QStringView text, QByteArray& target);
 
     // Without a sink: the whole text.
     QByteArray take();
@@ -65,6 +79,7 @@ private:
     void beginContainer(char open);
     void endContainer(char close);
     void appendQuoted(QStringView text);
+    void plainKey(QStringView name);
 
     void passOn();
 

@@ -231,6 +231,33 @@ private slots:
         QVERIFY(bytes.contains("\"path\" : \"" + oddEscaped + "\""));
     }
 
+    // A child's path is written from its parent's escaped path where it extends it (also below
+    // "/"), and on its own where a tree read from elsewhere says something else.
+    void pathsBelowTheirParents() {
+        FolderInfo root;
+        root.path = root.name = QStringLiteral("/");
+        FolderInfo child;
+        child.name = QStringLiteral("q\"b\u00e9");
+        child.path = u'/' + child.name;
+        FolderInfo grandchild;
+        grandchild.name = QStringLiteral("n\nl");
+        grandchild.path = child.path + u'/' + grandchild.name;
+        FolderInfo foreign;
+        foreign.name = QStringLiteral("x");
+        foreign.path = QStringLiteral("/elsewhere/x");
+        child.childFolders = {grandchild, foreign};
+        root.childFolders = {child};
+
+        const QByteArray bytes = json::encode(root);
+
+        QVERIFY(bytes.contains("\"path\" : \"\\/q\\\"b\xc3\xa9\""));
+        QVERIFY(bytes.contains("\"path\" : \"\\/q\\\"b\xc3\xa9\\/n\\nl\""));
+        QVERIFY(bytes.contains("\"path\" : \"\\/elsewhere\\/x\""));
+        AnalysisResult result = smallResult();
+        result.folderTree = root;
+        QVERIFY(decoded(json::encode(result)).folderTree == root);
+    }
+
     void dates() {
         const QDateTime utc(QDate(2024, 3, 5), QTime(14, 7, 9, 999), Qt::UTC);
         QCOMPARE(json::formatDate(utc), "2024-03-05T14:07:09Z");
