@@ -93,7 +93,7 @@ std::vector<SharedSubtree> sharedSubtrees(const SubtreeStart& root, int threadCo
     return subtrees;
 }
 
-// Each thread takes the next subtree not yet taken: which ones are large is not known beforehand.
+// Each thread takes the next subtree not yet taken; largest first, so the last to finish are small.
 void buildSideBySide(std::vector<SharedSubtree>& subtrees, int threadCount,
                      const std::atomic<bool>& cancelled, AssemblyProgress& progress,
                      const QString& rootPath) {
