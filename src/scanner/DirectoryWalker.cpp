@@ -279,4 +279,9 @@ QString cleanRootPath(const QString& folderPath) {
     return QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath());
 }
 
+QString lastPathComponent(const QString& cleanPath) {
+    return cleanPath == QLatin1String("/") ? cleanPath
+                                           : cleanPath.sliced(cleanPath.lastIndexOf(u'/') + 1);
+}
+
 } // namespace tessarine

@@ -59,4 +59,7 @@ private:
 // separator except for "/" itself. Symbolic links are kept, not resolved.
 QString cleanRootPath(const QString& folderPath);
 
+// The name of a folder whose path is in that form: its last component; "/" names itself.
+QString lastPathComponent(const QString& cleanPath);
+
 } // namespace tessarine

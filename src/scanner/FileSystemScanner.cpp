@@ -23,11 +23,6 @@ ScanProgress snapshot(ScanPhase phase, const QDateTime& startTime) {
     return progress;
 }
 
-// The last component of a cleaned absolute path; "/" names itself.
-QString lastPathComponent(const QString& path) {
-    return path == QLatin1String("/") ? path : path.sliced(path.lastIndexOf(u'/') + 1);
-}
-
 } // namespace
 
 ScanOutcome FileSystemScanner::scan(const QString& folderPath) {

@@ -1,5 +1,6 @@
 #include "tree/FolderTreeAssembly.h"
 
+#include "scanner/DirectoryWalker.h"
 #include "tree/SubtreeBuilder.h"
 
 #include <algorithm>

@@ -1,5 +1,7 @@
 #include "tree/SubtreeBuilder.h"
 
+#include "scanner/DirectoryWalker.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -15,10 +17,6 @@ QString decodedName(QByteArrayView bytes) {
 }
 
 } // namespace
-
-QString lastPathComponent(const QString& path) {
-    return path == QLatin1String("/") ? path : path.sliced(path.lastIndexOf(u'/') + 1);
-}
 
 bool isListed(const ListedDirectory* folder) {
     return folder && folder->state() == ListedDirectory::State::listed;

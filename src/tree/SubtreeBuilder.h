@@ -64,9 +64,6 @@ private:
     std::vector<Frame> m_stack;
 };
 
-// The last component of a cleaned absolute path; "/" names itself.
-QString lastPathComponent(const QString& path);
-
 // Whether the walk listed the folder's contents (not cancelled before it, nor unable to open it).
 bool isListed(const ListedDirectory* folder);
 

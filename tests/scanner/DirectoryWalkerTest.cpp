@@ -166,7 +166,7 @@ void DirectoryWalkerTest::keepsOddNamesAsBytes() {
 }
 
 void DirectoryWalkerTest::walksChainDeeperThanPathMax() {
-    QTemporaryDir dir;
+    const QTemporaryDir dir = makeFastTemporaryDir();
     const int depth = 10000;
     const FolderChain chain(dir.path(), depth);
 

@@ -174,7 +174,7 @@ void FileSystemScannerTest::keepsOddNamesReadable() {
 }
 
 void FileSystemScannerTest::scansChainDeeperThanPathMax() {
-    QTemporaryDir dir;
+    const QTemporaryDir dir = makeFastTemporaryDir();
     const int depth = 10000;
     const FolderChain chain(dir.path(), depth);
 

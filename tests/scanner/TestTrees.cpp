@@ -169,4 +169,10 @@ int openDescriptorCount() {
     return int(QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::Files | QDir::System).size());
 }
 
+QTemporaryDir makeFastTemporaryDir() {
+    const QString memoryBacked = QStringLiteral("/dev/shm");
+    const QString base = QFileInfo(memoryBacked).isWritable() ? memoryBacked : QDir::tempPath();
+    return QTemporaryDir(base + QStringLiteral("/tessarine-test-XXXXXX"));
+}
+
 } // namespace tessarine::testing

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
+#include <QTemporaryDir>
 
 #include <initializer_list>
 #include <utility>
@@ -80,5 +81,9 @@ std::vector<WalkedItem> referenceWalk(const QByteArray& root);
 
 // Descriptors this process has open right now.
 int openDescriptorCount();
+
+// A temporary folder in memory (tmpfs) where the system offers one, else in the usual place: a
+// disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.
+QTemporaryDir makeFastTemporaryDir();
 
 } // namespace tessarine::testing

@@ -2,9 +2,6 @@
 
 #include "scanner/DirectoryWalker.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 namespace tessarine::testing {
 
 bool RecordedBuild::wasCancelled() const {
@@ -56,12 +53,6 @@ QStringList childNames(const FolderInfo& folder) {
     for (const FolderInfo& child : folder.childFolders)
         names.append(child.name);
     return names;
-}
-
-QTemporaryDir makeFastTemporaryDir() {
-    const QString memoryBacked = QStringLiteral("/dev/shm");
-    const QString base = QFileInfo(memoryBacked).isWritable() ? memoryBacked : QDir::tempPath();
-    return QTemporaryDir(base + QStringLiteral("/tessarine-tree-XXXXXX"));
 }
 
 } // namespace tessarine::testing

@@ -4,7 +4,6 @@
 
 #include <QByteArrayList>
 #include <QList>
-#include <QTemporaryDir>
 
 #include <functional>
 
@@ -32,9 +31,5 @@ QByteArrayList listingOrder(const QString& folder);
 
 // The names of a node's children, in list order.
 QStringList childNames(const FolderInfo& folder);
-
-// A temporary folder in memory (tmpfs) where the system offers one, else in the usual place: a
-// disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.
-QTemporaryDir makeFastTemporaryDir();
 
 } // namespace tessarine::testing
