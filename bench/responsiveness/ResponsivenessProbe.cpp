@@ -41,7 +41,7 @@ void ResponsivenessProbe::scan(const QString& folderPath) {
 
 void ResponsivenessProbe::progressArrived() {
     // Clearing the snapshot when the scan starts is not news from the scanner.
-    if (!m_state.scanProgress().valid())
+    if (!m_state.hasScanProgress())
         return;
     const qint64 now = m_clock.nsecsElapsed();
     m_longestGapNs = std::max(m_longestGapNs, now - m_lastUpdateNs);

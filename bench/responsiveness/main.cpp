@@ -56,12 +56,12 @@ int main(int argc, char* argv[]) {
 
     ResponsivenessProbe probe(state);
     probe.scan(QString::fromLocal8Bit(argv[1]));
-    if (state.error().present()) {
-        std::fprintf(stderr, "%s\n", qPrintable(state.error().errorDescription()));
+    if (state.hasError()) {
+        std::fprintf(stderr, "%s\n", qPrintable(state.error()->errorDescription()));
         return 1;
     }
     std::printf("scan: %lld files in %.2f s, %d progress updates\n",
-                static_cast<long long>(state.currentResult().fileCount()), probe.seconds(),
+                static_cast<long long>(state.currentResultOrEmpty().fileCount), probe.seconds(),
                 probe.progressUpdates());
     printVerdict(probe.longestProgressGapMs(), gapTargetMs, "longest gap between progress updates");
     printVerdict(probe.longestStallMs(), stallTargetMs, "longest event-loop stall");

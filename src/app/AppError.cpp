@@ -62,7 +62,7 @@ QString AppError::errorDescription() const {
     return m_detail;
 }
 
-std::optional<QString> AppError::recoverySuggestion() const {
+QString AppError::recoverySuggestion() const {
     switch (m_kind) {
     case Kind::scanFailed:
         return QStringLiteral(
@@ -79,9 +79,9 @@ std::optional<QString> AppError::recoverySuggestion() const {
     case Kind::unknown:
         return QStringLiteral("Please try again or restart the application.");
     case Kind::cancelled:
-        return std::nullopt;
+        break;
     }
-    return std::nullopt;
+    return QString();
 }
 
 } // namespace tessarine

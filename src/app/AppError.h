@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QObject>
 #include <QString>
+#include <QtQml/qqmlregistration.h>
 
 #include <optional>
 
@@ -10,6 +12,13 @@ namespace tessarine {
 // lower layers keep their own error types; the cases that wrap one take that error's own
 // description, so the user reads both what was attempted and why it failed.
 class AppError {
+    Q_GADGET
+    QML_VALUE_TYPE(appError)
+    Q_PROPERTY(QString errorDescription READ errorDescription)
+    Q_PROPERTY(QString recoverySuggestion READ recoverySuggestion)
+    Q_PROPERTY(bool hasRecoverySuggestion READ hasRecoverySuggestion)
+    Q_PROPERTY(QString identity READ identity)
+
 public:
     enum class Kind {
         scanFailed,
@@ -22,6 +31,10 @@ public:
         cancelled
     };
 
+    // An unknown error without a message; what the views read while no error is shown.
+    AppError()
+        : AppError(Kind::unknown, QString()) {}
+
     static AppError scanFailed(const QString& underlyingDescription);
     static AppError permissionDenied(const QString& path);
     static AppError invalidPath(const QString& path);
@@ -33,7 +46,9 @@ public:
 
     Kind kind() const { return m_kind; }
     QString errorDescription() const;
-    std::optional<QString> recoverySuggestion() const;
+    bool hasRecoverySuggestion() const { return !recoverySuggestion().isEmpty(); }
+    // Empty when there is nothing the user can do.
+    QString recoverySuggestion() const;
     // Two errors with the same text are the same error to the alert.
     QString identity() const { return errorDescription(); }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ErrorHandle.h"
+#include "AppError.h"
 
 #include <QObject>
 #include <QString>
@@ -17,16 +17,14 @@ class AppErrorFactory : public QObject {
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE tessarine::ErrorHandle scanFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::ErrorHandle permissionDenied(const QString& path) const;
-    Q_INVOKABLE tessarine::ErrorHandle invalidPath(const QString& path) const;
-    Q_INVOKABLE tessarine::ErrorHandle saveFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::ErrorHandle loadFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::ErrorHandle exportFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::ErrorHandle unknown(const QString& message) const;
-    Q_INVOKABLE tessarine::ErrorHandle cancelled() const;
-    // No error, for clearing an error state of one's own.
-    Q_INVOKABLE tessarine::ErrorHandle none() const;
+    Q_INVOKABLE tessarine::AppError scanFailed(const QString& underlyingDescription) const;
+    Q_INVOKABLE tessarine::AppError permissionDenied(const QString& path) const;
+    Q_INVOKABLE tessarine::AppError invalidPath(const QString& path) const;
+    Q_INVOKABLE tessarine::AppError saveFailed(const QString& underlyingDescription) const;
+    Q_INVOKABLE tessarine::AppError loadFailed(const QString& underlyingDescription) const;
+    Q_INVOKABLE tessarine::AppError exportFailed(const QString& underlyingDescription) const;
+    Q_INVOKABLE tessarine::AppError unknown(const QString& message) const;
+    Q_INVOKABLE tessarine::AppError cancelled() const;
 };
 
 } // namespace tessarine

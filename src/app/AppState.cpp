@@ -66,8 +66,10 @@ void AppState::setCurrentView(AppView view) {
         emit currentViewChanged();
 }
 
-void AppState::setCurrentResult(const ResultHandle& result) {
-    if (assignIfChanged(m_currentResult, result))
+// Results are told apart by id first: comparing two different results field by field would be
+// wasted work, and an equal id with other contents is still another value for the views.
+void AppState::setCurrentResult(const AnalysisResult& result) {
+    if (assignIfChanged(m_currentResult, std::optional(result)))
         emit currentResultChanged();
 }
 
@@ -81,18 +83,19 @@ void AppState::setIsScanning(bool scanning) {
         emit isScanningChanged();
 }
 
-void AppState::setScanProgress(const ProgressHandle& progress) {
+void AppState::setScanProgress(const std::optional<ScanProgress>& progress) {
     if (assignIfChanged(m_scanProgress, progress))
         emit scanProgressChanged();
 }
 
-void AppState::setError(const ErrorHandle& error) {
-    if (assignIfChanged(m_error, error))
+void AppState::setError(const AppError& error) {
+    if (assignIfChanged(m_error, std::optional(error)))
         emit errorChanged();
 }
 
 void AppState::clearError() {
-    setError({});
+    if (assignIfChanged(m_error, std::optional<AppError>()))
+        emit errorChanged();
 }
 
 void AppState::waitForWorkers() {
@@ -106,10 +109,7 @@ void AppState::loadHistory() {
         m_scanHistory.reset({});
         return;
     }
-    QList<ResultHandle> results;
-    for (AnalysisResult& result : std::get<QList<AnalysisResult>>(loaded))
-        results.append(ResultHandle(std::move(result)));
-    m_scanHistory.reset(std::move(results));
+    m_scanHistory.reset(std::move(std::get<QList<AnalysisResult>>(loaded)));
 }
 
 void AppState::startScan(const QUrl& folder) {
@@ -121,9 +121,10 @@ void AppState::startScan(const QString& folderPath) {
     // not compete with the new one for the disk.
     if (m_currentScanTask && m_currentScanner)
         m_currentScanner->cancel();
+    emit scanStarted();
     setCurrentView(Scanning);
     setIsScanning(true);
-    setScanProgress({});
+    setScanProgress(std::nullopt);
     const TaskId task = ++m_lastTaskId;
     m_currentScanTask = task;
     performScan(task, folderPath);
@@ -156,10 +157,9 @@ void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>&
     stopProgressWatcher();
     // The screen keeps the last counters the scanner published, not the one before.
     if (auto last = scanner->currentProgress())
-        setScanProgress(ProgressHandle(std::move(last)));
-    const ResultHandle finished(std::move(result));
-    setCurrentResult(finished);
-    saveResult(finished);
+        setScanProgress(last);
+    setCurrentResult(result);
+    saveResult(result);
     setIsScanning(false);
     setCurrentView(Dashboard);
     m_currentScanner.reset();
@@ -176,25 +176,23 @@ void AppState::failScan(TaskId task, const ScanError& failure) {
     m_currentScanner.reset();
 }
 
-void AppState::saveResult(const ResultHandle& result) {
-    if (const auto failure = m_store.save(*result.get())) {
+void AppState::saveResult(const AnalysisResult& result) {
+    if (const auto failure = m_store.save(result)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
     m_scanHistory.prepend(result);
 }
 
-void AppState::deleteScan(const ResultHandle& result) {
-    if (!result.valid())
-        return;
-    if (const auto failure = m_store.deleteResult(*result.get())) {
+void AppState::deleteScan(const AnalysisResult& result) {
+    if (const auto failure = m_store.deleteResult(result)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
-    m_scanHistory.removeAll(result.get()->id);
+    m_scanHistory.removeAll(result.id);
 }
 
-void AppState::openResult(const ResultHandle& result) {
+void AppState::openResult(const AnalysisResult& result) {
     setCurrentResult(result);
     setCurrentView(Dashboard);
 }
@@ -213,7 +211,7 @@ void AppState::copyLatestProgress() {
     if (!m_watchedScanner)
         return;
     if (auto latest = m_watchedScanner->currentProgress())
-        setScanProgress(ProgressHandle(std::move(latest)));
+        setScanProgress(latest);
 }
 
 void AppState::stopProgressWatcher() {

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "AppError.h"
-#include "ErrorHandle.h"
-#include "ProgressHandle.h"
-#include "ResultHandle.h"
 #include "ScanHistoryModel.h"
+#include "model/Records.h"
+#include "model/ScanProgress.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -33,14 +32,19 @@ class AppState : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(AppView currentView READ currentView WRITE setCurrentView NOTIFY currentViewChanged)
-    Q_PROPERTY(tessarine::ResultHandle currentResult READ currentResult WRITE setCurrentResult
-                   NOTIFY currentResultChanged)
+    // The optional fields reach QML as their value (an empty one while absent) and a flag.
+    Q_PROPERTY(tessarine::AnalysisResult currentResult READ currentResultOrEmpty WRITE
+                   setCurrentResult NOTIFY currentResultChanged)
+    Q_PROPERTY(bool hasCurrentResult READ hasCurrentResult NOTIFY currentResultChanged)
     Q_PROPERTY(tessarine::ScanHistoryModel* scanHistory READ scanHistory CONSTANT)
     Q_PROPERTY(bool showFolderPicker READ showFolderPicker WRITE setShowFolderPicker NOTIFY
                    showFolderPickerChanged)
     Q_PROPERTY(bool isScanning READ isScanning NOTIFY isScanningChanged)
-    Q_PROPERTY(tessarine::ProgressHandle scanProgress READ scanProgress NOTIFY scanProgressChanged)
-    Q_PROPERTY(tessarine::ErrorHandle error READ error WRITE setError NOTIFY errorChanged)
+    Q_PROPERTY(
+        tessarine::ScanProgress scanProgress READ scanProgressOrEmpty NOTIFY scanProgressChanged)
+    Q_PROPERTY(bool hasScanProgress READ hasScanProgress NOTIFY scanProgressChanged)
+    Q_PROPERTY(tessarine::AppError error READ errorOrEmpty WRITE setError NOTIFY errorChanged)
+    Q_PROPERTY(bool hasError READ hasError NOTIFY errorChanged)
 
 public:
     enum AppView { Landing, Scanning, Dashboard, History };
@@ -57,17 +61,25 @@ public:
 
     AppView currentView() const { return m_currentView; }
     void setCurrentView(AppView view);
-    ResultHandle currentResult() const { return m_currentResult; }
-    void setCurrentResult(const ResultHandle& result);
+    const std::optional<AnalysisResult>& currentResult() const { return m_currentResult; }
+    AnalysisResult currentResultOrEmpty() const {
+        return m_currentResult.value_or(AnalysisResult{});
+    }
+    bool hasCurrentResult() const { return m_currentResult.has_value(); }
+    void setCurrentResult(const AnalysisResult& result);
     ScanHistoryModel* scanHistory() { return &m_scanHistory; }
     bool showFolderPicker() const { return m_showFolderPicker; }
     void setShowFolderPicker(bool show);
     bool isScanning() const { return m_isScanning; }
-    ProgressHandle scanProgress() const { return m_scanProgress; }
+    const std::optional<ScanProgress>& scanProgress() const { return m_scanProgress; }
+    ScanProgress scanProgressOrEmpty() const { return m_scanProgress.value_or(ScanProgress{}); }
+    bool hasScanProgress() const { return m_scanProgress.has_value(); }
     // Also the way to show a fixed snapshot, for previews of the scanning screen.
-    void setScanProgress(const ProgressHandle& progress);
-    ErrorHandle error() const { return m_error; }
-    void setError(const ErrorHandle& error);
+    void setScanProgress(const std::optional<ScanProgress>& progress);
+    const std::optional<AppError>& error() const { return m_error; }
+    AppError errorOrEmpty() const { return m_error.value_or(AppError{}); }
+    bool hasError() const { return m_error.has_value(); }
+    void setError(const AppError& error);
     bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
 
     // Begins a scan of the folder; a scan already running is cancelled and replaced. Accepts a
@@ -77,9 +89,9 @@ public:
     // Stops the running scan and returns to the landing view at once, without an error.
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
-    Q_INVOKABLE void deleteScan(const tessarine::ResultHandle& result);
+    Q_INVOKABLE void deleteScan(const tessarine::AnalysisResult& result);
     // Shows a stored result on the dashboard.
-    Q_INVOKABLE void openResult(const tessarine::ResultHandle& result);
+    Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearError();
 
     // Blocks until every scan worker has returned, the replaced and cancelled ones included. Their
@@ -87,6 +99,9 @@ public:
     void waitForWorkers();
 
 signals:
+    // A scan is about to begin, a replacing one included: a scanning screen on display starts
+    // over.
+    void scanStarted();
     void currentViewChanged();
     void currentResultChanged();
     void showFolderPickerChanged();
@@ -98,7 +113,7 @@ private:
     using TaskId = quint64;
 
     void loadHistory();
-    void saveResult(const ResultHandle& result);
+    void saveResult(const AnalysisResult& result);
     void setIsScanning(bool scanning);
     void performScan(TaskId task, const QString& folderPath);
     void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
@@ -111,12 +126,12 @@ private:
     PersistenceService& m_store;
 
     AppView m_currentView = Landing;
-    ResultHandle m_currentResult;
+    std::optional<AnalysisResult> m_currentResult;
     ScanHistoryModel m_scanHistory;
     bool m_showFolderPicker = false;
     bool m_isScanning = false;
-    ProgressHandle m_scanProgress;
-    ErrorHandle m_error;
+    std::optional<ScanProgress> m_scanProgress;
+    std::optional<AppError> m_error;
     // The task of the current scan. A task whose id is no longer here was cancelled: its
     // outcome is dropped without touching the state.
     std::optional<TaskId> m_currentScanTask;

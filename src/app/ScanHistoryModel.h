@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ResultHandle.h"
+#include "model/Records.h"
 
 #include <QAbstractListModel>
 #include <QList>
@@ -19,7 +19,6 @@ class ScanHistoryModel : public QAbstractListModel {
 public:
     enum Role {
         ResultRole = Qt::UserRole + 1,
-        IdRole,
         RootNameRole,
         RootPathRole,
         FolderNameRole,
@@ -36,12 +35,10 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     int count() const { return static_cast<int>(m_results.size()); }
-    // The result at row, or an empty handle outside the list.
-    Q_INVOKABLE tessarine::ResultHandle at(int row) const;
-    const QList<ResultHandle>& results() const { return m_results; }
+    const QList<AnalysisResult>& results() const { return m_results; }
 
-    void reset(QList<ResultHandle> results);
-    void prepend(const ResultHandle& result);
+    void reset(QList<AnalysisResult> results);
+    void prepend(const AnalysisResult& result);
     // Removes every row showing the record with this id; the others keep their order.
     void removeAll(const QUuid& id);
 
@@ -49,7 +46,7 @@ signals:
     void countChanged();
 
 private:
-    QList<ResultHandle> m_results;
+    QList<AnalysisResult> m_results;
 };
 
 } // namespace tessarine

@@ -128,10 +128,6 @@ QString SymbolTable::glyph(const QString& symbolName) const {
     return QString(QChar(codepoint(symbolName)));
 }
 
-bool SymbolTable::contains(const QString& symbolName) const {
-    return table().contains(symbolName);
-}
-
 QString SymbolTable::fontFamily() {
     // Registered once per process; when the file is missing, fontconfig may still know the
     // family by name, which is the best left to try.

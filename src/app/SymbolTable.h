@@ -21,7 +21,6 @@ public:
     // The glyph drawing the symbol; an unknown name gives a visible question-mark glyph so that a
     // missing entry shows up on screen instead of leaving a hole.
     Q_INVOKABLE QString glyph(const QString& symbolName) const;
-    Q_INVOKABLE bool contains(const QString& symbolName) const;
 
     // The icon font's family, loaded from the installed font file on first use.
     static QString fontFamily();

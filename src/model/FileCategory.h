@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/RawValue.h"
+#include "model/RecordEnums.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,22 +10,6 @@
 #include <array>
 
 namespace tessarine {
-
-// The category a file falls into, decided by its extension alone. The order is the display order.
-enum class FileCategory : quint8 {
-    images,
-    videos,
-    audio,
-    documents,
-    code,
-    archives,
-    applications,
-    system,
-    data,
-    fonts,
-    design,
-    other
-};
 
 const std::array<FileCategory, 12>& allFileCategories();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/RawValue.h"
+#include "model/RecordEnums.h"
 
 #include <QString>
 #include <QStringView>
@@ -8,22 +9,6 @@
 #include <array>
 
 namespace tessarine {
-
-// The palette that folders of the folder tree cycle through, in order.
-enum class FolderColor : quint8 {
-    blue,
-    green,
-    teal,
-    orange,
-    pink,
-    purple,
-    red,
-    yellow,
-    brown,
-    indigo,
-    mint,
-    cyan
-};
 
 const std::array<FolderColor, 12>& allFolderColors();
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/RawValue.h"
+#include "model/RecordEnums.h"
 
 #include <QString>
 #include <QStringView>
@@ -8,16 +9,6 @@
 #include <array>
 
 namespace tessarine {
-
-// Kinds of pattern that a scan can point out.
-enum class InsightType : quint8 {
-    nodeModules,
-    duplicateNames,
-    oldFiles,
-    largeCache,
-    emptyFolders,
-    hiddenFiles
-};
 
 const std::array<InsightType, 6>& allInsightTypes();
 

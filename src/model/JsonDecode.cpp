@@ -103,8 +103,8 @@ AnalysisResult readResult(const ObjectReader& in) {
             .extensionStats = readExtensionMap(in.object(u"extensionStats")),
             .insights = in.list(u"insights", readInsight),
             .folderTree = in.isAbsentOrNull(u"folderTree")
-                              ? std::nullopt
-                              : std::optional(readFolder(in.object(u"folderTree")))};
+                              ? SharedFolderTree()
+                              : SharedFolderTree(readFolder(in.object(u"folderTree")))};
 }
 
 } // namespace

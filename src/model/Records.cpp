@@ -53,4 +53,11 @@ QString AnalysisResult::formattedDuration() const {
     return format::duration(scanDuration);
 }
 
+// The text after the last "/" (empty for the root folder itself), or "Unknown" without a path.
+QString AnalysisResult::folderName() const {
+    if (rootPath.isEmpty())
+        return QStringLiteral("Unknown");
+    return rootPath.mid(rootPath.lastIndexOf(u'/') + 1);
+}
+
 } // namespace tessarine

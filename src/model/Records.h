@@ -9,12 +9,14 @@
 #include <QDateTime>
 #include <QHash>
 #include <QList>
+#include <QObject>
 #include <QSet>
 #include <QString>
 #include <QStringList>
 #include <QUuid>
 
 #include <map>
+#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -26,6 +28,17 @@ QDateTime distantPast();
 
 // One scanned file or directory.
 struct FileInfo {
+    Q_GADGET
+    Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(qint64 size MEMBER size)
+    Q_PROPERTY(QString fileExtension MEMBER fileExtension)
+    Q_PROPERTY(tessarine::FileCategory category MEMBER category)
+    Q_PROPERTY(qint64 depth MEMBER depth)
+    Q_PROPERTY(QDateTime modificationDate MEMBER modificationDate)
+    Q_PROPERTY(bool isDirectory MEMBER isDirectory)
+
+public:
     QUuid id = makeRecordId();
     QString path;
     QString name;
@@ -43,6 +56,12 @@ struct FileInfo {
 
 // Counters of one depth.
 struct DepthStats {
+    Q_GADGET
+    Q_PROPERTY(qint64 fileCount MEMBER fileCount)
+    Q_PROPERTY(qint64 folderCount MEMBER folderCount)
+    Q_PROPERTY(qint64 totalSize MEMBER totalSize)
+
+public:
     qint64 fileCount = 0;
     qint64 folderCount = 0;
     qint64 totalSize = 0;
@@ -52,6 +71,12 @@ struct DepthStats {
 
 // Counters of one file category.
 struct CategoryStats {
+    Q_GADGET
+    Q_PROPERTY(tessarine::FileCategory category MEMBER category)
+    Q_PROPERTY(qint64 fileCount MEMBER fileCount)
+    Q_PROPERTY(qint64 totalSize MEMBER totalSize)
+
+public:
     QUuid id = makeRecordId();
     FileCategory category = FileCategory::other;
     qint64 fileCount = 0;
@@ -63,6 +88,14 @@ struct CategoryStats {
 
 // Counters of one lowercased extension; the empty ext stands for files without one.
 struct ExtensionStats {
+    Q_GADGET
+    Q_PROPERTY(QString ext MEMBER ext)
+    Q_PROPERTY(tessarine::FileCategory category MEMBER category)
+    Q_PROPERTY(qint64 fileCount MEMBER fileCount)
+    Q_PROPERTY(qint64 totalSize MEMBER totalSize)
+    Q_PROPERTY(QString displayName READ displayName)
+
+public:
     QUuid id = makeRecordId();
     QString ext;
     FileCategory category = FileCategory::other;
@@ -77,6 +110,15 @@ struct ExtensionStats {
 
 // One detected pattern, shown as an insight card.
 struct PatternInsight {
+    Q_GADGET
+    Q_PROPERTY(tessarine::InsightType type MEMBER type)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString description MEMBER description)
+    Q_PROPERTY(qint64 affectedSize MEMBER affectedSize)
+    Q_PROPERTY(qint64 affectedCount MEMBER affectedCount)
+    Q_PROPERTY(QStringList paths MEMBER paths)
+
+public:
     QUuid id = makeRecordId();
     InsightType type = InsightType::nodeModules;
     QString title;
@@ -90,6 +132,15 @@ struct PatternInsight {
 
 // One node of the folder tree: a folder with the totals of its whole subtree.
 struct FolderInfo {
+    Q_GADGET
+    Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString name MEMBER name)
+    Q_PROPERTY(qint64 totalSize MEMBER totalSize)
+    Q_PROPERTY(qint64 fileCount MEMBER fileCount)
+    Q_PROPERTY(qint64 depth MEMBER depth)
+    Q_PROPERTY(tessarine::FolderColor color MEMBER color)
+
+public:
     QUuid id = makeRecordId();
     QString path;
     QString name;
@@ -108,8 +159,47 @@ struct FolderInfo {
     bool operator==(const FolderInfo&) const = default;
 };
 
-// One finished scan.
+// An optional folder tree that copies share instead of duplicating: a result is copied whenever a
+// view reads it, and a large tree holds tens of thousands of folders. The tree never changes once
+// made; equality compares contents.
+class SharedFolderTree {
+public:
+    SharedFolderTree() = default;
+    SharedFolderTree(FolderInfo tree)
+        : m_tree(std::make_shared<const FolderInfo>(std::move(tree))) {}
+    SharedFolderTree(std::shared_ptr<const FolderInfo> tree)
+        : m_tree(std::move(tree)) {}
+
+    bool has_value() const { return m_tree != nullptr; }
+    explicit operator bool() const { return has_value(); }
+    const FolderInfo& operator*() const { return *m_tree; }
+    const FolderInfo* operator->() const { return m_tree.get(); }
+    const std::shared_ptr<const FolderInfo>& shared() const { return m_tree; }
+
+    friend bool operator==(const SharedFolderTree& a, const SharedFolderTree& b) {
+        return a.m_tree == b.m_tree || (a.m_tree && b.m_tree && *a.m_tree == *b.m_tree);
+    }
+
+private:
+    std::shared_ptr<const FolderInfo> m_tree;
+};
+
+// One finished scan. Copies are cheap: every list is shared until written, so views take results
+// by value.
 struct AnalysisResult {
+    Q_GADGET
+    Q_PROPERTY(QDateTime scanDate MEMBER scanDate)
+    Q_PROPERTY(QString rootPath MEMBER rootPath)
+    Q_PROPERTY(QString rootName MEMBER rootName)
+    Q_PROPERTY(qint64 totalSize MEMBER totalSize)
+    Q_PROPERTY(qint64 fileCount MEMBER fileCount)
+    Q_PROPERTY(qint64 folderCount MEMBER folderCount)
+    Q_PROPERTY(qint64 maxDepth MEMBER maxDepth)
+    Q_PROPERTY(double scanDuration MEMBER scanDuration)
+    Q_PROPERTY(QString formattedDuration READ formattedDuration)
+    Q_PROPERTY(QString folderName READ folderName)
+
+public:
     QUuid id = makeRecordId();
     QDateTime scanDate;
     QString rootPath;
@@ -124,7 +214,7 @@ struct AnalysisResult {
     std::map<qint64, DepthStats> depthDistribution;
     QHash<QString, ExtensionStats> extensionStats; // keyed by ExtensionStats::ext
     QList<PatternInsight> insights;
-    std::optional<FolderInfo> folderTree;
+    SharedFolderTree folderTree;
 
     // The extension entries, largest totalSize first.
     QList<ExtensionStats> sortedExtensions() const;
@@ -132,6 +222,8 @@ struct AnalysisResult {
     std::vector<std::pair<qint64, DepthStats>> sortedDepths() const;
     // scanDuration as "250 ms", "12.3 seconds" or "2m 5s".
     QString formattedDuration() const;
+    // The scanned folder's own name as the sidebar and the history show it.
+    QString folderName() const;
 
     bool operator==(const AnalysisResult&) const = default;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/RawValue.h"
+#include "model/RecordEnums.h"
 
 #include <QDateTime>
 #include <QString>
@@ -11,18 +12,6 @@
 
 namespace tessarine {
 
-// What a running scan is doing. The order matters: the scanning screen compares positions.
-enum class ScanPhase : quint8 {
-    initializing,
-    scanning,
-    analyzing,
-    categorizing,
-    finalizing,
-    complete,
-    cancelled,
-    error
-};
-
 const std::array<ScanPhase, 8>& allScanPhases();
 
 // Display text, e.g. "Discovering files...".
@@ -32,6 +21,15 @@ template <> std::optional<ScanPhase> fromRawValue<ScanPhase>(QStringView raw);
 
 // One snapshot of a running scan. Made whole by the scanner and never changed afterwards.
 struct ScanProgress {
+    Q_GADGET
+    Q_PROPERTY(tessarine::ScanPhase phase MEMBER phase)
+    Q_PROPERTY(qint64 filesScanned MEMBER filesScanned)
+    Q_PROPERTY(qint64 foldersScanned MEMBER foldersScanned)
+    Q_PROPERTY(QString currentPath MEMBER currentPath)
+    Q_PROPERTY(qint64 bytesScanned MEMBER bytesScanned)
+    Q_PROPERTY(QDateTime startTime MEMBER startTime)
+
+public:
     ScanPhase phase = ScanPhase::initializing;
     qint64 filesScanned = 0;
     qint64 foldersScanned = 0;

@@ -39,7 +39,6 @@ public:
     bool isEmpty() const { return m_itemCount == 0; }
     // Whether the walk stopped early on request, leaving some folders pending.
     bool wasCancelled() const { return m_cancelled; }
-    std::size_t reservedBytes() const;
 
 private:
     friend class DirectoryWalker;

@@ -24,11 +24,9 @@ void* ListingArena::allocate(std::size_t bytes, std::size_t alignment) {
     // so the current chunk keeps serving small names instead of being abandoned half full.
     if (bytes > chunkSize / 4) {
         m_chunks.push_back(std::make_unique_for_overwrite<std::byte[]>(bytes));
-        m_reserved += bytes;
         return m_chunks.back().get();
     }
     m_chunks.push_back(std::make_unique_for_overwrite<std::byte[]>(chunkSize));
-    m_reserved += chunkSize;
     m_next = m_chunks.back().get() + bytes;
     m_left = chunkSize - bytes;
     return m_chunks.back().get();

@@ -38,9 +38,6 @@ public:
         return new (allocate(sizeof(T), alignof(T))) T(std::forward<Args>(args)...);
     }
 
-    // Bytes obtained from the heap so far (for measuring the cost of a listing).
-    std::size_t reservedBytes() const { return m_reserved; }
-
 private:
     void* allocate(std::size_t bytes, std::size_t alignment);
 
@@ -49,7 +46,6 @@ private:
     std::vector<std::unique_ptr<std::byte[]>> m_chunks;
     std::byte* m_next = nullptr;
     std::size_t m_left = 0;
-    std::size_t m_reserved = 0;
 };
 
 } // namespace tessarine

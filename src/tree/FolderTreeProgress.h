@@ -3,6 +3,7 @@
 #include "model/RawValue.h"
 
 #include <QDateTime>
+#include <QObject>
 #include <QString>
 #include <QStringView>
 
@@ -12,7 +13,17 @@ namespace tessarine {
 
 // One progress record of a folder tree build, published on the user-interface thread.
 struct FolderTreeProgress {
+    Q_GADGET
+    Q_PROPERTY(tessarine::FolderTreeProgress::Phase phase MEMBER phase)
+    Q_PROPERTY(qint64 totalItems MEMBER totalItems)
+    Q_PROPERTY(qint64 processedItems MEMBER processedItems)
+    Q_PROPERTY(QString currentFolder MEMBER currentFolder)
+    Q_PROPERTY(QDateTime startTime MEMBER startTime)
+    Q_PROPERTY(QString statusText READ statusText)
+
+public:
     enum class Phase : quint8 { enumerating, building, complete, cancelled };
+    Q_ENUM(Phase)
 
     Phase phase = Phase::enumerating;
     qint64 totalItems = 0;

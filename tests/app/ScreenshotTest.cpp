@@ -93,13 +93,13 @@ private slots:
     void scanning() {
         Scene scene;
         scene.state().setCurrentView(AppState::Scanning);
-        scene.state().setScanProgress(ProgressHandle(midScan()));
+        scene.state().setScanProgress(midScan());
         scene.save(QStringLiteral("scanning"));
     }
 
     void dashboardWithDropOverlay() {
         Scene scene(3);
-        scene.state().openResult(ResultHandle(dashboardResult()));
+        scene.state().openResult(dashboardResult());
         scene.save(QStringLiteral("dashboard"));
         testing::WindowDrag drag(scene.window()->contentItem(),
                                  {QUrl::fromLocalFile(QDir::tempPath())});

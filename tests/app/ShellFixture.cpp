@@ -52,9 +52,9 @@ void ShellFixture::leave() {
 }
 
 void ShellFixture::forgetFolderScans() {
-    const QList<ResultHandle> stored = m_state->scanHistory()->results();
-    for (const ResultHandle& result : stored)
-        if (result.rootPath().startsWith(m_files.path()))
+    const QList<AnalysisResult> stored = m_state->scanHistory()->results();
+    for (const AnalysisResult& result : stored)
+        if (result.rootPath.startsWith(m_files.path()))
             m_state->deleteScan(result);
 }
 

@@ -1,6 +1,6 @@
-#include "screens/ScanPaths.h"
-#include "screens/ScanPhaseDisplay.h"
-#include "screens/Throughput.h"
+#include "screens/scanning/ScanPaths.h"
+#include "screens/scanning/ScanPhaseDisplay.h"
+#include "screens/scanning/Throughput.h"
 
 #include <QLocale>
 #include <QTest>

@@ -1,7 +1,7 @@
-#include "screens/InsightStyle.h"
-#include "screens/ScanFigures.h"
-#include "screens/ScanStatus.h"
-#include "screens/SummaryFigures.h"
+#include "screens/dashboard/InsightStyle.h"
+#include "screens/dashboard/SummaryFigures.h"
+#include "screens/scanning/ScanFigures.h"
+#include "screens/scanning/ScanStatus.h"
 
 #include <QLocale>
 #include <QSet>
@@ -149,11 +149,6 @@ private slots:
         for (InsightType type : allInsightTypes())
             looks.insert(insightSymbol(type) + insightColor(type));
         QCOMPARE(looks.size(), int(allInsightTypes().size()));
-
-        InsightStyle style;
-        QCOMPARE(style.symbol("Large Cache"), QStringLiteral("arrow.3.trianglepath"));
-        QCOMPARE(style.color("Large Cache"), QStringLiteral("red"));
-        QCOMPARE(style.symbol("large cache"), QStringLiteral("lightbulb.fill"));
     }
 };
 

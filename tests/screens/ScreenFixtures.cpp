@@ -39,11 +39,11 @@ ScreenFixtures::ScreenFixtures(AppState& state, QObject* parent)
     , m_state(state) {}
 
 void ScreenFixtures::fillHistory(int count) {
-    QList<ResultHandle> results;
+    QList<AnalysisResult> results;
     for (int n = count; n >= 1; --n) {
         AnalysisResult result = resultOf(QStringLiteral("/Users/ann/Scan %1").arg(n));
         result.scanDate = QDateTime::currentDateTimeUtc().addDays(n - count);
-        results.append(ResultHandle(std::move(result)));
+        results.append(std::move(result));
     }
     m_state.scanHistory()->reset(results);
 }
@@ -57,7 +57,7 @@ void ScreenFixtures::showProgress(const QString& currentPath) {
     progress.currentPath = currentPath;
     progress.startTime = QDateTime::currentDateTimeUtc().addSecs(-30);
     progress.estimatedTotalFiles = 3'000;
-    m_state.setScanProgress(ProgressHandle(progress));
+    m_state.setScanProgress(progress);
 }
 
 void ScreenFixtures::clearProgress() {
@@ -69,7 +69,7 @@ void ScreenFixtures::showResult(const QString& rootPath, bool withInsights) {
     if (withInsights)
         result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000),
                            insight(InsightType::emptyFolders, "Empty folders", 0)};
-    m_state.setCurrentResult(ResultHandle(std::move(result)));
+    m_state.setCurrentResult(result);
 }
 
 QString ScreenFixtures::makeFolder(const QString& name) {

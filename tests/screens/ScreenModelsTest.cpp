@@ -1,6 +1,6 @@
-#include "screens/ActivityLogModel.h"
-#include "screens/FirstRowsModel.h"
-#include "screens/PhaseStepsModel.h"
+#include "screens/common/FirstRowsModel.h"
+#include "screens/scanning/ActivityLogModel.h"
+#include "screens/scanning/PhaseStepsModel.h"
 
 #include <QAbstractItemModelTester>
 #include <QLocale>

@@ -71,7 +71,6 @@ QtObject {
     readonly property font body: Qt.font({ family: fontFamily, pixelSize: 13 })
     readonly property font callout: Qt.font({ family: fontFamily, pixelSize: 12 })
     readonly property font caption: Qt.font({ family: fontFamily, pixelSize: 10 })
-    readonly property font caption2: Qt.font({ family: fontFamily, pixelSize: 10 })
     readonly property font extraSmall: Qt.font({ family: fontFamily, pixelSize: 9 })
 
     // A style of the scale at another weight: weighted(Theme.title, Font.Bold).

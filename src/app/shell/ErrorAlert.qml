@@ -19,12 +19,12 @@ Dialog {
 
     onClosed: AppState.clearError()
 
-    Component.onCompleted: if (AppState.error.present) open()
+    Component.onCompleted: if (AppState.hasError) open()
 
     Connections {
         target: AppState
         function onErrorChanged() {
-            if (AppState.error.present)
+            if (AppState.hasError)
                 alert.open()
             else
                 alert.close()

@@ -7,7 +7,7 @@ import Tessarine.App
 AbstractButton {
     id: row
 
-    required property var result
+    required property analysisResult result
     required property string folderName
     required property double totalSize
 

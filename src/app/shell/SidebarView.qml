@@ -37,11 +37,18 @@ Rectangle {
                     view: AppState.Landing
                 }
                 SidebarRow {
+                    objectName: "runningScanRow"
+                    text: "Scanning..."
+                    symbol: "magnifyingglass"
+                    view: AppState.Scanning
+                    visible: AppState.isScanning
+                }
+                SidebarRow {
                     objectName: "currentAnalysisRow"
                     text: "Current Analysis"
                     symbol: "chart.pie"
                     view: AppState.Dashboard
-                    visible: AppState.currentResult.valid
+                    visible: AppState.hasCurrentResult
                 }
             }
 

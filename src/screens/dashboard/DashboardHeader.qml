@@ -7,7 +7,7 @@ import Tessarine.Screens
 Card {
     id: header
 
-    required property var result
+    required property analysisResult result
 
     implicitHeight: content.implicitHeight + 2 * Theme.spacingXLarge
 

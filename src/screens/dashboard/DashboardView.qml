@@ -8,7 +8,7 @@ import Tessarine.App
 Rectangle {
     id: dashboard
 
-    property var result: AppState.currentResult
+    readonly property analysisResult result: AppState.currentResult
 
     color: Theme.contentBackground
 
@@ -47,7 +47,7 @@ Rectangle {
                 InsightsSection {
                     Layout.fillWidth: true
                     Layout.bottomMargin: Theme.spacingSection
-                    insights: dashboard.result.insights
+                    result: dashboard.result
                 }
             }
         }

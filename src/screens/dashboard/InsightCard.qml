@@ -7,8 +7,10 @@ import Tessarine.Screens
 Rectangle {
     id: card
 
-    required property var insight
-    readonly property color tint: Theme.named(InsightStyle.color(insight.typeName))
+    required property patternInsight insight
+    required property string symbol
+    required property string colorName
+    readonly property color tint: Theme.named(card.colorName)
 
     implicitHeight: content.implicitHeight + 2 * 14
     radius: 10
@@ -30,7 +32,7 @@ Rectangle {
 
             Icon {
                 anchors.centerIn: parent
-                symbol: InsightStyle.symbol(card.insight.typeName)
+                symbol: card.symbol
                 size: 18
                 color: card.tint
             }

@@ -1,14 +1,15 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Screens
 
 // The patterns found in the result, as cards in as many columns as fit; absent when none.
 ColumnLayout {
     id: section
 
-    required property var insights
+    required property analysisResult result
 
-    visible: insights.length > 0
+    visible: insights.count > 0
     spacing: Theme.spacingMedium
 
     Row {
@@ -36,15 +37,16 @@ ColumnLayout {
         rowSpacing: 12
 
         Repeater {
-            model: section.insights
+            model: InsightListModel {
+                id: insights
+
+                result: section.result
+            }
 
             InsightCard {
-                required property var modelData
-
                 Layout.fillWidth: true
                 Layout.preferredWidth: 1
                 Layout.fillHeight: true
-                insight: modelData
             }
         }
     }

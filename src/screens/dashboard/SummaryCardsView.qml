@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
+import Tessarine.App
 import Tessarine.Screens
 
 // The result's four headline figures side by side.
 RowLayout {
     id: view
 
-    required property var result
+    required property analysisResult result
 
     spacing: 16
 

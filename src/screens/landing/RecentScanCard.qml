@@ -7,7 +7,7 @@ import Tessarine.Screens
 AbstractButton {
     id: card
 
-    required property var result
+    required property analysisResult result
 
     implicitWidth: 210
     padding: Theme.spacingMedium

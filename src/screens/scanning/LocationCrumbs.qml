@@ -5,7 +5,7 @@ import Tessarine.App
 Flow {
     id: location
 
-    required property var crumbs
+    required property list<string> crumbs
     // Shown instead while there is no path.
     property string emptyText
 

@@ -11,7 +11,8 @@ ColumnLayout {
 
     required property LiveScanFigures figures
     required property ActivityLogModel activityLog
-    required property var progress
+    required property scanProgress progress
+    required property bool hasProgress
 
     spacing: 0
 
@@ -34,7 +35,7 @@ ColumnLayout {
             anchors.right: parent.right
             anchors.rightMargin: 20
             anchors.verticalCenter: parent.verticalCenter
-            visible: panel.progress.valid
+            visible: panel.hasProgress
             phase: panel.progress.phase
         }
 
@@ -42,7 +43,7 @@ ColumnLayout {
             anchors.right: parent.right
             anchors.rightMargin: 20
             anchors.verticalCenter: parent.verticalCenter
-            visible: !panel.progress.valid
+            visible: !panel.hasProgress
             text: "Initializing..."
             font: Theme.caption
             color: Theme.secondary
@@ -75,7 +76,7 @@ ColumnLayout {
                 PerformanceCards {
                     Layout.fillWidth: true
                     figures: panel.figures.performance
-                    placeholder: !panel.progress.valid
+                    placeholder: !panel.hasProgress
                 }
             }
 
@@ -86,7 +87,7 @@ ColumnLayout {
                 LocationCrumbs {
                     Layout.fillWidth: true
                     crumbs: panel.figures.status.locationCrumbs
-                    emptyText: panel.progress.valid ? "Waiting for scan to start..."
+                    emptyText: panel.hasProgress ? "Waiting for scan to start..."
                                                     : "Preparing to scan..."
                 }
             }
@@ -98,7 +99,7 @@ ColumnLayout {
                 StatisticsGrid {
                     Layout.fillWidth: true
                     figures: panel.figures.statistics
-                    placeholder: !panel.progress.valid
+                    placeholder: !panel.hasProgress
                 }
 
                 ScanProgressBar {

@@ -1,12 +1,13 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Screens
 
 // The left panel of the scanning screen: ring, counters, rates and the Cancel button.
 Rectangle {
     id: panel
 
-    required property var status
+    required property scanStatus status
     required property bool hasProgress
     required property real rotationAngle
 

@@ -6,7 +6,7 @@ import Tessarine.Screens
 Column {
     id: view
 
-    required property var status
+    required property scanStatus status
     required property bool hasProgress
     required property real rotationAngle
 

@@ -17,6 +17,7 @@ Rectangle {
         id: figures
 
         progress: AppState.scanProgress
+        hasProgress: AppState.hasScanProgress
     }
 
     ActivityLogModel {
@@ -47,7 +48,7 @@ Rectangle {
             Layout.preferredWidth: 380
             Layout.fillHeight: true
             status: figures.status
-            hasProgress: AppState.scanProgress.valid
+            hasProgress: AppState.hasScanProgress
             rotationAngle: scanning.rotationAngle
         }
 
@@ -63,6 +64,7 @@ Rectangle {
             figures: figures
             activityLog: activityLog
             progress: AppState.scanProgress
+            hasProgress: AppState.hasScanProgress
         }
     }
 }

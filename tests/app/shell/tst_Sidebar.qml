@@ -46,7 +46,7 @@ Item {
             compare(rows[0].folderName, "")
             compare(rows[1].folderName, "Project 1")
             compare(rows[4].folderName, "Project 4")
-            compare(rows[1].totalSize, AppState.scanHistory.at(1).totalSize)
+            compare(rows[1].totalSize, rows[1].result.totalSize)
         }
 
         function test_choosingARecentRowShowsItsResult() {
@@ -54,7 +54,7 @@ Item {
             const sidebar = createTemporaryObject(sidebarComponent, stage)
             const row = rowsNamed(sidebar, "recentScanRow")[2]
             mouseClick(row)
-            compare(AppState.currentResult.id, AppState.scanHistory.at(2).id)
+            compare(AppState.currentResult.rootPath, row.result.rootPath)
             compare(AppState.currentView, AppState.Dashboard)
             const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
             verify(currentAnalysis.visible)

@@ -1,4 +1,4 @@
-#include "screens/FirstRowsModel.h"
+#include "screens/common/FirstRowsModel.h"
 
 namespace tessarine {
 

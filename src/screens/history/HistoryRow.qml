@@ -6,13 +6,13 @@ import Tessarine.App
 ItemDelegate {
     id: row
 
-    required property var result
+    required property analysisResult result
     required property int index
     required property string rootName
     required property string rootPath
     required property double totalSize
     required property double fileCount
-    required property var scanDate
+    required property date scanDate
 
     implicitHeight: 56
     leftPadding: Theme.spacingLarge

@@ -1,4 +1,6 @@
-#include "screens/PhaseStepsModel.h"
+#include "screens/scanning/PhaseStepsModel.h"
+
+#include "app/RoleNames.h"
 
 namespace tessarine {
 
@@ -31,7 +33,7 @@ QVariant PhaseStepsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> PhaseStepsModel::roleNames() const {
-    return {{LabelRole, "label"}, {CompletedRole, "completed"}, {CurrentRole, "current"}};
+    return roleNamesOf<Role>();
 }
 
 } // namespace tessarine

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/Figure.h"
+#include "screens/common/Figure.h"
 
 #include <vector>
 

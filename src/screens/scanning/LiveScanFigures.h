@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/ProgressHandle.h"
-#include "screens/FigureListModel.h"
-#include "screens/ScanRateMeter.h"
-#include "screens/ScanStatus.h"
+#include "model/ScanProgress.h"
+#include "screens/common/FigureListModel.h"
+#include "screens/scanning/ScanRateMeter.h"
+#include "screens/scanning/ScanStatus.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -16,8 +16,9 @@ namespace tessarine {
 class LiveScanFigures : public QObject {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(
-        tessarine::ProgressHandle progress READ progress WRITE setProgress NOTIFY progressChanged)
+    // The snapshot shown and whether there is one yet; the application state gives both.
+    Q_PROPERTY(tessarine::ScanProgress progress WRITE setProgress)
+    Q_PROPERTY(bool hasProgress WRITE setHasProgress)
     Q_PROPERTY(tessarine::ScanStatus status READ status NOTIFY figuresChanged)
     Q_PROPERTY(tessarine::FigureListModel* performance READ performance CONSTANT)
     Q_PROPERTY(tessarine::FigureListModel* statistics READ statistics CONSTANT)
@@ -27,8 +28,9 @@ class LiveScanFigures : public QObject {
 public:
     explicit LiveScanFigures(QObject* parent = nullptr);
 
-    ProgressHandle progress() const { return m_progress; }
-    void setProgress(const ProgressHandle& progress);
+    const std::optional<ScanProgress>& progress() const { return m_progress; }
+    void setProgress(const ScanProgress& progress);
+    void setHasProgress(bool hasProgress);
     const ScanStatus& status() const { return m_status; }
     FigureListModel* performance() { return &m_performance; }
     FigureListModel* statistics() { return &m_statistics; }
@@ -39,13 +41,14 @@ public:
     Q_INVOKABLE void tick();
 
 signals:
-    void progressChanged();
     void figuresChanged();
 
 private:
     void update();
 
-    ProgressHandle m_progress;
+    ScanProgress m_latest;
+    bool m_hasProgress = false;
+    std::optional<ScanProgress> m_progress;
     ScanRateMeter m_rates;
     ScanStatus m_status;
     std::optional<double> m_completedFraction;

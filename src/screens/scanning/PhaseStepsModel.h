@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/ScanPhaseDisplay.h"
+#include "screens/scanning/ScanPhaseDisplay.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>

@@ -1,7 +1,9 @@
-#include "screens/ActivityLogModel.h"
+#include "screens/scanning/ActivityLogModel.h"
+
+#include "app/RoleNames.h"
 
 #include "model/Format.h"
-#include "screens/ScanPaths.h"
+#include "screens/scanning/ScanPaths.h"
 
 namespace tessarine {
 
@@ -29,11 +31,7 @@ QVariant ActivityLogModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ActivityLogModel::roleNames() const {
-    return {{IdRole, "id"},
-            {TimestampRole, "timestamp"},
-            {NameRole, "name"},
-            {IsFolderRole, "isFolder"},
-            {SizeRole, "size"}};
+    return roleNamesOf<Role>();
 }
 
 void ActivityLogModel::setCurrentPath(const QString& path) {

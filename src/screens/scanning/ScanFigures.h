@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/ScanProgress.h"
-#include "screens/Figure.h"
+#include "screens/common/Figure.h"
 
 #include <optional>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "screens/ScanRateMeter.h"
+#include "screens/scanning/ScanRateMeter.h"
 
 namespace tessarine {
 

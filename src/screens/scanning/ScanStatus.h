@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/ScanProgress.h"
-#include "screens/ScanRateMeter.h"
+#include "screens/scanning/ScanRateMeter.h"
 
 #include <QString>
 #include <QStringList>

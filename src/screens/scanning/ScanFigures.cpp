@@ -1,7 +1,7 @@
-#include "screens/ScanFigures.h"
+#include "screens/scanning/ScanFigures.h"
 
 #include "model/Format.h"
-#include "screens/Throughput.h"
+#include "screens/scanning/Throughput.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "screens/ScanPaths.h"
+#include "screens/scanning/ScanPaths.h"
 
 namespace tessarine {
 

@@ -1,4 +1,4 @@
-#include "screens/ScanPhaseDisplay.h"
+#include "screens/scanning/ScanPhaseDisplay.h"
 
 namespace tessarine {
 

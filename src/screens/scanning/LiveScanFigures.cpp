@@ -1,6 +1,6 @@
-#include "screens/LiveScanFigures.h"
+#include "screens/scanning/LiveScanFigures.h"
 
-#include "screens/ScanFigures.h"
+#include "screens/scanning/ScanFigures.h"
 
 namespace tessarine {
 
@@ -9,24 +9,30 @@ LiveScanFigures::LiveScanFigures(QObject* parent)
     update();
 }
 
-void LiveScanFigures::setProgress(const ProgressHandle& progress) {
-    if (progress == m_progress)
-        return;
-    m_progress = progress;
+void LiveScanFigures::setProgress(const ScanProgress& progress) {
+    m_latest = progress;
     update();
-    emit progressChanged();
+}
+
+void LiveScanFigures::setHasProgress(bool hasProgress) {
+    m_hasProgress = hasProgress;
+    update();
 }
 
 void LiveScanFigures::tick() {
-    if (!m_progress.valid())
+    if (!m_progress)
         return;
-    m_rates.tick(*m_progress.progress());
+    m_rates.tick(*m_progress);
     update();
 }
 
 void LiveScanFigures::update() {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    const std::optional<ScanProgress>& progress = m_progress.progress();
+    if (m_hasProgress)
+        m_progress = m_latest;
+    else
+        m_progress.reset();
+    const std::optional<ScanProgress>& progress = m_progress;
     ScanStatus status = scanStatus(progress, m_rates, now);
     const std::optional<double> fraction =
         progress ? tessarine::completedFraction(*progress) : std::nullopt;

@@ -1,4 +1,4 @@
-#include "screens/SummaryFigures.h"
+#include "screens/dashboard/SummaryFigures.h"
 
 #include "model/Format.h"
 

@@ -1,4 +1,6 @@
-#include "screens/FigureListModel.h"
+#include "screens/common/FigureListModel.h"
+
+#include "app/RoleNames.h"
 
 namespace tessarine {
 
@@ -26,11 +28,7 @@ QVariant FigureListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> FigureListModel::roleNames() const {
-    return {{TitleRole, "title"},
-            {ValueRole, "value"},
-            {DetailRole, "detail"},
-            {IconRole, "icon"},
-            {ColorRole, "color"}};
+    return roleNamesOf<Role>();
 }
 
 void FigureListModel::setFigures(std::vector<Figure> figures) {

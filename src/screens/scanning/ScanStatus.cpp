@@ -1,9 +1,9 @@
-#include "screens/ScanStatus.h"
+#include "screens/scanning/ScanStatus.h"
 
 #include "model/Format.h"
-#include "screens/ScanPaths.h"
-#include "screens/ScanPhaseDisplay.h"
-#include "screens/Throughput.h"
+#include "screens/scanning/ScanPaths.h"
+#include "screens/scanning/ScanPhaseDisplay.h"
+#include "screens/scanning/Throughput.h"
 
 namespace tessarine {
 

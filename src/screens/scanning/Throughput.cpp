@@ -1,4 +1,4 @@
-#include "screens/Throughput.h"
+#include "screens/scanning/Throughput.h"
 
 namespace tessarine {
 

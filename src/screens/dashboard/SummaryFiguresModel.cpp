@@ -1,4 +1,4 @@
-#include "screens/SummaryFiguresModel.h"
+#include "screens/dashboard/SummaryFiguresModel.h"
 
 namespace tessarine {
 

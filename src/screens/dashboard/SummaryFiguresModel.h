@@ -1,7 +1,7 @@
 #pragma once
 
-#include "screens/FigureListModel.h"
-#include "screens/SummaryFigures.h"
+#include "screens/common/FigureListModel.h"
+#include "screens/dashboard/SummaryFigures.h"
 
 #include <QtQml/qqmlregistration.h>
 

@@ -1,4 +1,4 @@
-#include "screens/InsightStyle.h"
+#include "screens/dashboard/InsightStyle.h"
 
 namespace tessarine {
 
@@ -36,16 +36,6 @@ QString insightColor(InsightType type) {
         return QStringLiteral("blue");
     }
     return {};
-}
-
-QString InsightStyle::symbol(const QString& typeName) const {
-    const auto type = fromRawValue<InsightType>(typeName);
-    return type ? insightSymbol(*type) : QStringLiteral("lightbulb.fill");
-}
-
-QString InsightStyle::color(const QString& typeName) const {
-    const auto type = fromRawValue<InsightType>(typeName);
-    return type ? insightColor(*type) : QStringLiteral("yellow");
 }
 
 } // namespace tessarine
