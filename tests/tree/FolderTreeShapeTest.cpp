@@ -33,7 +33,7 @@ const FolderInfo* childNamed(const FolderInfo& folder, const QString& name) {
 using Figures = std::tuple<QString, qint64, qint64, qint64>;
 
 Figures figures(const FolderInfo& folder) {
-    return {folder.path, folder.depth, folder.totalSize, folder.fileCount};
+    return {folder.path(), folder.depth, folder.totalSize, folder.fileCount};
 }
 
 } // namespace
@@ -169,7 +169,7 @@ void FolderTreeShapeTest::rootWithOnlyFiles() {
 
     const FolderInfo tree = recordBuild(dir.path() + "/").tree();
 
-    QCOMPARE(tree.path, dir.path()); // cleaned, like the scanned root
+    QCOMPARE(tree.path(), dir.path()); // cleaned, like the scanned root
     QCOMPARE(tree.totalSize, 7);
     QCOMPARE(tree.fileCount, 2);
     QCOMPARE(tree.depth, 0);
@@ -224,7 +224,7 @@ void FolderTreeShapeTest::missingRootIsBareLeaf() {
     for (const QString& root : {dir.path() + "/absent", dir.path() + "/plain.txt"}) {
         const RecordedBuild build = recordBuild(root);
         const FolderInfo& tree = build.tree();
-        QCOMPARE(tree.path, root);
+        QCOMPARE(tree.path(), root);
         QCOMPARE(tree.name, QFileInfo(root).fileName());
         QCOMPARE(tree.totalSize, 0);
         QCOMPARE(tree.fileCount, 0);
@@ -247,7 +247,7 @@ void FolderTreeShapeTest::keepsOddNames() {
 
     QCOMPARE(tree.totalSize, 10);
     QCOMPARE(childNames(tree), QStringList{odd});
-    QCOMPARE(tree.childFolders[0].path, root + '/' + odd);
+    QCOMPARE(tree.childFolders[0].path(), root + '/' + odd);
 }
 
 void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
@@ -269,7 +269,7 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
         }
     }
     QVERIFY(folder->childFolders.empty());
-    QVERIFY(folder->path.endsWith("/d/d"));
+    QVERIFY(folder->path().endsWith("/d/d"));
     QCOMPARE(build.records.last().processedItems, depth + 1);
 }
 
