@@ -259,6 +259,28 @@ private slots:
         QVERIFY(decoded(json::encode(result)).folderTree == root);
     }
 
+    // The deepest tree the reader takes back is exactly as deep as the writer's callers are told.
+    void deepestReadableTree() {
+        for (const qint64 levels :
+             {json::deepestReadableFolderLevel, json::deepestReadableFolderLevel + 1}) {
+            AnalysisResult result = smallResult();
+            FolderInfo root;
+            root.location = FolderPath(QStringLiteral("/r"));
+            FolderInfo* tip = &root;
+            for (qint64 level = 1; level <= levels; ++level) {
+                FolderInfo child;
+                child.name = QStringLiteral("d");
+                child.location = FolderPath(tip->location, child.name);
+                child.depth = level;
+                tip->childFolders.push_back(std::move(child));
+                tip = &tip->childFolders.back();
+            }
+            result.folderTree = root;
+            const bool readable = levels <= json::deepestReadableFolderLevel;
+            QCOMPARE(json::decodeResult(json::encode(result)).has_value(), readable);
+        }
+    }
+
     void dates() {
         const QDateTime utc(QDate(2024, 3, 5), QTime(14, 7, 9, 999), Qt::UTC);
         QCOMPARE(json::formatDate(utc), "2024-03-05T14:07:09Z");

@@ -36,6 +36,19 @@ Figures figures(const FolderInfo& folder) {
     return {folder.path(), folder.depth, folder.totalSize, folder.fileCount};
 }
 
+// Whether every folder below the root keeps only its name and shares its parent's path, so that
+// the tree's paths cost memory in proportion to its folders, not to folders times depth.
+bool sharesParentPaths(const FolderInfo& root) {
+    for (const FolderInfo* folder : root.flattened()) {
+        for (const FolderInfo& child : folder->childFolders) {
+            if (!child.location.extends(folder->location) ||
+                child.location.lastPart() != child.name)
+                return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 class FolderTreeShapeTest : public QObject {
@@ -269,7 +282,8 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
         }
     }
     QVERIFY(folder->childFolders.empty());
-    QVERIFY(folder->path().endsWith("/d/d"));
+    QCOMPARE(folder->path(), dir.path() + QStringLiteral("/d").repeated(depth));
+    QVERIFY(sharesParentPaths(build.tree()));
     QCOMPARE(build.records.last().processedItems, depth + 1);
 }
 
@@ -305,6 +319,7 @@ void FolderTreeShapeTest::sharedOutAcrossThreadsEqualsOneThread() {
 
     QVERIFY(single && parallel);
     QVERIFY(*parallel == *single);
+    QVERIFY(sharesParentPaths(*parallel));
     QCOMPARE(parallelCount, singleCount);
     QCOMPARE(shared.last(), folderCount);
     QVERIFY(std::is_sorted(shared.begin(), shared.end()));
