@@ -10,8 +10,8 @@ namespace {
 
 // Every field of the folder except its sub-folders.
 FolderInfo withoutChildren(const FolderInfo& folder) {
-    return {folder.id,        folder.path, folder.name,  folder.totalSize,
-            folder.fileCount, {},          folder.depth, folder.color};
+    return {folder.id, folder.location, folder.name, folder.totalSize, folder.fileCount,
+            {},        folder.depth,    folder.color};
 }
 
 } // namespace

@@ -26,9 +26,14 @@ bool encode(const FolderInfo& folder, const std::function<bool(QByteArrayView)>&
 
 // Fails as a whole, with a text naming the offending member in *error, on malformed JSON, a
 // missing member, a wrong JSON type, an unknown enumeration value, a bad UUID or a bad date.
-// "folderTree" may be missing or null. Qt's parser gives up beyond 1024 nested containers, so a
-// folder tree more than 510 levels deep is written but does not read back.
+// "folderTree" may be missing or null.
 std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error = nullptr);
+
+// The most levels of folders below its root that a folder tree can have and still read back:
+// Qt's parser gives up beyond 1024 nested containers, and each level takes two (a folder's object
+// and its "childFolders" array) inside the result's own object. A deeper tree is written, but
+// neither this reader nor most others (which stop at similar depths) can read it.
+constexpr qint64 deepestReadableFolderLevel = 510;
 
 // "2024-03-05T14:07:09Z": UTC, no fractional seconds (they are dropped).
 QString formatDate(const QDateTime& date);

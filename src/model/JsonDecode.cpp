@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QJsonParseError>
 
+#include <iterator>
+
 namespace tessarine::json {
 
 namespace {
@@ -54,16 +56,26 @@ FileInfo readFileInfo(const ObjectReader& in) {
             .isDirectory = in.boolean(u"isDirectory")};
 }
 
-// Recursion is bounded here: Qt's parser rejects documents nested deeper than 1024 levels.
-FolderInfo readFolder(const ObjectReader& in) {
-    const QList<FolderInfo> children = in.list(u"childFolders", readFolder);
+// Recursion is bounded here: Qt's parser rejects documents nested deeper than 1024 levels. A
+// folder whose path is its parent's followed by its name shares its parent's path, as the folders
+// of a tree built here do; any other path stands on its own, so that it reads back as it was.
+FolderInfo readFolder(const ObjectReader& in, const FolderPath* parent) {
+    const QString path = in.string(u"path");
+    const QString name = in.string(u"name");
+    FolderPath location = parent ? FolderPath(*parent, name) : FolderPath(path);
+    if (parent && location.toString() != path)
+        location = FolderPath(path);
+    QList<FolderInfo> children = in.list(
+        u"childFolders", [&](const ObjectReader& child) { return readFolder(child, &location); });
     return {.id = in.uuid(u"id"),
-            .path = in.string(u"path"),
-            .name = in.string(u"name"),
+            .location = location,
+            .name = name,
             .totalSize = in.integer(u"totalSize"),
             .fileCount = in.integer(u"fileCount"),
+            // Moved, not copied: a copy would take each subtree once more at every level above.
             .childFolders =
-                FolderInfoList(std::vector<FolderInfo>(children.begin(), children.end())),
+                FolderInfoList(std::vector<FolderInfo>(std::make_move_iterator(children.begin()),
+                                                       std::make_move_iterator(children.end()))),
             .depth = in.integer(u"depth"),
             .color = in.enumeration<FolderColor>(u"color")};
 }
@@ -104,7 +116,7 @@ AnalysisResult readResult(const ObjectReader& in) {
             .insights = in.list(u"insights", readInsight),
             .folderTree = in.isAbsentOrNull(u"folderTree")
                               ? SharedFolderTree()
-                              : SharedFolderTree(readFolder(in.object(u"folderTree")))};
+                              : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr))};
 }
 
 } // namespace

@@ -11,6 +11,8 @@
 #include <QStringList>
 #include <QUuid>
 
+#include <type_traits>
+
 namespace tessarine::json {
 
 // Thrown inside the decoder only: one bad member abandons the whole result, so unwinding to the
@@ -48,8 +50,8 @@ public:
         return *value;
     }
 
-    template <typename Record>
-    QList<Record> list(QStringView name, Record (*read)(const ObjectReader&)) const {
+    template <typename Read> auto list(QStringView name, Read read) const {
+        using Record = std::invoke_result_t<Read, const ObjectReader&>;
         const QJsonArray values = array(name);
         QList<Record> result;
         result.reserve(values.size());

@@ -3,6 +3,7 @@
 #include "model/FileCategory.h"
 #include "model/FolderColor.h"
 #include "model/FolderInfoList.h"
+#include "model/FolderPath.h"
 #include "model/InsightType.h"
 #include "model/RecordId.h"
 
@@ -133,7 +134,7 @@ public:
 // One node of the folder tree: a folder with the totals of its whole subtree.
 struct FolderInfo {
     Q_GADGET
-    Q_PROPERTY(QString path MEMBER path)
+    Q_PROPERTY(QString path READ path)
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(qint64 totalSize MEMBER totalSize)
     Q_PROPERTY(qint64 fileCount MEMBER fileCount)
@@ -142,7 +143,8 @@ struct FolderInfo {
 
 public:
     QUuid id = makeRecordId();
-    QString path;
+    // Shares its parent's path: a node holds its name, not its whole path (see FolderPath).
+    FolderPath location;
     QString name;
     qint64 totalSize = 0;
     qint64 fileCount = 0;
@@ -150,6 +152,8 @@ public:
     qint64 depth = 0;
     FolderColor color = FolderColor::blue;
 
+    // The full path of the folder, spelled out from its location.
+    QString path() const { return location.toString(); }
     // This folder followed by its descendants, depth first, parents before children, children in
     // list order. Walks with an explicit stack so that arbitrarily deep trees are safe.
     std::vector<const FolderInfo*> flattened() const;

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <thread>
-#include <unordered_map>
 #include <vector>
 
 namespace tessarine {
@@ -57,12 +56,15 @@ std::vector<qint64> listedSubtreeSizes(const ListedDirectory* root) {
 
 // Splits the subtree of `start` (at `index` in `sizes`) into subtrees of at most `largest`
 // folders where its depth allows, each with the path and colour its parent's listing gives it.
+// The locations of the folders split through go to `above`, for the builder that finishes them
+// around the subtrees, whose paths share them.
 void split(const SubtreeStart& start, std::size_t index, const std::vector<qint64>& sizes,
-           qint64 largest, std::vector<SharedSubtree>& subtrees) {
+           qint64 largest, std::vector<SharedSubtree>& subtrees, ReadyFolders& above) {
     if (sizes[index] <= largest || start.depth == deepestSplit) {
         subtrees.push_back({start, sizes[index], std::nullopt});
         return;
     }
+    above[start.folder].location = start.location;
     QByteArray path = start.parentPath;
     if (!start.name.isEmpty())
         appendPathComponent(path, start.name);
@@ -74,19 +76,21 @@ void split(const SubtreeStart& start, std::size_t index, const std::vector<qint6
         const FolderColor color = folderColorAt(position++);
         if (!isListed(entry.contents()))
             continue;
-        split({entry.contents(), path, entry.name(), start.depth + 1, color}, child, sizes, largest,
-              subtrees);
+        split({entry.contents(), path, entry.name(),
+               FolderPath(start.location, decodedName(entry.name())), start.depth + 1, color},
+              child, sizes, largest, subtrees, above);
         child += std::size_t(sizes[child]);
     }
 }
 
 // The subtrees to build side by side, largest first: the folders above them are few, and are
-// finished afterwards. None when there are not two to share out.
-std::vector<SharedSubtree> sharedSubtrees(const SubtreeStart& root, int threadCount) {
+// finished afterwards (their locations go to `above`). None when there are not two to share out.
+std::vector<SharedSubtree> sharedSubtrees(const SubtreeStart& root, int threadCount,
+                                          ReadyFolders& above) {
     const std::vector<qint64> sizes = listedSubtreeSizes(root.folder);
     std::vector<SharedSubtree> subtrees;
     split(root, 0, sizes, std::max<qint64>(sizes[0] / (subtreesPerThread * threadCount), 1),
-          subtrees);
+          subtrees, above);
     if (subtrees.size() < 2)
         return {};
     std::stable_sort(subtrees.begin(), subtrees.end(),
@@ -152,26 +156,22 @@ std::optional<FolderInfo> FolderTreeAssembly::assemble(const DirectoryListing& l
         // cannot be listed it is an empty leaf, counted but without a progress record.
         m_progress.skipped();
         FolderInfo leaf;
-        leaf.path = rootPath;
+        leaf.location = FolderPath(rootPath);
         leaf.name = lastPathComponent(rootPath);
         return leaf;
     }
-    const SubtreeStart root{listing.root(), listing.rootPath(), {}, 0, folderColorAt(0)};
+    const SubtreeStart root{listing.root(),  listing.rootPath(), {}, FolderPath(rootPath), 0,
+                            folderColorAt(0)};
     std::vector<SharedSubtree> subtrees;
+    ReadyFolders ready;
     if (m_threadCount > 1 && m_folderCount >= parallelFolderCount) {
-        subtrees = sharedSubtrees(root, m_threadCount);
+        subtrees = sharedSubtrees(root, m_threadCount, ready);
         if (!subtrees.empty())
             buildSideBySide(subtrees, m_threadCount, m_cancelled, m_progress, rootPath);
     }
-
-    std::unordered_map<const ListedDirectory*, std::optional<FolderInfo>*> ready;
     for (SharedSubtree& subtree : subtrees)
-        ready.emplace(subtree.start.folder, &subtree.node);
-    SubtreeBuilder above(m_cancelled, m_progress, rootPath,
-                         [&](const ListedDirectory* folder) -> std::optional<FolderInfo>* {
-                             const auto found = ready.find(folder);
-                             return found == ready.end() ? nullptr : found->second;
-                         });
+        ready[subtree.start.folder].node = &subtree.node;
+    SubtreeBuilder above(m_cancelled, m_progress, rootPath, &ready);
     std::optional<FolderInfo> tree = above.build(root);
     if (m_cancelled.load())
         return std::nullopt;

@@ -23,12 +23,13 @@ qint64 treeFolderCount(const DirectoryListing& listing);
 // walker could not open (no permission, or removed before it got there) is marked unreadable in the
 // listing and becomes an empty leaf here, exactly as a failed second listing would make it.
 //
-// A large tree is built on every core: the pass touches no disk, but it writes some four hundred
-// bytes of fresh memory per folder, and the first touch of a page costs more than the work done in
-// it (over ten microseconds on a virtual machine), which threads pay side by side. The hierarchy is
-// cut into subtrees of at most an eighth of one thread's share of its folders, built side by side,
-// largest first, each by one thread as a whole; the few folders above them are then finished
-// around the ready subtrees. The tree is the same as a single thread builds, node for node.
+// A large tree is built on every core: the pass touches no disk, but it writes some two hundred and
+// fifty bytes of fresh memory per folder, and the first touch of a page costs more than the work
+// done in it (over ten microseconds on a virtual machine), which threads pay side by side. The
+// hierarchy is cut into subtrees of at most an eighth of one thread's share of its folders, built
+// side by side, largest first, each by one thread as a whole; the few folders above them are then
+// finished around the ready subtrees. The tree is the same as a single thread builds, node for
+// node.
 class FolderTreeAssembly {
 public:
     using FolderCallback = AssemblyProgress::Callback;

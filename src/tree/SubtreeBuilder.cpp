@@ -10,13 +10,9 @@
 
 namespace tessarine {
 
-namespace {
-
 QString decodedName(QByteArrayView bytes) {
     return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
 }
-
-} // namespace
 
 bool isListed(const ListedDirectory* folder) {
     return folder && folder->state() == ListedDirectory::State::listed;
@@ -26,7 +22,8 @@ bool isListed(const ListedDirectory* folder) {
 struct SubtreeBuilder::Frame {
     const ListedEntry* next;
     const ListedEntry* end;
-    QByteArrayView name; // empty for the root
+    bool isRoot;
+    FolderPath location;
     qsizetype parentPathLength;
     qint64 depth;
     FolderColor color;
@@ -37,19 +34,18 @@ struct SubtreeBuilder::Frame {
 };
 
 SubtreeBuilder::SubtreeBuilder(const std::atomic<bool>& cancelled, AssemblyProgress& progress,
-                               const QString& rootPath, Prebuilt prebuilt)
+                               const QString& rootPath, const ReadyFolders* ready)
     : m_cancelled(cancelled)
     , m_progress(progress)
-    , m_rootPath(rootPath)
     , m_rootName(lastPathComponent(rootPath))
-    , m_prebuilt(std::move(prebuilt)) {}
+    , m_ready(ready) {}
 
 SubtreeBuilder::~SubtreeBuilder() = default;
 
 std::optional<FolderInfo> SubtreeBuilder::build(SubtreeStart start) {
     m_path = std::move(start.parentPath);
     m_stack.clear();
-    enter(*start.folder, start.name, start.depth, start.color);
+    enter(*start.folder, start.name, std::move(start.location), start.depth, start.color);
     while (!m_cancelled.load(std::memory_order_relaxed)) {
         Frame& top = m_stack.back();
         if (top.next != top.end) {
@@ -67,8 +63,8 @@ std::optional<FolderInfo> SubtreeBuilder::build(SubtreeStart start) {
     return std::nullopt;
 }
 
-void SubtreeBuilder::enter(const ListedDirectory& folder, QByteArrayView name, qint64 depth,
-                           FolderColor color) {
+void SubtreeBuilder::enter(const ListedDirectory& folder, QByteArrayView name, FolderPath location,
+                           qint64 depth, FolderColor color) {
     const qsizetype parentPathLength = m_path.size();
     if (!name.isEmpty())
         appendPathComponent(m_path, name);
@@ -77,9 +73,9 @@ void SubtreeBuilder::enter(const ListedDirectory& folder, QByteArrayView name, q
     // With the files summed away the entries are nearly all sub-folders: one allocation each.
     if (folder.summedCount() > 0 || entries.size() > 1)
         children.reserve(entries.size());
-    m_stack.push_back(Frame{entries.data(), entries.data() + entries.size(), name, parentPathLength,
-                            depth, color, folder.summedSize(), folder.summedCount(), 0,
-                            std::move(children)});
+    m_stack.push_back(Frame{entries.data(), entries.data() + entries.size(), name.isEmpty(),
+                            std::move(location), parentPathLength, depth, color,
+                            folder.summedSize(), folder.summedCount(), 0, std::move(children)});
 }
 
 void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
@@ -95,12 +91,26 @@ void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
         m_progress.skipped();
         return;
     }
-    if (std::optional<FolderInfo>* built = m_prebuilt ? m_prebuilt(entry.contents()) : nullptr) {
-        if (*built)
-            adopt(frame, std::move(**built));
+    if (const ReadyFolder* ready = readyFolder(entry.contents())) {
+        if (ready->node) {
+            if (*ready->node)
+                adopt(frame, std::move(**ready->node));
+            return;
+        }
+        enter(*entry.contents(), entry.name(), ready->location, frame.depth + 1, color);
         return;
     }
-    enter(*entry.contents(), entry.name(), frame.depth + 1, color); // invalidates `frame`
+    // Made here, before the folder's own entries, so that each sub-folder's path shares it.
+    FolderPath location(frame.location, decodedName(entry.name()));
+    enter(*entry.contents(), entry.name(), std::move(location), frame.depth + 1,
+          color); // invalidates `frame`
+}
+
+const ReadyFolder* SubtreeBuilder::readyFolder(const ListedDirectory* folder) const {
+    if (!m_ready)
+        return nullptr;
+    const auto found = m_ready->find(folder);
+    return found == m_ready->end() ? nullptr : &found->second;
 }
 
 void SubtreeBuilder::adopt(Frame& parent, FolderInfo&& node) {
@@ -111,8 +121,7 @@ void SubtreeBuilder::adopt(Frame& parent, FolderInfo&& node) {
 
 std::optional<FolderInfo> SubtreeBuilder::finish(Frame& frame) {
     m_progress.finished([&] { return folderName(frame); });
-    const bool isRoot = frame.name.isEmpty();
-    if (!isRoot && frame.totalSize < 1 && frame.children.empty())
+    if (!frame.isRoot && frame.totalSize < 1 && frame.children.empty())
         return std::nullopt;
     // Stable, so that folders of equal size keep their listing order. The sort's scratch buffer is
     // not worth asking for without two children to order.
@@ -121,8 +130,8 @@ std::optional<FolderInfo> SubtreeBuilder::finish(Frame& frame) {
             frame.children.begin(), frame.children.end(),
             [](const FolderInfo& a, const FolderInfo& b) { return a.totalSize > b.totalSize; });
     FolderInfo node;
-    node.path = isRoot ? m_rootPath : QFile::decodeName(m_path);
     node.name = folderName(frame);
+    node.location = std::move(frame.location);
     node.totalSize = frame.totalSize;
     node.fileCount = frame.fileCount;
     node.childFolders = std::move(frame.children);
@@ -145,7 +154,7 @@ qint64 SubtreeBuilder::unlistedEntrySize(QByteArrayView name) const {
 }
 
 QString SubtreeBuilder::folderName(const Frame& frame) const {
-    return frame.name.isEmpty() ? m_rootName : decodedName(frame.name);
+    return frame.isRoot ? m_rootName : frame.location.lastPart();
 }
 
 } // namespace tessarine

@@ -8,8 +8,8 @@
 #include <QString>
 
 #include <atomic>
-#include <functional>
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace tessarine {
@@ -19,9 +19,19 @@ struct SubtreeStart {
     const ListedDirectory* folder = nullptr;
     QByteArray parentPath; // in file-system bytes; the root's own path for the root
     QByteArrayView name;   // empty for the root of the listing
+    FolderPath location;   // its own, sharing its parent's
     qint64 depth = 0;
     FolderColor color = FolderColor::blue;
 };
+
+// What a builder finds made elsewhere for a folder it meets: the finished node of a subtree that
+// another thread built (empty when it was dropped), or, for a folder above such subtrees, the
+// location that their paths already share.
+struct ReadyFolder {
+    std::optional<FolderInfo>* node = nullptr;
+    FolderPath location;
+};
+using ReadyFolders = std::unordered_map<const ListedDirectory*, ReadyFolder>;
 
 // Turns the listing below one folder into its FolderInfo subtree: bottom-up sums, children
 // largest first (stable, so equal sizes keep their listing order), colours by listing position
@@ -32,12 +42,9 @@ struct SubtreeStart {
 // unlimited. Subtrees that other threads build are taken as they are, not entered.
 class SubtreeBuilder {
 public:
-    // The finished node of a folder built elsewhere (empty when it was dropped), or null for a
-    // folder this builder enters itself.
-    using Prebuilt = std::function<std::optional<FolderInfo>*(const ListedDirectory*)>;
-
+    // `ready`, when given, holds the folders made elsewhere; the builder enters the others itself.
     SubtreeBuilder(const std::atomic<bool>& cancelled, AssemblyProgress& progress,
-                   const QString& rootPath, Prebuilt prebuilt = {});
+                   const QString& rootPath, const ReadyFolders* ready = nullptr);
     ~SubtreeBuilder();
     SubtreeBuilder(const SubtreeBuilder&) = delete;
     SubtreeBuilder& operator=(const SubtreeBuilder&) = delete;
@@ -48,8 +55,10 @@ public:
 private:
     struct Frame;
 
-    void enter(const ListedDirectory& folder, QByteArrayView name, qint64 depth, FolderColor color);
+    void enter(const ListedDirectory& folder, QByteArrayView name, FolderPath location,
+               qint64 depth, FolderColor color);
     void visit(Frame& frame, const ListedEntry& entry);
+    const ReadyFolder* readyFolder(const ListedDirectory* folder) const;
     void adopt(Frame& parent, FolderInfo&& node);
     std::optional<FolderInfo> finish(Frame& frame);
     qint64 unlistedEntrySize(QByteArrayView name) const;
@@ -57,14 +66,16 @@ private:
 
     const std::atomic<bool>& m_cancelled;
     AssemblyProgress& m_progress;
-    const QString m_rootPath;
     const QString m_rootName;
-    const Prebuilt m_prebuilt;
+    const ReadyFolders* const m_ready;
     QByteArray m_path; // the innermost open folder's path
     std::vector<Frame> m_stack;
 };
 
 // Whether the walk listed the folder's contents (not cancelled before it, nor unable to open it).
 bool isListed(const ListedDirectory* folder);
+
+// A listed name as text.
+QString decodedName(QByteArrayView bytes);
 
 } // namespace tessarine

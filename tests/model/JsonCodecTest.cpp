@@ -191,7 +191,7 @@ private slots:
         for (int i = 0; i < 3000; ++i) {
             FolderInfo child;
             child.name = QStringLiteral("child %1").arg(i);
-            child.path = root.path + u'/' + child.name;
+            child.location = FolderPath(root.location, child.name);
             child.totalSize = i;
             root.childFolders.push_back(child);
         }
@@ -222,7 +222,7 @@ private slots:
         const QString odd = QStringLiteral("q\"b\\s/n\nt\t\x01");
         const QByteArray oddEscaped = "q\\\"b\\\\s\\/n\\nt\\t\\u0001";
         folder.name = QString(2000, u'a') + odd + QStringLiteral("\u00e9\U0001F600") + odd;
-        folder.path = odd;
+        folder.location = FolderPath(odd);
         const QByteArray bytes = json::encode(folder);
         const QByteArray expectedName = QByteArray(2000, 'a') + oddEscaped +
                                         QString(QStringLiteral("\u00e9\U0001F600")).toUtf8() +
@@ -235,16 +235,17 @@ private slots:
     // "/"), and on its own where a tree read from elsewhere says something else.
     void pathsBelowTheirParents() {
         FolderInfo root;
-        root.path = root.name = QStringLiteral("/");
+        root.name = QStringLiteral("/");
+        root.location = FolderPath(root.name);
         FolderInfo child;
         child.name = QStringLiteral("q\"b\u00e9");
-        child.path = u'/' + child.name;
+        child.location = FolderPath(root.location, child.name);
         FolderInfo grandchild;
         grandchild.name = QStringLiteral("n\nl");
-        grandchild.path = child.path + u'/' + grandchild.name;
+        grandchild.location = FolderPath(child.location, grandchild.name);
         FolderInfo foreign;
         foreign.name = QStringLiteral("x");
-        foreign.path = QStringLiteral("/elsewhere/x");
+        foreign.location = FolderPath(QStringLiteral("/elsewhere/x"));
         child.childFolders = {grandchild, foreign};
         root.childFolders = {child};
 
@@ -256,6 +257,28 @@ private slots:
         AnalysisResult result = smallResult();
         result.folderTree = root;
         QVERIFY(decoded(json::encode(result)).folderTree == root);
+    }
+
+    // The deepest tree the reader takes back is exactly as deep as the writer's callers are told.
+    void deepestReadableTree() {
+        for (const qint64 levels :
+             {json::deepestReadableFolderLevel, json::deepestReadableFolderLevel + 1}) {
+            AnalysisResult result = smallResult();
+            FolderInfo root;
+            root.location = FolderPath(QStringLiteral("/r"));
+            FolderInfo* tip = &root;
+            for (qint64 level = 1; level <= levels; ++level) {
+                FolderInfo child;
+                child.name = QStringLiteral("d");
+                child.location = FolderPath(tip->location, child.name);
+                child.depth = level;
+                tip->childFolders.push_back(std::move(child));
+                tip = &tip->childFolders.back();
+            }
+            result.folderTree = root;
+            const bool readable = levels <= json::deepestReadableFolderLevel;
+            QCOMPARE(json::decodeResult(json::encode(result)).has_value(), readable);
+        }
     }
 
     void dates() {

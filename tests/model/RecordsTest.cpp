@@ -8,7 +8,7 @@ namespace {
 
 FolderInfo folder(const QString& name, qint64 totalSize, std::vector<FolderInfo> children = {}) {
     FolderInfo info;
-    info.path = QStringLiteral("/r/") + name;
+    info.location = FolderPath(QStringLiteral("/r/") + name);
     info.name = name;
     info.totalSize = totalSize;
     info.childFolders = std::move(children);
@@ -57,7 +57,9 @@ private slots:
         auto root = std::make_unique<FolderInfo>(folder(QStringLiteral("0"), levels));
         FolderInfo* tip = root.get();
         for (int depth = 1; depth <= levels; ++depth) {
-            tip->childFolders.push_back(folder(QString::number(depth), levels - depth));
+            FolderInfo child = folder(QString::number(depth), levels - depth);
+            child.location = FolderPath(tip->location, child.name);
+            tip->childFolders.push_back(std::move(child));
             tip = &tip->childFolders.back();
             tip->depth = depth;
         }
@@ -65,6 +67,7 @@ private slots:
         QCOMPARE(all.size(), std::size_t(levels + 1));
         QCOMPARE(all.back(), tip);
         QCOMPARE(all[5000]->depth, 5000);
+        QVERIFY(tip->path().startsWith("/r/0/1/2/") && tip->path().endsWith("/9999/10000"));
         QCOMPARE(root->directFilesSize(), 1);
 
         // Copying, comparing, reassigning and tearing the chain down must not exhaust the stack.
@@ -81,6 +84,33 @@ private slots:
         copy.childFolders = FolderInfoList();
         QVERIFY(copy != *root);
         root.reset();
+    }
+
+    // A path is spelled from the parts its folders share, with one "/" between parent and name.
+    void folderPaths() {
+        const FolderPath root(QStringLiteral("/"));
+        const FolderPath top(root, QStringLiteral("a b"));
+        const FolderPath inner(top, QStringLiteral("c"));
+        QCOMPARE(root.toString(), "/");
+        QCOMPARE(top.toString(), "/a b");
+        QCOMPARE(inner.toString(), "/a b/c");
+        QCOMPARE(FolderPath(QStringLiteral("/x/")).toString(), "/x/");
+        QCOMPARE(FolderPath(FolderPath(QStringLiteral("/x/")), QStringLiteral("y")).toString(),
+                 "/x/y");
+        QCOMPARE(FolderPath().toString(), QString());
+        QVERIFY(inner.extends(top) && !inner.extends(root));
+        // Equal by spelling, however made.
+        QVERIFY(inner == FolderPath(QStringLiteral("/a b/c")));
+        QVERIFY(!FolderPath(QStringLiteral("/a b/c")).extends(top));
+        QVERIFY(inner != FolderPath(top, QStringLiteral("d")));
+
+        // Released from its tip, a very deep chain must let go of its parts without recursing.
+        constexpr int levels = 300'000;
+        auto tip = std::make_unique<FolderPath>(QStringLiteral("/deep"));
+        for (int level = 0; level < levels; ++level)
+            *tip = FolderPath(*tip, QStringLiteral("d"));
+        QCOMPARE(tip->toString().size(), 5 + 2 * levels);
+        tip.reset();
     }
 
     void resultDerivedValues() {

@@ -26,7 +26,7 @@ FileInfo file(const QString& path, qint64 size, const QString& extension, FileCa
 
 FolderInfo folder(const QString& path, qint64 totalSize, qint64 depth, FolderColor color) {
     FolderInfo info;
-    info.path = path;
+    info.location = FolderPath(path);
     info.name = path.section(u'/', -1);
     info.totalSize = totalSize;
     info.fileCount = depth + 1;

@@ -163,7 +163,7 @@ private slots:
         result.largestFiles.first().modificationDate = utc(8, 15, 999);
         result.largestFiles.first().path += QStringLiteral("\nsecond line, 'quoted' \"twice\"");
         FolderInfo tree;
-        tree.path = result.rootPath;
+        tree.location = FolderPath(result.rootPath);
         tree.name = result.rootName;
         tree.childFolders.push_back(FolderInfo{});
         result.folderTree = tree;

@@ -1,5 +1,6 @@
 #include "CliRun.h"
 #include "TestFolders.h"
+#include "TestTrees.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -16,6 +17,8 @@ class CliTreeTest : public QObject {
 private slots:
     void jsonHoldsEveryFolderBySize();
     void failuresPrintTheErrorText();
+    void treeDeeperThanJsonReadersIsRefused_data();
+    void treeDeeperThanJsonReadersIsRefused();
 };
 
 namespace {
@@ -66,6 +69,39 @@ void CliTreeTest::failuresPrintTheErrorText() {
         QCOMPARE(run.errorText(), "Cannot access: " + path + "\n");
         QCOMPARE(run.output, QByteArray());
     }
+}
+
+void CliTreeTest::treeDeeperThanJsonReadersIsRefused_data() {
+    QTest::addColumn<int>("levels");
+    QTest::newRow("as deep as readers go") << 510;
+    QTest::newRow("one level deeper") << 511;
+}
+
+// A tree that readers could not take back is not written; one level less is, and reads back.
+void CliTreeTest::treeDeeperThanJsonReadersIsRefused() {
+    QFETCH(int, levels);
+    const QTemporaryDir folder = tessarine::testing::makeFastTemporaryDir();
+    const QString root = folder.path();
+    writeFile(root + QStringLiteral("/d").repeated(levels) + "/leaf", 1);
+
+    const CliRun run = runCli({"tree", root});
+
+    if (levels > 510) {
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.errorText(), QStringLiteral("Folder tree too deep for JSON: 511 levels of "
+                                                 "folders below %1, but JSON readers stop at 510\n")
+                                      .arg(root));
+        QCOMPARE(run.output, QByteArray());
+        return;
+    }
+    QCOMPARE(run.exitCode, 0);
+    QJsonParseError error;
+    QJsonValue folderJson = QJsonDocument::fromJson(run.output, &error).object();
+    QCOMPARE(error.error, QJsonParseError::NoError);
+    for (int level = 0; level < levels; ++level)
+        folderJson = folderJson["childFolders"].toArray().at(0);
+    QCOMPARE(folderJson["depth"].toInteger(), levels);
+    QCOMPARE(folderJson["path"].toString(), root + QStringLiteral("/d").repeated(levels));
 }
 
 QTEST_GUILESS_MAIN(CliTreeTest)

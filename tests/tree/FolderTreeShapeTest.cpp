@@ -33,7 +33,20 @@ const FolderInfo* childNamed(const FolderInfo& folder, const QString& name) {
 using Figures = std::tuple<QString, qint64, qint64, qint64>;
 
 Figures figures(const FolderInfo& folder) {
-    return {folder.path, folder.depth, folder.totalSize, folder.fileCount};
+    return {folder.path(), folder.depth, folder.totalSize, folder.fileCount};
+}
+
+// Whether every folder below the root keeps only its name and shares its parent's path, so that
+// the tree's paths cost memory in proportion to its folders, not to folders times depth.
+bool sharesParentPaths(const FolderInfo& root) {
+    for (const FolderInfo* folder : root.flattened()) {
+        for (const FolderInfo& child : folder->childFolders) {
+            if (!child.location.extends(folder->location) ||
+                child.location.lastPart() != child.name)
+                return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -169,7 +182,7 @@ void FolderTreeShapeTest::rootWithOnlyFiles() {
 
     const FolderInfo tree = recordBuild(dir.path() + "/").tree();
 
-    QCOMPARE(tree.path, dir.path()); // cleaned, like the scanned root
+    QCOMPARE(tree.path(), dir.path()); // cleaned, like the scanned root
     QCOMPARE(tree.totalSize, 7);
     QCOMPARE(tree.fileCount, 2);
     QCOMPARE(tree.depth, 0);
@@ -224,7 +237,7 @@ void FolderTreeShapeTest::missingRootIsBareLeaf() {
     for (const QString& root : {dir.path() + "/absent", dir.path() + "/plain.txt"}) {
         const RecordedBuild build = recordBuild(root);
         const FolderInfo& tree = build.tree();
-        QCOMPARE(tree.path, root);
+        QCOMPARE(tree.path(), root);
         QCOMPARE(tree.name, QFileInfo(root).fileName());
         QCOMPARE(tree.totalSize, 0);
         QCOMPARE(tree.fileCount, 0);
@@ -247,7 +260,7 @@ void FolderTreeShapeTest::keepsOddNames() {
 
     QCOMPARE(tree.totalSize, 10);
     QCOMPARE(childNames(tree), QStringList{odd});
-    QCOMPARE(tree.childFolders[0].path, root + '/' + odd);
+    QCOMPARE(tree.childFolders[0].path(), root + '/' + odd);
 }
 
 void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
@@ -269,7 +282,8 @@ void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
         }
     }
     QVERIFY(folder->childFolders.empty());
-    QVERIFY(folder->path.endsWith("/d/d"));
+    QCOMPARE(folder->path(), dir.path() + QStringLiteral("/d").repeated(depth));
+    QVERIFY(sharesParentPaths(build.tree()));
     QCOMPARE(build.records.last().processedItems, depth + 1);
 }
 
@@ -305,6 +319,7 @@ void FolderTreeShapeTest::sharedOutAcrossThreadsEqualsOneThread() {
 
     QVERIFY(single && parallel);
     QVERIFY(*parallel == *single);
+    QVERIFY(sharesParentPaths(*parallel));
     QCOMPARE(parallelCount, singleCount);
     QCOMPARE(shared.last(), folderCount);
     QVERIFY(std::is_sorted(shared.begin(), shared.end()));

@@ -17,7 +17,7 @@ namespace {
 FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
                       qint64 colourIndex) {
     FolderInfo node;
-    node.path = QFile::decodeName(path);
+    node.location = FolderPath(QFile::decodeName(path));
     node.name = name;
     node.depth = depth;
     node.color = folderColorAt(colourIndex);

@@ -9,6 +9,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace tessarine::cli {
 
 namespace {
@@ -17,6 +19,14 @@ namespace {
 // vanishes under the dashboard but would hide a mistyped path here.
 bool isListableFolder(const QFileInfo& folder) {
     return folder.isDir() && folder.isReadable() && folder.isExecutable();
+}
+
+// How many levels of folders lie below the root.
+qint64 levelsBelow(const FolderInfo& root) {
+    qint64 deepest = root.depth;
+    for (const FolderInfo* folder : root.flattened())
+        deepest = std::max(deepest, folder->depth);
+    return deepest - root.depth;
 }
 
 FolderTreeOutcome buildTree(const QString& rootPath) {
@@ -43,6 +53,19 @@ int runTree(const QStringList& arguments) {
     FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
+    // The tree of a folder chain deeper than JSON readers go (Qt's and Python's stop at some five
+    // hundred levels of folders, others sooner) is refused with a reason rather than written: its
+    // text could not be read back by whatever asked for it, and would be huge on the way, as each
+    // folder's path grows with its depth (a chain 10,000 folders deep took 2.75 GB). The
+    // desktop app still builds and shows such a tree; only its JSON form has this limit.
+    const FolderInfo& tree = std::get<FolderInfo>(outcome);
+    if (const qint64 levels = levelsBelow(tree); levels > json::deepestReadableFolderLevel) {
+        printError(QStringLiteral("Folder tree too deep for JSON: %1 levels of folders below %2, "
+                                  "but JSON readers stop at %3")
+                       .arg(QString::number(levels), tree.path(),
+                            QString::number(json::deepestReadableFolderLevel)));
+        return exitFailure;
+    }
     // Kept to the end of the process, which follows at once: handing a large tree's nodes back to
     // the allocator one by one would only delay it. Held by a static, so leak checkers see it.
     static const FolderInfo* keptUntilExit = nullptr;
