@@ -21,9 +21,10 @@ bool isListableFolder(const QFileInfo& folder) {
 
 FolderTreeOutcome buildTree(const QString& rootPath) {
     FolderTreeService service;
+    const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [&] { return service.build(rootPath); },
-        [&] { service.setCancelled(true); },
+        [&] { return service.build(rootPath, task); },
+        [&] { task.cancel(); },
         [&] { return service.progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
     });
