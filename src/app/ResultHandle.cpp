@@ -2,6 +2,7 @@
 
 #include "model/FileCategory.h"
 #include "model/InsightType.h"
+#include "model/PathNames.h"
 
 #include <QVariantMap>
 
@@ -32,7 +33,9 @@ QString ResultHandle::folderName() const {
     const QString path = rootPath();
     if (path.isEmpty())
         return QStringLiteral("Unknown");
-    return path.mid(path.lastIndexOf(u'/') + 1);
+    // The sidebar names a folder by the text after its path's last "/": the root has no name.
+    const QString name = lastPathComponent(path);
+    return name == u'/' ? QString() : name;
 }
 
 QDateTime ResultHandle::scanDate() const {

@@ -46,8 +46,8 @@ public:
     QString id() const;
     QString rootName() const;
     QString rootPath() const;
-    // The text after the last "/" of rootPath (the whole path when it has none), or "Unknown"
-    // when rootPath is empty. A root path of "/" yields the empty text after its slash.
+    // The last path component of rootPath, or "Unknown" when rootPath is empty. The root "/",
+    // which names itself elsewhere, yields the empty text after its slash.
     QString folderName() const;
     QDateTime scanDate() const;
     qint64 totalSize() const;

@@ -1,5 +1,6 @@
 #include "scanner/FileSystemScanner.h"
 
+#include "model/PathNames.h"
 #include "scanner/DirectoryWalker.h"
 #include "scanner/ListingAnalysis.h"
 #include "scanner/ScanAggregator.h"

@@ -1,6 +1,7 @@
 #include "screens/ActivityLogModel.h"
 
 #include "model/Format.h"
+#include "model/PathNames.h"
 #include "screens/ScanPaths.h"
 
 namespace tessarine {

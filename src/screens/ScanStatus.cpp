@@ -1,6 +1,7 @@
 #include "screens/ScanStatus.h"
 
 #include "model/Format.h"
+#include "model/PathNames.h"
 #include "screens/ScanPaths.h"
 #include "screens/ScanPhaseDisplay.h"
 #include "screens/Throughput.h"

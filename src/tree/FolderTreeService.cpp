@@ -1,7 +1,7 @@
 #include "tree/FolderTreeService.h"
 
 #include "model/Format.h"
-#include "scanner/DirectoryWalker.h"
+#include "model/PathNames.h"
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
