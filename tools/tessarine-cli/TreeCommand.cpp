@@ -4,6 +4,7 @@
 #include "CancellableRun.h"
 
 #include "model/Json.h"
+#include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
 
 #include <QDir>
@@ -12,12 +13,6 @@
 namespace tessarine::cli {
 
 namespace {
-
-// The service turns a root it cannot list into an empty tree, which is right for a folder that
-// vanishes under the dashboard but would hide a mistyped path here.
-bool isListableFolder(const QFileInfo& folder) {
-    return folder.isDir() && folder.isReadable() && folder.isExecutable();
-}
 
 FolderTreeOutcome buildTree(const QString& rootPath) {
     FolderTreeService service;
@@ -38,8 +33,8 @@ int runTree(const QStringList& arguments) {
         return *usageStatus;
     const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
     const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
-    if (!isListableFolder(folder))
-        return reportFailure(FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath});
+    if (const auto rootError = unlistableRootError(rootPath))
+        return reportFailure(*rootError);
 
     FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
