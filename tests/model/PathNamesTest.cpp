@@ -19,9 +19,6 @@ private slots:
         QTest::newRow("trailing separators") << "/home/ann/Music//"
                                              << "/home/ann/Music"
                                              << "Music";
-        QTest::newRow("dotted name") << "/x/v1.2/"
-                                     << "/x/v1.2"
-                                     << "v1.2";
         QTest::newRow("root") << "/"
                               << "/"
                               << "/";
