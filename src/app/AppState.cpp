@@ -43,8 +43,7 @@ AppState::AppState(PersistenceService& store, QObject* parent)
 }
 
 AppState::~AppState() {
-    if (m_currentScanner)
-        m_currentScanner->cancel();
+    m_currentScanCancel.cancel();
     waitForWorkers();
     if (sharedInstance == this)
         sharedInstance = nullptr;
@@ -117,26 +116,26 @@ void AppState::startScan(const QUrl& folder) {
 }
 
 void AppState::startScan(const QString& folderPath) {
-    // A running scan is replaced: its outcome is dropped, and its scanner stopped so that it does
-    // not compete with the new one for the disk.
-    if (m_currentScanTask && m_currentScanner)
-        m_currentScanner->cancel();
+    // A running scan is replaced: its outcome is dropped, and its task cancelled so that it does
+    // not compete with the new one for the disk, even if its worker has not started yet.
+    m_currentScanCancel.cancel();
     emit scanStarted();
     setCurrentView(Scanning);
     setIsScanning(true);
     setScanProgress(std::nullopt);
     const TaskId task = ++m_lastTaskId;
     m_currentScanTask = task;
-    performScan(task, folderPath);
+    m_currentScanCancel = CancelToken();
+    performScan(task, m_currentScanCancel, folderPath);
 }
 
-void AppState::performScan(TaskId task, const QString& folderPath) {
+void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath) {
     auto scanner = std::make_shared<FileSystemScanner>();
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();
-    m_workers.start([this, task, scanner, folderPath] {
-        ScanOutcome outcome = scanner->scan(folderPath);
+    m_workers.start([this, task, cancel, scanner, folderPath] {
+        ScanOutcome outcome = scanner->scan(folderPath, cancel);
         // Back on the interface thread; dropped by Qt if the state is gone by then.
         QMetaObject::invokeMethod(
             this,
@@ -199,8 +198,7 @@ void AppState::openResult(const AnalysisResult& result) {
 
 void AppState::cancelScan() {
     m_currentScanTask.reset();
-    if (m_currentScanner)
-        m_currentScanner->cancel();
+    m_currentScanCancel.cancel();
     m_currentScanner.reset();
     stopProgressWatcher();
     setIsScanning(false);

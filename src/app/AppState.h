@@ -5,6 +5,8 @@
 #include "model/Records.h"
 #include "model/ScanProgress.h"
 
+#include "model/CancelToken.h"
+
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -52,7 +54,8 @@ public:
 
     // Loads the history from the store at once. The store outlives this state.
     explicit AppState(PersistenceService& store, QObject* parent = nullptr);
-    // Stops a running scan and waits for its worker, so nothing outlives the state.
+    // Stops a running scan and waits for its worker, which stops within moments, so nothing
+    // outlives the state.
     ~AppState() override;
 
     // QML's AppState is the instance the application made; see setSharedInstance.
@@ -115,7 +118,7 @@ private:
     void loadHistory();
     void saveResult(const AnalysisResult& result);
     void setIsScanning(bool scanning);
-    void performScan(TaskId task, const QString& folderPath);
+    void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath);
     void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
                     AnalysisResult result);
     void failScan(TaskId task, const ScanError& failure);
@@ -136,6 +139,9 @@ private:
     // outcome is dropped without touching the state.
     std::optional<TaskId> m_currentScanTask;
     TaskId m_lastTaskId = 0;
+    // The cancellation of the current scan task, made with the task: a cancel that comes before
+    // its worker has started still stops it.
+    CancelToken m_currentScanCancel;
     std::shared_ptr<FileSystemScanner> m_currentScanner;
 
     // Copies the watched scanner's snapshot into scanProgress every 120 ms: progress reaches the

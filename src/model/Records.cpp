@@ -1,6 +1,7 @@
 #include "model/Records.h"
 
 #include "model/Format.h"
+#include "model/PathNames.h"
 
 #include <algorithm>
 #include <numeric>
@@ -53,11 +54,12 @@ QString AnalysisResult::formattedDuration() const {
     return format::duration(scanDuration);
 }
 
-// The text after the last "/" (empty for the root folder itself), or "Unknown" without a path.
 QString AnalysisResult::folderName() const {
     if (rootPath.isEmpty())
         return QStringLiteral("Unknown");
-    return rootPath.mid(rootPath.lastIndexOf(u'/') + 1);
+    // The sidebar names a folder by the text after its path's last "/": the root has no name.
+    const QString name = lastPathComponent(rootPath);
+    return name == u'/' ? QString() : name;
 }
 
 } // namespace tessarine

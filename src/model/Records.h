@@ -226,7 +226,8 @@ public:
     std::vector<std::pair<qint64, DepthStats>> sortedDepths() const;
     // scanDuration as "250 ms", "12.3 seconds" or "2m 5s".
     QString formattedDuration() const;
-    // The scanned folder's own name as the sidebar and the history show it.
+    // The last component of rootPath as the sidebar and the history show it: empty for the root
+    // folder, which names itself elsewhere, and "Unknown" without a path.
     QString folderName() const;
 
     bool operator==(const AnalysisResult&) const = default;

@@ -2,9 +2,7 @@
 
 #include "scanner/DirectoryReader.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <condition_variable>
@@ -273,15 +271,6 @@ DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
     listing.m_folderCount = outcome.folders;
     listing.m_cancelled = outcome.cancelled;
     return listing;
-}
-
-QString cleanRootPath(const QString& folderPath) {
-    return QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath());
-}
-
-QString lastPathComponent(const QString& cleanPath) {
-    return cleanPath == QLatin1String("/") ? cleanPath
-                                           : cleanPath.sliced(cleanPath.lastIndexOf(u'/') + 1);
 }
 
 } // namespace tessarine

@@ -48,18 +48,12 @@ public:
         : m_options(std::move(options)) {}
 
     // Blocks until the whole hierarchy is listed. `rootPath` should be absolute and clean (see
-    // cleanRootPath); an unreadable or missing root gives an empty listing without a root.
+    // cleanRootPath in model/PathNames.h); an unreadable or missing root gives an empty listing
+    // without a root.
     DirectoryListing walk(const QString& rootPath) const;
 
 private:
     Options m_options;
 };
-
-// The form a scanned folder's path takes in results: absolute, cleaned, with no trailing
-// separator except for "/" itself. Symbolic links are kept, not resolved.
-QString cleanRootPath(const QString& folderPath);
-
-// The name of a folder whose path is in that form: its last component; "/" names itself.
-QString lastPathComponent(const QString& cleanPath);
 
 } // namespace tessarine

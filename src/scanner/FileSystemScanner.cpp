@@ -1,5 +1,6 @@
 #include "scanner/FileSystemScanner.h"
 
+#include "model/PathNames.h"
 #include "scanner/DirectoryWalker.h"
 #include "scanner/ListingAnalysis.h"
 #include "scanner/ScanAggregator.h"
@@ -25,8 +26,11 @@ ScanProgress snapshot(ScanPhase phase, const QDateTime& startTime) {
 
 } // namespace
 
-ScanOutcome FileSystemScanner::scan(const QString& folderPath) {
-    m_cancelled.store(false);
+ScanOutcome FileSystemScanner::scan(const QString& folderPath, CancelToken task) {
+    {
+        std::lock_guard lock(m_mutex);
+        m_task = task;
+    }
     QElapsedTimer clock;
     clock.start();
     const QDateTime startTime = QDateTime::currentDateTimeUtc();
@@ -35,7 +39,7 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath) {
     ScanAggregator aggregator;
     publish(snapshot(ScanPhase::scanning, startTime));
 
-    const DirectoryListing listing = discover(rootPath, startTime);
+    const DirectoryListing listing = discover(rootPath, startTime, task);
     // An empty, unreadable or hidden-only folder, or a cancel before anything was found.
     if (listing.isEmpty())
         return ScanError{ScanError::Kind::cannotAccessDirectory, rootPath};
@@ -43,7 +47,7 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath) {
     ScanProgress first = snapshot(ScanPhase::analyzing, startTime);
     first.estimatedTotalFiles = listing.itemCount();
     publish(first);
-    if (!analyse(listing, aggregator, first)) {
+    if (!analyse(listing, aggregator, first, task)) {
         publishPhase(ScanPhase::cancelled);
         return ScanError{ScanError::Kind::cancelled, QString()};
     }
@@ -58,10 +62,11 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath) {
     return result;
 }
 
-DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDateTime& startTime) {
+DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDateTime& startTime,
+                                             const CancelToken& task) {
     auto lastPublish = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
-    options.cancelled = &m_cancelled;
+    options.cancelled = &task.flag();
     options.progressInterval = discoveryPublishInterval;
     options.onProgress = [&](const WalkProgress& walk) {
         // Before the first folder is listed there is no path to show and nothing counted yet.
@@ -79,8 +84,8 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
 }
 
 bool FileSystemScanner::analyse(const DirectoryListing& listing, ScanAggregator& aggregator,
-                                const ScanProgress& first) {
-    ListingAnalysis analysis(aggregator, m_cancelled, progressUpdateInterval,
+                                const ScanProgress& first, const CancelToken& task) {
+    ListingAnalysis analysis(aggregator, task.flag(), progressUpdateInterval,
                              [&](const QString& itemPath) {
                                  ScanProgress progress = first;
                                  progress.filesScanned = aggregator.fileCount();
@@ -93,7 +98,8 @@ bool FileSystemScanner::analyse(const DirectoryListing& listing, ScanAggregator&
 }
 
 void FileSystemScanner::cancel() {
-    m_cancelled.store(true);
+    std::lock_guard lock(m_mutex);
+    m_task.cancel();
 }
 
 std::optional<ScanProgress> FileSystemScanner::currentProgress() const {

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "model/CancelToken.h"
 #include "model/Records.h"
 #include "model/ScanProgress.h"
 #include "scanner/ScanError.h"
 
 #include <QString>
 
-#include <atomic>
 #include <functional>
 #include <mutex>
 #include <optional>
@@ -33,9 +33,12 @@ public:
     FileSystemScanner& operator=(const FileSystemScanner&) = delete;
 
     // Accepts an absolute or relative path; the result's rootPath is its cleaned absolute form.
-    ScanOutcome scan(const QString& folderPath);
+    // `task` is the cancellation of the caller's task: cancelled at any time, before this call
+    // included, it stops the scan.
+    ScanOutcome scan(const QString& folderPath, CancelToken task = CancelToken());
 
-    // Asks a running scan to stop. A cancel made before scan() starts is forgotten.
+    // Asks a running scan to stop, by cancelling its task. A cancel made before scan() starts is
+    // forgotten: the scanner's own flag is the task of the scan it is running.
     void cancel();
 
     // A copy of the latest published snapshot; none before the scan starts.
@@ -47,18 +50,20 @@ public:
     void setProgressObserver(ProgressObserver observer) { m_observer = std::move(observer); }
 
 private:
-    DirectoryListing discover(const QString& rootPath, const QDateTime& startTime);
+    DirectoryListing discover(const QString& rootPath, const QDateTime& startTime,
+                              const CancelToken& task);
     // False when cancelled. `first` is the opening snapshot of the pass.
     bool analyse(const DirectoryListing& listing, ScanAggregator& aggregator,
-                 const ScanProgress& first);
+                 const ScanProgress& first, const CancelToken& task);
     void publish(ScanProgress progress);
     // Publishes the last snapshot again, in another phase.
     void publishPhase(ScanPhase phase);
 
     mutable std::mutex m_mutex;
     std::optional<ScanProgress> m_progress; // guarded by m_mutex
-    // Polled by the walker threads and once per analysed item: an atomic, not a flag under m_mutex.
-    std::atomic<bool> m_cancelled{false};
+    // The running scan's task, for cancel(); guarded by m_mutex. The walker threads and the
+    // analysis poll the task's own flag, not this member.
+    CancelToken m_task;
     ProgressObserver m_observer;
 };
 

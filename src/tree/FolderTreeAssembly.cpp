@@ -1,6 +1,6 @@
 #include "tree/FolderTreeAssembly.h"
 
-#include "scanner/DirectoryWalker.h"
+#include "model/PathNames.h"
 #include "tree/SubtreeBuilder.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "tree/FolderTreeService.h"
 
 #include "model/Format.h"
-#include "scanner/DirectoryWalker.h"
+#include "model/PathNames.h"
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
@@ -39,23 +39,31 @@ bool FolderTreeService::isCancelled() const {
 }
 
 void FolderTreeService::setCancelled(bool cancelled) {
+    if (cancelled) {
+        std::lock_guard lock(m_taskMutex);
+        m_task.cancel();
+    }
     if (m_cancelled.exchange(cancelled) != cancelled)
         QMetaObject::invokeMethod(this, [this] { emit isCancelledChanged(); });
 }
 
-FolderTreeOutcome FolderTreeService::build(const QString& rootPath) {
+FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken task) {
     using Phase = FolderTreeProgress::Phase;
     setCancelled(false);
+    {
+        std::lock_guard lock(m_taskMutex);
+        m_task = task;
+    }
     setBuilding(true);
     m_startTime = QDateTime::currentDateTimeUtc();
     const QString root = cleanRootPath(rootPath);
     publish(record(Phase::enumerating, 0, 0, root));
 
     const DirectoryListing listing =
-        enumerateFolders(root, m_cancelled, [this](qint64 items, qint64 folders) {
+        enumerateFolders(root, task.flag(), [this](qint64 items, qint64 folders) {
             publish(record(Phase::enumerating, 0, items, foundText(items, folders)));
         });
-    if (m_cancelled.load())
+    if (task.isCancelled())
         return cancelledError();
     const qint64 folderCount = treeFolderCount(listing);
     publish(record(Phase::enumerating, 0, listing.itemCount(),
@@ -63,7 +71,7 @@ FolderTreeOutcome FolderTreeService::build(const QString& rootPath) {
 
     publish(record(Phase::building, folderCount, 0, root));
     FolderTreeAssembly assembly(
-        m_cancelled, folderCount, [&](qint64 processed, const QString& folderName) {
+        task.flag(), folderCount, [&](qint64 processed, const QString& folderName) {
             publish(record(Phase::building, folderCount, processed, folderName));
         });
     std::optional<FolderInfo> tree = assembly.assemble(listing, root);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/CancelToken.h"
 #include "model/Records.h"
 #include "tree/FolderTreeError.h"
 #include "tree/FolderTreeProgress.h"
@@ -11,6 +12,7 @@
 
 #include <atomic>
 #include <functional>
+#include <mutex>
 #include <optional>
 #include <variant>
 
@@ -21,7 +23,8 @@ using FolderTreeOutcome = std::variant<FolderInfo, FolderTreeError>;
 // Builds the per-folder size tree of a scanned folder on demand. build() blocks its (worker)
 // thread; every progress record and the end of isBuilding are delivered on the thread the service
 // lives on (the user-interface thread), through queued calls. isCancelled may be set from any
-// thread while a build runs. One build at a time; the service must outlive a running build.
+// thread while a build runs: it cancels the running build's task. One build at a time; the
+// service must outlive a running build.
 class FolderTreeService : public QObject {
     Q_OBJECT
     // The latest progress record, field by field for the interface; all change together.
@@ -43,8 +46,11 @@ public:
     bool isCancelled() const;
     void setCancelled(bool cancelled);
 
-    // Call from a worker thread (or a test thread other than the service's).
-    FolderTreeOutcome build(const QString& rootPath);
+    // Call from a worker thread (or a test thread other than the service's). `task` is the
+    // cancellation of the caller's task: cancelled at any time, before this call included, it
+    // stops the build. A build resets isCancelled when it starts, so a request made through it
+    // before then is forgotten; the task's is not.
+    FolderTreeOutcome build(const QString& rootPath, CancelToken task = CancelToken());
 
     // Receives every progress record as it is made, before it is handed to the service's thread:
     // a caller can follow the whole sequence instead of sampling it, or act at an exact point of
@@ -80,6 +86,9 @@ private:
     std::optional<FolderTreeProgress> m_progress; // only touched on the service's thread
     bool m_building = false;                      // likewise
     std::atomic<bool> m_cancelled{false};
+    // The running build's task, which setCancelled(true) cancels; the build polls its own copy.
+    CancelToken m_task; // guarded by m_taskMutex
+    std::mutex m_taskMutex;
     QDateTime m_startTime; // of the running build, on its thread
     ProgressObserver m_observer;
 };

@@ -1,6 +1,6 @@
 #include "tree/SubtreeBuilder.h"
 
-#include "scanner/DirectoryWalker.h"
+#include "model/PathNames.h"
 
 #include <QFile>
 

@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <thread>
+
 using namespace tessarine;
 using namespace tessarine::testing;
 
@@ -47,6 +49,7 @@ private slots:
     void publishesEveryHundredAnalysedItems();
     void cancelsDuringAnalysis();
     void forgetsCancelMadeBeforeTheScan();
+    void taskCancelledAsItStartsListsOnlyPart();
     void cancelBeforeAnythingWasFoundMeansNothingToAccess();
     void analysesWhatDiscoveryFoundEvenIfFilesVanish();
 };
@@ -132,6 +135,26 @@ void ScanLifecycleTest::forgetsCancelMadeBeforeTheScan() {
 
     QCOMPARE(std::get<AnalysisResult>(outcome).fileCount, 1);
     QCOMPARE(scanner.currentProgress()->phase, ScanPhase::complete);
+}
+
+// Cancel right after a drop, or a second New Scan: the task is cancelled while its worker is still
+// starting, and must not go on to walk the whole tree.
+void ScanLifecycleTest::taskCancelledAsItStartsListsOnlyPart() {
+    const QTemporaryDir dir = makeFastTemporaryDir();
+    generateTree(dir.path(), 30000, 5u);
+    const qint64 items = qint64(referenceWalk(QFile::encodeName(dir.path())).size());
+    FileSystemScanner scanner;
+    const CancelToken task;
+    std::optional<ScanOutcome> outcome;
+
+    std::thread worker([&] { outcome = scanner.scan(dir.path(), task); });
+    task.cancel();
+    worker.join();
+
+    QVERIFY(std::holds_alternative<ScanError>(*outcome));
+    const ScanProgress last = *scanner.currentProgress();
+    QVERIFY(last.phase == ScanPhase::scanning || last.phase == ScanPhase::cancelled);
+    QVERIFY(last.estimatedTotalFiles.value_or(0) < items);
 }
 
 void ScanLifecycleTest::cancelBeforeAnythingWasFoundMeansNothingToAccess() {

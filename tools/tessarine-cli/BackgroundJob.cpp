@@ -27,8 +27,7 @@ bool runInBackground(const BackgroundJob& job) {
     QTimer poll;
     poll.setInterval(pollMilliseconds);
     QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        // Asked again on every tick: a cancel that lands before the work has really started is
-        // forgotten by the scanner.
+        // Cancelling is idempotent, so there is no need to remember having done it.
         if (interrupt.interrupted())
             job.cancel();
         if (line.isShown())

@@ -17,9 +17,10 @@ const QString csvOption = QStringLiteral("--csv");
 
 ScanOutcome scan(const QString& folder) {
     FileSystemScanner scanner;
+    const CancelToken task;
     return runCancellable<ScanOutcome, ScanProgress>({
-        [&] { return scanner.scan(folder); },
-        [&] { scanner.cancel(); },
+        [&] { return scanner.scan(folder, task); },
+        [&] { task.cancel(); },
         [&] { return scanner.currentProgress(); },
         ScanError{ScanError::Kind::cancelled, {}},
     });

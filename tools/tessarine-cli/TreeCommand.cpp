@@ -4,6 +4,7 @@
 #include "CancellableRun.h"
 
 #include "model/Json.h"
+#include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
 
 #include <QDir>
@@ -15,12 +16,6 @@ namespace tessarine::cli {
 
 namespace {
 
-// The service turns a root it cannot list into an empty tree, which is right for a folder that
-// vanishes under the dashboard but would hide a mistyped path here.
-bool isListableFolder(const QFileInfo& folder) {
-    return folder.isDir() && folder.isReadable() && folder.isExecutable();
-}
-
 // How many levels of folders lie below the root.
 qint64 levelsBelow(const FolderInfo& root) {
     qint64 deepest = root.depth;
@@ -31,9 +26,10 @@ qint64 levelsBelow(const FolderInfo& root) {
 
 FolderTreeOutcome buildTree(const QString& rootPath) {
     FolderTreeService service;
+    const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [&] { return service.build(rootPath); },
-        [&] { service.setCancelled(true); },
+        [&] { return service.build(rootPath, task); },
+        [&] { task.cancel(); },
         [&] { return service.progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
     });
@@ -47,8 +43,8 @@ int runTree(const QStringList& arguments) {
         return *usageStatus;
     const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
     const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
-    if (!isListableFolder(folder))
-        return reportFailure(FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath});
+    if (const auto rootError = unlistableRootError(rootPath))
+        return reportFailure(*rootError);
 
     FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))

@@ -3,6 +3,7 @@
 #include "app/RoleNames.h"
 
 #include "model/Format.h"
+#include "model/PathNames.h"
 #include "screens/scanning/ScanPaths.h"
 
 namespace tessarine {

@@ -1,5 +1,7 @@
 #include "screens/scanning/ScanPaths.h"
 
+#include "model/PathNames.h"
+
 namespace tessarine {
 
 namespace {
@@ -15,12 +17,6 @@ QStringList locationCrumbs(QStringView path) {
     if (crumbs.size() > deepestCrumbCount)
         crumbs.remove(0, crumbs.size() - deepestCrumbCount);
     return crumbs;
-}
-
-QString lastPathComponent(QStringView path) {
-    while (path.endsWith(u'/'))
-        path.chop(1);
-    return path.sliced(path.lastIndexOf(u'/') + 1).toString();
 }
 
 bool looksLikeFolder(QStringView path) {

@@ -12,9 +12,6 @@ namespace tessarine {
 // the path is 7 or more pieces deep, only the last 6, so the row stays one line on narrow windows.
 QStringList locationCrumbs(QStringView path);
 
-// The last non-empty piece of the path ("c" for "/a/b/c" and "/a/b/c/"); empty for "" and "/".
-QString lastPathComponent(QStringView path);
-
 // Whether an activity-log entry for this path shows a folder. The scanner reports files and
 // folders alike, so a trailing "/" or a name without a dot is taken as a folder.
 bool looksLikeFolder(QStringView path);

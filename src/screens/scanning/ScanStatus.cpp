@@ -1,6 +1,7 @@
 #include "screens/scanning/ScanStatus.h"
 
 #include "model/Format.h"
+#include "model/PathNames.h"
 #include "screens/scanning/ScanPaths.h"
 #include "screens/scanning/ScanPhaseDisplay.h"
 #include "screens/scanning/Throughput.h"

@@ -1,0 +1,77 @@
+#pragma once
+
+#include "model/CancelToken.h"
+#include "model/Records.h"
+#include "tree/FolderTreeService.h"
+
+#include <QObject>
+#include <QString>
+#include <QThread>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+namespace tessarine {
+
+// The folder tree of one shown result: builds it on demand with its own FolderTreeService on a
+// worker thread and keeps the finished tree. Destroying it cancels a build under way and waits
+// for the worker, which stops within moments, so a dashboard can hold one per result it shows and
+// let it go at any time.
+class FolderTreeController : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(State state READ state NOTIFY stateChanged)
+    // The running build's progress, for the progress card.
+    Q_PROPERTY(tessarine::FolderTreeService* service READ service CONSTANT)
+    // "Failed to load: " and the build's error after a failure; empty otherwise.
+    Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
+    Q_PROPERTY(bool hasTree READ hasTree NOTIFY treeChanged)
+
+public:
+    enum State { Idle, Building, Ready, Failed };
+    Q_ENUM(State)
+
+    explicit FolderTreeController(QObject* parent = nullptr);
+    ~FolderTreeController() override;
+
+    State state() const { return m_state; }
+    FolderTreeService* service() { return &m_service; }
+    QString errorText() const { return m_errorText; }
+    bool hasTree() const { return m_tree != nullptr; }
+    std::shared_ptr<const FolderInfo> tree() const { return m_tree; }
+
+    // Shows a tree built before, such as the one a stored result carries; a build under way is
+    // called off.
+    void setTree(std::shared_ptr<const FolderInfo> tree);
+
+    // Builds the tree of a scanned folder, replacing a build under way. A root that is not a
+    // folder this process may list fails the build.
+    Q_INVOKABLE void build(const QString& rootPath);
+    // Back to idle at once; the build winds down on its own and its outcome is dropped.
+    Q_INVOKABLE void cancel();
+
+signals:
+    void stateChanged();
+    void errorTextChanged();
+    void treeChanged();
+
+private:
+    using BuildId = quint64;
+
+    void finish(BuildId build, FolderTreeOutcome outcome);
+    // Cancels the running build and waits for its worker: the service serves one build at a time.
+    void stopWorker();
+    void setState(State state);
+    void setErrorText(const QString& text);
+
+    FolderTreeService m_service;
+    State m_state = Idle;
+    QString m_errorText;
+    std::shared_ptr<const FolderInfo> m_tree;
+    // The current build; the outcome of any other is dropped.
+    BuildId m_currentBuild = 0;
+    CancelToken m_currentCancel;
+    std::unique_ptr<QThread> m_worker;
+};
+
+} // namespace tessarine

@@ -1,0 +1,21 @@
+#include "model/PathNames.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace tessarine {
+
+QString cleanRootPath(const QString& folderPath) {
+    return QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath());
+}
+
+QString lastPathComponent(QStringView path) {
+    // The first character is never dropped, so a path of separators only keeps one: the root.
+    while (path.size() > 1 && path.endsWith(u'/'))
+        path.chop(1);
+    if (path == u"/")
+        return path.toString();
+    return path.sliced(path.lastIndexOf(u'/') + 1).toString();
+}
+
+} // namespace tessarine

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+// Names taken from "/"-separated path texts, without touching the disk. One rule everywhere:
+// trailing separators are ignored, and the root "/" names itself.
+namespace tessarine {
+
+// The form a scanned folder's path takes in results: absolute, cleaned, with no trailing
+// separator except for "/" itself. Symbolic links are kept, not resolved. "" stays "".
+QString cleanRootPath(const QString& folderPath);
+
+// The last component: "c" for "/a/b/c" and "/a/b/c/", "notes.md" for "notes.md", "/" for "/"
+// (and "//"), empty for "".
+QString lastPathComponent(QStringView path);
+
+} // namespace tessarine
