@@ -1,0 +1,73 @@
+import QtQuick
+import QtTest
+import Tessarine.Charts
+import Tessarine.Fixtures
+
+TestCase {
+    id: testCase
+
+    name: "TreemapCells"
+    width: 400
+    height: 300
+    when: windowShown
+    // A test case is hidden by default, and hover is only delivered to visible items.
+    visible: true
+
+    Component {
+        id: cellsComponent
+
+        TreemapCells {
+            width: 400
+            height: 300
+            hoverScale: 1.02
+            cells: CellFixtures.grid(20, 15, 20)
+        }
+    }
+
+    SignalSpy {
+        id: clickSpy
+    }
+
+    SignalSpy {
+        id: doubleClickSpy
+    }
+
+    function test_hoverAndClick() {
+        const cells = createTemporaryObject(cellsComponent, testCase)
+        compare(cells.cells.count, 301)
+        // Later cells are on top; outside every cell nothing is hit.
+        compare(cells.cellAt(3, 3), 300)
+        compare(cells.cellAt(15, 15), 0)
+        compare(cells.cellAt(30, 10), 1)
+        compare(cells.cellAt(-1, 10), -1)
+
+        mouseMove(cells, 30, 10)
+        tryCompare(cells, "hoveredIndex", 1)
+        mouseMove(cells, 390, 290)
+        tryCompare(cells, "hoveredIndex", 299)
+        // The hovered cell is drawn in its own style on top; the frame must still render.
+        waitForRendering(cells)
+
+        clickSpy.target = cells
+        clickSpy.signalName = "clicked"
+        doubleClickSpy.target = cells
+        doubleClickSpy.signalName = "doubleClicked"
+        mouseClick(cells, 50, 30)
+        compare(clickSpy.count, 1)
+        compare(clickSpy.signalArguments[0][0], 22)
+        mouseDoubleClickSequence(cells, 3, 3)
+        compare(doubleClickSpy.count, 1)
+        compare(doubleClickSpy.signalArguments[0][0], 300)
+    }
+
+    function test_newCellsForgetTheHover() {
+        const cells = createTemporaryObject(cellsComponent, testCase)
+        mouseMove(cells, 30, 10)
+        tryCompare(cells, "hoveredIndex", 1)
+        cells.cells = CellFixtures.grid(2, 2, 20)
+        compare(cells.hoveredIndex, -1)
+        compare(cells.cellAt(30, 30), 3)
+        compare(cells.cellAt(100, 100), -1)
+        waitForRendering(cells)
+    }
+}
