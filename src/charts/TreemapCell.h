@@ -16,9 +16,11 @@ struct CellBorder {
     bool operator==(const CellBorder&) const = default;
 };
 
-// One cell as TreemapCells draws it, in the item's coordinates, normally and while hovered.
+// One cell as TreemapCells draws it, in the item's coordinates, normally and while hovered: a
+// rounded rectangle filled with fill at opacity, its border drawn inside the same shape.
 struct TreemapCell {
     QRectF rect;
+    qreal radius = 0;
     QColor fill;
     qreal opacity = 1;
     CellBorder border;

@@ -1,12 +1,55 @@
 #include "charts/TreemapCells.h"
 
-#include "charts/TreemapCellsNode.h"
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
 
 namespace tessarine {
 
+namespace {
+
+QColor faded(QColor color, qreal opacity) {
+    color.setAlphaF(static_cast<float>(color.alphaF() * opacity));
+    return color;
+}
+
+// A cell too small to show its corners is filled as a plain rectangle, which is far cheaper.
+bool showsCorners(const QRectF& rect, qreal radius) {
+    return radius > 0 && rect.width() > 2 * radius && rect.height() > 2 * radius;
+}
+
+void paintCell(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill,
+               qreal opacity, const CellBorder& border) {
+    if (rect.isEmpty())
+        return;
+    const bool rounded = showsCorners(rect, radius);
+    painter.setRenderHint(QPainter::Antialiasing, rounded);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(faded(fill, opacity));
+    if (rounded)
+        painter.drawRoundedRect(rect, radius, radius);
+    else
+        painter.drawRect(rect);
+
+    // The border lies inside the shape: a stroke centred half its width in from the edge.
+    const qreal width = std::min({border.width, rect.width() / 2, rect.height() / 2});
+    if (width <= 0)
+        return;
+    const qreal half = width / 2;
+    const QRectF stroke = rect.adjusted(half, half, -half, -half);
+    painter.setPen(QPen(border.color, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    if (rounded)
+        painter.drawRoundedRect(stroke, std::max(radius - half, 0.0), std::max(radius - half, 0.0));
+    else
+        painter.drawRect(stroke);
+}
+
+} // namespace
+
 TreemapCells::TreemapCells(QQuickItem* parent)
-    : QQuickItem(parent) {
-    setFlag(ItemHasContents);
+    : QQuickPaintedItem(parent) {
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
 }
@@ -15,7 +58,6 @@ void TreemapCells::setCells(const TreemapCellList& cells) {
     if (cells == m_cells)
         return;
     m_cells = cells;
-    m_cellsDirty = true;
     // What was under the pointer is another cell now, or none.
     setHoveredIndex(-1);
     update();
@@ -25,9 +67,9 @@ void TreemapCells::setCells(const TreemapCellList& cells) {
 void TreemapCells::setHoverScale(qreal scale) {
     if (qFuzzyCompare(scale, m_hoverScale))
         return;
+    updateHoveredArea();
     m_hoverScale = scale;
-    m_hoverDirty = true;
-    update();
+    updateHoveredArea();
     emit hoverScaleChanged();
 }
 
@@ -42,28 +84,48 @@ int TreemapCells::cellAt(qreal x, qreal y) const {
     return -1;
 }
 
+void TreemapCells::updateHoveredArea() {
+    // An empty area would repaint the whole item.
+    if (m_hoveredIndex < 0 || m_hoveredIndex >= m_cells.count())
+        return;
+    const QRectF rect = m_cells.cells()[m_hoveredIndex].rect;
+    const qreal scale = std::max(m_hoverScale, 1.0);
+    const QSizeF size = rect.size() * scale;
+    // One more pixel for antialiasing.
+    update(QRectF(rect.center() - QPointF(size.width(), size.height()) / 2, size)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1));
+}
+
 void TreemapCells::setHoveredIndex(int index) {
     if (index == m_hoveredIndex)
         return;
+    updateHoveredArea();
     m_hoveredIndex = index;
-    m_hoverDirty = true;
-    update();
+    updateHoveredArea();
     emit hoveredIndexChanged();
 }
 
-QSGNode* TreemapCells::updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData*) {
-    auto* node = static_cast<TreemapCellsNode*>(oldNode);
-    if (!node || m_cellsDirty) {
-        delete node;
-        node = new TreemapCellsNode(window(), m_cells.cells());
-        m_cellsDirty = false;
-        m_hoverDirty = true;
+void TreemapCells::paint(QPainter* painter) {
+    const QList<TreemapCell>& cells = m_cells.cells();
+    // A hover change repaints two small areas; the cells outside them are left as they are.
+    const QRectF area =
+        painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        const TreemapCell& cell = cells[i];
+        if (i != m_hoveredIndex && cell.rect.intersects(area))
+            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
     }
-    if (m_hoverDirty) {
-        node->setHovered(m_cells.cells(), m_hoveredIndex, m_hoverScale);
-        m_hoverDirty = false;
-    }
-    return node;
+    if (m_hoveredIndex < 0 || m_hoveredIndex >= cells.size())
+        return;
+    const TreemapCell& hovered = cells[m_hoveredIndex];
+    painter->save();
+    painter->translate(hovered.rect.center());
+    painter->scale(m_hoverScale, m_hoverScale);
+    painter->translate(-hovered.rect.center());
+    paintCell(*painter, hovered.rect, hovered.radius, hovered.fill, hovered.hoveredOpacity,
+              hovered.hoveredBorder);
+    painter->restore();
 }
 
 void TreemapCells::hoverEnterEvent(QHoverEvent* event) {

@@ -2,7 +2,7 @@
 
 #include "charts/TreemapCell.h"
 
-#include <QQuickItem>
+#include <QQuickPaintedItem>
 
 namespace tessarine {
 
@@ -10,7 +10,12 @@ namespace tessarine {
 // level with many folders costs neither a QML object per cell nor a binding per cell. Later cells
 // are drawn over earlier ones (nested levels after the cells they lie in) and win the hit test.
 // The hovered cell is drawn last, in its hovered style and scaled by hoverScale about its centre.
-class TreemapCells : public QQuickItem {
+//
+// Painted rather than built from scene-graph rectangles: the software renderer took 2.9 s for the
+// first frame of 5,765 plain rectangle nodes and 15 s with their borders, and it draws no custom
+// geometry at all, while painting the same cells with rounded corners takes milliseconds. A hover
+// change repaints only the two cells concerned.
+class TreemapCells : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessarine::TreemapCellList cells READ cells WRITE setCells NOTIFY cellsChanged)
@@ -29,6 +34,8 @@ public:
     // The index of the topmost cell containing (x, y), or -1.
     Q_INVOKABLE int cellAt(qreal x, qreal y) const;
 
+    void paint(QPainter* painter) override;
+
 signals:
     void cellsChanged();
     void hoveredIndexChanged();
@@ -37,7 +44,6 @@ signals:
     void doubleClicked(int index);
 
 protected:
-    QSGNode* updatePaintNode(QSGNode* oldNode, UpdatePaintNodeData* data) override;
     void hoverEnterEvent(QHoverEvent* event) override;
     void hoverMoveEvent(QHoverEvent* event) override;
     void hoverLeaveEvent(QHoverEvent* event) override;
@@ -47,12 +53,12 @@ protected:
 
 private:
     void setHoveredIndex(int index);
+    // Schedules a repaint of what the hovered cell covers, drawn hovered or not.
+    void updateHoveredArea();
 
     TreemapCellList m_cells;
     int m_hoveredIndex = -1;
     qreal m_hoverScale = 1;
-    bool m_cellsDirty = true;
-    bool m_hoverDirty = false;
 };
 
 } // namespace tessarine

@@ -2,6 +2,7 @@
 #include "charts/BarExtent.h"
 #include "charts/CatmullRomCurve.h"
 #include "charts/SlicePicking.h"
+#include "charts/TreemapCellStyle.h"
 
 #include <QTest>
 
@@ -60,6 +61,26 @@ private slots:
     void chartHeights() {
         QCOMPARE(barChartHeight(12, categoryBarPitch), 472.0);
         QCOMPARE(barChartHeight(15, folderBarPitch), 460.0);
+    }
+
+    void cellFramesKeepTheirGap() {
+        CategoryStats images;
+        images.category = FileCategory::images;
+        CategoryStats code;
+        code.category = FileCategory::code;
+        const std::vector<TreeMapRect> rects{{images, QRectF(0, 0, 200, 100)},
+                                             {code, QRectF(200, 0, 1, 100)}};
+        const QList<TreemapCell> cells = categoryTreemapCells(rects, FileCategory::code);
+        QCOMPARE(cells[0].rect, QRectF(1, 1, 198, 98));
+        QCOMPARE(cells[0].border.width, 0.0);
+        // A 1-point sliver is still drawn 1 point wide, on its own centre, and shows the selection.
+        QCOMPARE(cells[1].rect, QRectF(200, 1, 1, 98));
+        QCOMPARE(cells[1].border.color, QColor(Qt::white));
+
+        FolderInfo folder;
+        folder.totalSize = 10;
+        const NestedTreemap treemap = layoutNestedTreemap(folder, QRectF(0, 0, 1.5, 50));
+        QCOMPARE(folderTreemapCells(treemap)[0].rect.width(), 0.0);
     }
 
     void slicePicking_data() {

@@ -20,6 +20,7 @@ public:
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
                 cells.append({QRectF(column * size, row * size, size, size),
+                              4,
                               Qt::blue,
                               0.75,
                               {Qt::black, 1},
@@ -27,7 +28,7 @@ public:
                               {Qt::white, 2}});
             }
         }
-        cells.append({QRectF(2, 2, size / 2, size / 2), Qt::red, 0.85, {}, 0.9, {Qt::white, 2}});
+        cells.append({QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}});
         return TreemapCellList(cells);
     }
 };

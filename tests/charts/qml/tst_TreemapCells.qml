@@ -45,8 +45,13 @@ TestCase {
         tryCompare(cells, "hoveredIndex", 1)
         mouseMove(cells, 390, 290)
         tryCompare(cells, "hoveredIndex", 299)
-        // The hovered cell is drawn in its own style on top; the frame must still render.
+        // The hovered cell is drawn in its own, stronger style; its neighbour keeps the normal one.
         waitForRendering(cells)
+        const image = grabImage(cells)
+        const hovered = image.pixel(390, 290)
+        const normal = image.pixel(370, 290)
+        verify(hovered.b > 0.9 && normal.b > 0.9, "cells are drawn in their fill")
+        verify(hovered.r < normal.r - 0.05, "hovered " + hovered + ", normal " + normal)
 
         clickSpy.target = cells
         clickSpy.signalName = "clicked"
