@@ -119,15 +119,21 @@ void TreemapCells::setHoveredIndex(int index) {
 
 void TreemapCells::paint(QPainter* painter) {
     const QList<TreemapCell>& cells = m_cells.cells();
+    const bool hovering = m_hoveredIndex >= 0 && m_hoveredIndex < cells.size();
+    // The cells after the hovered one that lie inside it are its nested levels: they come to the
+    // front and grow with it.
+    const auto movesWithHovered = [&](qsizetype i) {
+        return hovering && i > m_hoveredIndex && cells[m_hoveredIndex].rect.contains(cells[i].rect);
+    };
     // A hover change repaints two small areas; the cells outside them are left as they are.
     const QRectF area =
         painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
     for (qsizetype i = 0; i < cells.size(); ++i) {
         const TreemapCell& cell = cells[i];
-        if (i != m_hoveredIndex && cell.rect.intersects(area))
+        if (i != m_hoveredIndex && cell.rect.intersects(area) && !movesWithHovered(i))
             paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
     }
-    if (m_hoveredIndex < 0 || m_hoveredIndex >= cells.size())
+    if (!hovering)
         return;
     const TreemapCell& hovered = cells[m_hoveredIndex];
     painter->save();
@@ -136,6 +142,11 @@ void TreemapCells::paint(QPainter* painter) {
     painter->translate(-hovered.rect.center());
     paintCell(*painter, hovered.rect, hovered.radius, hovered.fill, hovered.hoveredOpacity,
               hovered.hoveredBorder);
+    for (qsizetype i = m_hoveredIndex + 1; i < cells.size(); ++i) {
+        const TreemapCell& cell = cells[i];
+        if (movesWithHovered(i))
+            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
+    }
     painter->restore();
 }
 

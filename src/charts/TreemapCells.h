@@ -9,7 +9,8 @@ namespace tessarine {
 // Draws thousands of treemap cells in one item and finds the cell under the pointer in C++, so a
 // level with many folders costs neither a QML object per cell nor a binding per cell. Later cells
 // are drawn over earlier ones (nested levels after the cells they lie in) and win the hit test.
-// The hovered cell is drawn last, in its hovered style and scaled by hoverScale about its centre.
+// The hovered cell is drawn last, in its hovered style and scaled by hoverScale about its centre,
+// together with the later cells inside it (its nested levels).
 //
 // Painted rather than built from scene-graph rectangles: the software renderer took 2.9 s for the
 // first frame of 5,765 plain rectangle nodes and 15 s with their borders, and it draws no custom

@@ -52,6 +52,12 @@ TestCase {
         const normal = image.pixel(370, 290)
         verify(hovered.b > 0.9 && normal.b > 0.9, "cells are drawn in their fill")
         verify(hovered.r < normal.r - 0.05, "hovered " + hovered + ", normal " + normal)
+        // A hovered cell keeps the later cells inside it (a nested level) in front of it.
+        mouseMove(cells, 15, 15)
+        tryCompare(cells, "hoveredIndex", 0)
+        waitForRendering(cells)
+        const nested = grabImage(cells).pixel(6, 6)
+        verify(nested.r > nested.b, "nested cell " + nested)
 
         clickSpy.target = cells
         clickSpy.signalName = "clicked"
