@@ -12,6 +12,7 @@ runs=${RUNS:-5}
 cli=$build/tools/tessarine-cli
 generator=$build/bench/generate-tree
 responsiveness=$build/bench/responsiveness/tessarine-responsiveness
+treemap=$build/bench/treemap/tessarine-treemap-bench
 cache=/var/tmp/tessarine-bench
 tree=$cache/tree
 work=$(mktemp -d)
@@ -133,4 +134,10 @@ if [[ -x $responsiveness ]]; then
     echo
     echo "Responsiveness of the desktop app while it scans:"
     "$responsiveness" "$tree"
+fi
+
+if [[ -x $treemap ]]; then
+    echo
+    echo "Drawing a folder treemap level of 5,000 folders (software renderer, offscreen):"
+    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$treemap"
 fi

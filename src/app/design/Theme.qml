@@ -1,34 +1,36 @@
 pragma Singleton
 import QtQuick
+import Tessarine.App
 
 // The one palette, type scale and set of measures that every screen shares, so that a card, a
-// caption or a fade looks and moves the same wherever it appears. Colours are the light-mode
-// values of the system palette the application was designed against.
+// caption or a fade looks and moves the same wherever it appears. Named colours come from
+// Palette; the surfaces here are light-mode values.
 QtObject {
     id: theme
 
-    // Named colours.
-    readonly property color blue: "#007AFF"
-    readonly property color green: "#28CD41"
-    readonly property color teal: "#59ADC4"
-    readonly property color orange: "#FF9500"
-    readonly property color pink: "#FF2D55"
-    readonly property color purple: "#AF52DE"
-    readonly property color red: "#FF3B30"
-    readonly property color yellow: "#FFCC00"
-    readonly property color brown: "#A2845E"
-    readonly property color indigo: "#5856D6"
-    readonly property color mint: "#00C7BE"
-    readonly property color cyan: "#55BEF0"
-    readonly property color gray: "#8E8E93"
-    readonly property color accent: blue
+    // Named colours, from the palette that C++ drawing reads too.
+    readonly property color blue: Palette.named("blue")
+    readonly property color green: Palette.named("green")
+    readonly property color teal: Palette.named("teal")
+    readonly property color orange: Palette.named("orange")
+    readonly property color pink: Palette.named("pink")
+    readonly property color purple: Palette.named("purple")
+    readonly property color red: Palette.named("red")
+    readonly property color yellow: Palette.named("yellow")
+    readonly property color brown: Palette.named("brown")
+    readonly property color indigo: Palette.named("indigo")
+    readonly property color mint: Palette.named("mint")
+    readonly property color cyan: Palette.named("cyan")
+    readonly property color gray: Palette.named("gray")
+    readonly property color accent: Palette.named("accent")
 
-    // Semantic colours: label tiers are black at falling opacities so that they read on any
-    // light surface, tinted or not.
-    readonly property color primary: Qt.rgba(0, 0, 0, 0.85)
-    readonly property color secondary: Qt.rgba(0, 0, 0, 0.5)
-    readonly property color tertiary: Qt.rgba(0, 0, 0, 0.26)
-    readonly property color quaternary: Qt.rgba(0, 0, 0, 0.1)
+    // Label tiers.
+    readonly property color primary: Palette.named("primary")
+    readonly property color secondary: Palette.named("secondary")
+    readonly property color tertiary: Palette.named("tertiary")
+    readonly property color quaternary: Palette.named("quaternary")
+
+    // Surfaces.
     readonly property color windowBackground: "#ECECEC"
     readonly property color controlBackground: "#FFFFFF"
     readonly property color textBackground: "#FFFFFF"
@@ -41,16 +43,10 @@ QtObject {
     readonly property color contentBackground: "#F5F5F7"
     readonly property color labelOnAccent: "#FFFFFF"
 
-    // A colour by its name: the named and semantic colours above, so that data carrying a colour
-    // name (a category, a folder colour) can be painted. Unknown names give the secondary colour.
+    // A colour by its name, so that data carrying a colour name (a category, a folder colour) can
+    // be painted. Unknown names give the secondary colour.
     function named(name) {
-        const known = {
-            "blue": blue, "green": green, "teal": teal, "orange": orange, "pink": pink,
-            "purple": purple, "red": red, "yellow": yellow, "brown": brown, "indigo": indigo,
-            "mint": mint, "cyan": cyan, "gray": gray, "accent": accent, "primary": primary,
-            "secondary": secondary, "tertiary": tertiary, "quaternary": quaternary
-        }
-        return known[name] !== undefined ? known[name] : secondary
+        return Palette.named(name)
     }
 
     // The colour with its opacity multiplied, so that "secondary at 30%" stays fainter than

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QList>
+#include <QObject>
+#include <QRectF>
+#include <QtQml/qqmlregistration.h>
+
+namespace tessarine {
+
+// A border drawn inside a cell's edge.
+struct CellBorder {
+    QColor color;
+    qreal width = 0;
+
+    bool operator==(const CellBorder&) const = default;
+};
+
+// One cell as TreemapCells draws it, in the item's coordinates, normally and while hovered: a
+// rounded rectangle filled with fill at opacity, its border drawn inside the same shape.
+struct TreemapCell {
+    QRectF rect;
+    qreal radius = 0;
+    QColor fill;
+    qreal opacity = 1;
+    CellBorder border;
+    qreal hoveredOpacity = 1;
+    CellBorder hoveredBorder;
+
+    bool operator==(const TreemapCell&) const = default;
+};
+
+// The cells of one treemap, handed from the C++ that lays them out to a TreemapCells item
+// through QML without a QML object per cell.
+class TreemapCellList {
+    Q_GADGET
+    QML_VALUE_TYPE(treemapCellList)
+    Q_PROPERTY(int count READ count)
+
+public:
+    TreemapCellList() = default;
+    explicit TreemapCellList(QList<TreemapCell> cells)
+        : m_cells(std::move(cells)) {}
+
+    const QList<TreemapCell>& cells() const { return m_cells; }
+    int count() const { return static_cast<int>(m_cells.size()); }
+
+    bool operator==(const TreemapCellList&) const = default;
+
+private:
+    QList<TreemapCell> m_cells;
+};
+
+} // namespace tessarine

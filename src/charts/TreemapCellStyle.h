@@ -1,0 +1,23 @@
+#pragma once
+
+#include "charts/CategoryTreemapLayout.h"
+#include "charts/NestedTreemap.h"
+#include "charts/TreemapCell.h"
+
+#include <optional>
+#include <vector>
+
+namespace tessarine {
+
+// The category treemap's cells: each in its category's colour, 1 point inside its laid-out
+// rectangle so neighbours stay apart, brighter when hovered, and outlined in white when it is
+// the selected category.
+QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects,
+                                        std::optional<FileCategory> selected);
+
+// The folder treemap's cells, outer levels first: each in its palette colour, 1 point inside its
+// laid-out rectangle, with a faint dark outline that turns white and thicker when hovered. A cell
+// showing its contents stays evenly tinted so the nested level reads on top of it.
+QList<TreemapCell> folderTreemapCells(const NestedTreemap& treemap);
+
+} // namespace tessarine

@@ -1,0 +1,183 @@
+#include "charts/TreemapCells.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace tessarine {
+
+namespace {
+
+QColor faded(QColor color, qreal opacity) {
+    color.setAlphaF(static_cast<float>(color.alphaF() * opacity));
+    return color;
+}
+
+// A cell too small to show its corners is filled as a plain rectangle, which is far cheaper.
+bool showsCorners(const QRectF& rect, qreal radius) {
+    return radius > 0 && rect.width() > 2 * radius && rect.height() > 2 * radius;
+}
+
+// Most cells of a large level are a few pixels wide: those are filled as plain rectangles, edges
+// included, which the raster engine does several times faster than stroking them.
+void paintSquareCell(QPainter& painter, const QRectF& rect, const QColor& fill, qreal width,
+                     const QColor& borderColor) {
+    painter.fillRect(rect, fill);
+    if (width <= 0)
+        return;
+    painter.fillRect(QRectF(rect.x(), rect.y(), rect.width(), width), borderColor);
+    painter.fillRect(QRectF(rect.x(), rect.bottom() - width, rect.width(), width), borderColor);
+    const qreal side = rect.height() - 2 * width;
+    painter.fillRect(QRectF(rect.x(), rect.y() + width, width, side), borderColor);
+    painter.fillRect(QRectF(rect.right() - width, rect.y() + width, width, side), borderColor);
+}
+
+void paintCell(QPainter& painter, const QRectF& rect, qreal radius, const QColor& fill,
+               qreal opacity, const CellBorder& border) {
+    if (rect.isEmpty())
+        return;
+    // The border lies inside the shape, never wider than half the cell.
+    const qreal width = std::min({border.width, rect.width() / 2, rect.height() / 2});
+    if (!showsCorners(rect, radius)) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        paintSquareCell(painter, rect, faded(fill, opacity), width, border.color);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(faded(fill, opacity));
+    painter.drawRoundedRect(rect, radius, radius);
+    if (width <= 0)
+        return;
+    // A stroke is centred on its line, so the line runs half the width in from the edge.
+    const qreal half = width / 2;
+    painter.setPen(QPen(border.color, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), radius - half, radius - half);
+}
+
+} // namespace
+
+TreemapCells::TreemapCells(QQuickItem* parent)
+    : QQuickPaintedItem(parent) {
+    setAcceptHoverEvents(true);
+    setAcceptedMouseButtons(Qt::LeftButton);
+}
+
+void TreemapCells::setCells(const TreemapCellList& cells) {
+    if (cells == m_cells)
+        return;
+    m_cells = cells;
+    // What was under the pointer is another cell now, or none.
+    setHoveredIndex(-1);
+    update();
+    emit cellsChanged();
+}
+
+void TreemapCells::setHoverScale(qreal scale) {
+    if (qFuzzyCompare(scale, m_hoverScale))
+        return;
+    updateHoveredArea();
+    m_hoverScale = scale;
+    updateHoveredArea();
+    emit hoverScaleChanged();
+}
+
+int TreemapCells::cellAt(qreal x, qreal y) const {
+    const QList<TreemapCell>& cells = m_cells.cells();
+    for (qsizetype i = cells.size() - 1; i >= 0; --i) {
+        const QRectF& rect = cells[i].rect;
+        // Half-open like the layout's slices, so a point on a shared edge belongs to one cell.
+        if (x >= rect.left() && x < rect.right() && y >= rect.top() && y < rect.bottom())
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+void TreemapCells::updateHoveredArea() {
+    // An empty area would repaint the whole item.
+    if (m_hoveredIndex < 0 || m_hoveredIndex >= m_cells.count())
+        return;
+    const QRectF rect = m_cells.cells()[m_hoveredIndex].rect;
+    const qreal scale = std::max(m_hoverScale, 1.0);
+    const QSizeF size = rect.size() * scale;
+    // One more pixel for antialiasing.
+    update(QRectF(rect.center() - QPointF(size.width(), size.height()) / 2, size)
+               .toAlignedRect()
+               .adjusted(-1, -1, 1, 1));
+}
+
+void TreemapCells::setHoveredIndex(int index) {
+    if (index == m_hoveredIndex)
+        return;
+    updateHoveredArea();
+    m_hoveredIndex = index;
+    updateHoveredArea();
+    emit hoveredIndexChanged();
+}
+
+void TreemapCells::paint(QPainter* painter) {
+    const QList<TreemapCell>& cells = m_cells.cells();
+    const bool hovering = m_hoveredIndex >= 0 && m_hoveredIndex < cells.size();
+    // The cells after the hovered one that lie inside it are its nested levels: they come to the
+    // front and grow with it.
+    const auto movesWithHovered = [&](qsizetype i) {
+        return hovering && i > m_hoveredIndex && cells[m_hoveredIndex].rect.contains(cells[i].rect);
+    };
+    // A hover change repaints two small areas; the cells outside them are left as they are.
+    const QRectF area =
+        painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        const TreemapCell& cell = cells[i];
+        if (i != m_hoveredIndex && cell.rect.intersects(area) && !movesWithHovered(i))
+            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
+    }
+    if (!hovering)
+        return;
+    const TreemapCell& hovered = cells[m_hoveredIndex];
+    painter->save();
+    painter->translate(hovered.rect.center());
+    painter->scale(m_hoverScale, m_hoverScale);
+    painter->translate(-hovered.rect.center());
+    paintCell(*painter, hovered.rect, hovered.radius, hovered.fill, hovered.hoveredOpacity,
+              hovered.hoveredBorder);
+    for (qsizetype i = m_hoveredIndex + 1; i < cells.size(); ++i) {
+        const TreemapCell& cell = cells[i];
+        if (movesWithHovered(i))
+            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
+    }
+    painter->restore();
+}
+
+void TreemapCells::hoverEnterEvent(QHoverEvent* event) {
+    setHoveredIndex(cellAt(event->position().x(), event->position().y()));
+}
+
+void TreemapCells::hoverMoveEvent(QHoverEvent* event) {
+    setHoveredIndex(cellAt(event->position().x(), event->position().y()));
+}
+
+void TreemapCells::hoverLeaveEvent(QHoverEvent*) {
+    setHoveredIndex(-1);
+}
+
+void TreemapCells::mousePressEvent(QMouseEvent* event) {
+    // Taken only over a cell, so a click on the empty rest reaches what lies below.
+    event->setAccepted(cellAt(event->position().x(), event->position().y()) >= 0);
+}
+
+void TreemapCells::mouseReleaseEvent(QMouseEvent* event) {
+    const int index = cellAt(event->position().x(), event->position().y());
+    if (index >= 0)
+        emit clicked(index);
+}
+
+void TreemapCells::mouseDoubleClickEvent(QMouseEvent* event) {
+    const int index = cellAt(event->position().x(), event->position().y());
+    event->setAccepted(index >= 0);
+    if (index >= 0)
+        emit doubleClicked(index);
+}
+
+} // namespace tessarine

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "charts/TreemapCell.h"
+
+#include <QQuickPaintedItem>
+
+namespace tessarine {
+
+// Draws thousands of treemap cells in one item and finds the cell under the pointer in C++, so a
+// level with many folders costs neither a QML object per cell nor a binding per cell. Later cells
+// are drawn over earlier ones (nested levels after the cells they lie in) and win the hit test.
+// The hovered cell is drawn last, in its hovered style and scaled by hoverScale about its centre,
+// together with the later cells inside it (its nested levels).
+//
+// Painted rather than built from scene-graph rectangles: the software renderer took 2.9 s for the
+// first frame of 5,765 plain rectangle nodes and 15 s with their borders, and it draws no custom
+// geometry at all, while painting the same cells with rounded corners takes milliseconds. A hover
+// change repaints only the two cells concerned.
+class TreemapCells : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(tessarine::TreemapCellList cells READ cells WRITE setCells NOTIFY cellsChanged)
+    Q_PROPERTY(int hoveredIndex READ hoveredIndex NOTIFY hoveredIndexChanged)
+    Q_PROPERTY(qreal hoverScale READ hoverScale WRITE setHoverScale NOTIFY hoverScaleChanged)
+
+public:
+    explicit TreemapCells(QQuickItem* parent = nullptr);
+
+    const TreemapCellList& cells() const { return m_cells; }
+    void setCells(const TreemapCellList& cells);
+    int hoveredIndex() const { return m_hoveredIndex; }
+    qreal hoverScale() const { return m_hoverScale; }
+    void setHoverScale(qreal scale);
+
+    // The index of the topmost cell containing (x, y), or -1.
+    Q_INVOKABLE int cellAt(qreal x, qreal y) const;
+
+    void paint(QPainter* painter) override;
+
+signals:
+    void cellsChanged();
+    void hoveredIndexChanged();
+    void hoverScaleChanged();
+    void clicked(int index);
+    void doubleClicked(int index);
+
+protected:
+    void hoverEnterEvent(QHoverEvent* event) override;
+    void hoverMoveEvent(QHoverEvent* event) override;
+    void hoverLeaveEvent(QHoverEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    void setHoveredIndex(int index);
+    // Schedules a repaint of what the hovered cell covers, drawn hovered or not.
+    void updateHoveredArea();
+
+    TreemapCellList m_cells;
+    int m_hoveredIndex = -1;
+    qreal m_hoverScale = 1;
+};
+
+} // namespace tessarine

@@ -1,0 +1,51 @@
+#include "charts/TreemapCell.h"
+
+#include <QQmlEngine>
+#include <QtQml/qqmlextensionplugin.h>
+#include <QtQuickTest>
+
+Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
+
+using namespace tessarine;
+
+// Hands the QML tests cells the way the charts' C++ will: as one list value.
+class CellFixtures : public QObject {
+    Q_OBJECT
+
+public:
+    // A grid of columns x rows square cells of size points, each bordered, with one more cell
+    // over the first, which then wins its hit test.
+    Q_INVOKABLE tessarine::TreemapCellList grid(int columns, int rows, qreal size) const {
+        QList<TreemapCell> cells;
+        for (int row = 0; row < rows; ++row) {
+            for (int column = 0; column < columns; ++column) {
+                cells.append({QRectF(column * size, row * size, size, size),
+                              4,
+                              Qt::blue,
+                              0.75,
+                              {Qt::black, 1},
+                              0.9,
+                              {Qt::white, 2}});
+            }
+        }
+        cells.append({QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}});
+        return TreemapCellList(cells);
+    }
+};
+
+class TreemapCellsSetup : public QObject {
+    Q_OBJECT
+
+public slots:
+    void qmlEngineAvailable(QQmlEngine* engine) {
+        engine->addImportPath(QStringLiteral(":/"));
+        qmlRegisterSingletonInstance("Tessarine.Fixtures", 1, 0, "CellFixtures", &m_fixtures);
+    }
+
+private:
+    CellFixtures m_fixtures;
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(TreemapCellsTest, TreemapCellsSetup)
+
+#include "TreemapCellsTest.moc"

@@ -1,0 +1,78 @@
+import QtQuick
+import QtTest
+import Tessarine.Charts
+import Tessarine.Fixtures
+
+TestCase {
+    id: testCase
+
+    name: "TreemapCells"
+    width: 400
+    height: 300
+    when: windowShown
+    // A test case is hidden by default, and hover is only delivered to visible items.
+    visible: true
+
+    Component {
+        id: cellsComponent
+
+        TreemapCells {
+            width: 400
+            height: 300
+            hoverScale: 1.02
+            cells: CellFixtures.grid(20, 15, 20)
+        }
+    }
+
+    SignalSpy {
+        id: clickSpy
+    }
+
+    SignalSpy {
+        id: doubleClickSpy
+    }
+
+    function test_hoverAndClick() {
+        const cells = createTemporaryObject(cellsComponent, testCase)
+        compare(cells.cells.count, 301)
+        // Later cells are on top; outside every cell nothing is hit.
+        compare(cells.cellAt(3, 3), 300)
+        compare(cells.cellAt(15, 15), 0)
+        compare(cells.cellAt(30, 10), 1)
+        compare(cells.cellAt(-1, 10), -1)
+
+        mouseMove(cells, 30, 10)
+        tryCompare(cells, "hoveredIndex", 1)
+        mouseMove(cells, 390, 290)
+        tryCompare(cells, "hoveredIndex", 299)
+        // The hovered cell is drawn in its own, stronger style; its neighbour keeps the normal one.
+        waitForRendering(cells)
+        const image = grabImage(cells)
+        const hovered = image.pixel(390, 290)
+        const normal = image.pixel(370, 290)
+        verify(hovered.b > 0.9 && normal.b > 0.9, "cells are drawn in their fill")
+        verify(hovered.r < normal.r - 0.05, "hovered " + hovered + ", normal " + normal)
+        // A hovered cell keeps the later cells inside it (a nested level) in front of it.
+        mouseMove(cells, 15, 15)
+        tryCompare(cells, "hoveredIndex", 0)
+        waitForRendering(cells)
+        const nested = grabImage(cells).pixel(6, 6)
+        verify(nested.r > nested.b, "nested cell " + nested)
+
+        clickSpy.target = cells
+        clickSpy.signalName = "clicked"
+        doubleClickSpy.target = cells
+        doubleClickSpy.signalName = "doubleClicked"
+        mouseClick(cells, 50, 30)
+        compare(clickSpy.count, 1)
+        compare(clickSpy.signalArguments[0][0], 22)
+        mouseDoubleClickSequence(cells, 3, 3)
+        compare(doubleClickSpy.count, 1)
+        compare(doubleClickSpy.signalArguments[0][0], 300)
+
+        // New cells forget the hovered one, which would now be another cell.
+        cells.cells = CellFixtures.grid(2, 2, 20)
+        compare(cells.hoveredIndex, -1)
+        compare(cells.cellAt(100, 100), -1)
+    }
+}
