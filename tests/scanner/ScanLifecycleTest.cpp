@@ -1,5 +1,6 @@
+#include "FileTrees.h"
 #include "RecordedScan.h"
-#include "TestTrees.h"
+#include "ReferenceWalk.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,15 +11,6 @@ using namespace tessarine;
 using namespace tessarine::testing;
 
 namespace {
-
-// 50 folders of 4 files each: 250 items, folders and files interleaved in listing order.
-void makeTreeOf250(const QString& root) {
-    for (int folder = 0; folder < 50; ++folder) {
-        for (int file = 0; file < 4; ++file)
-            writeFile(QStringLiteral("%1/d%2/f%3.dat").arg(root).arg(folder).arg(file),
-                      folder * 4 + file);
-    }
-}
 
 // The progress a sequential walk shows once it has analysed `count` items.
 ScanProgress expectedAfter(const std::vector<WalkedItem>& walk, qsizetype count) {
@@ -46,14 +38,13 @@ class ScanLifecycleTest : public QObject {
 private slots:
     void publishesEveryHundredAnalysedItems();
     void cancelsDuringAnalysis();
-    void forgetsCancelMadeBeforeTheScan();
     void cancelBeforeAnythingWasFoundMeansNothingToAccess();
     void analysesWhatDiscoveryFoundEvenIfFilesVanish();
 };
 
 void ScanLifecycleTest::publishesEveryHundredAnalysedItems() {
     QTemporaryDir dir;
-    makeTreeOf250(dir.path());
+    writeFolders(dir.path(), 50, 4); // 250 items, folders and files interleaved
     const std::vector<WalkedItem> walk = referenceWalk(QFile::encodeName(dir.path()));
     QCOMPARE(walk.size(), 250u);
 
@@ -101,7 +92,7 @@ void ScanLifecycleTest::publishesEveryHundredAnalysedItems() {
 
 void ScanLifecycleTest::cancelsDuringAnalysis() {
     QTemporaryDir dir;
-    makeTreeOf250(dir.path());
+    writeFolders(dir.path(), 50, 4);
 
     const RecordedScan scan =
         recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
@@ -121,22 +112,9 @@ void ScanLifecycleTest::cancelsDuringAnalysis() {
     QCOMPARE(scan.snapshots.back(), expected);
 }
 
-void ScanLifecycleTest::forgetsCancelMadeBeforeTheScan() {
-    QTemporaryDir dir;
-    writeFile(dir.path() + "/a.txt", 3);
-    FileSystemScanner scanner;
-    QVERIFY(!scanner.currentProgress());
-    scanner.cancel();
-
-    const ScanOutcome outcome = scanner.scan(dir.path());
-
-    QCOMPARE(std::get<AnalysisResult>(outcome).fileCount, 1);
-    QCOMPARE(scanner.currentProgress()->phase, ScanPhase::complete);
-}
-
 void ScanLifecycleTest::cancelBeforeAnythingWasFoundMeansNothingToAccess() {
     QTemporaryDir dir;
-    makeTreeOf250(dir.path());
+    writeFolders(dir.path(), 50, 4);
 
     const RecordedScan scan =
         recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
@@ -153,7 +131,7 @@ void ScanLifecycleTest::cancelBeforeAnythingWasFoundMeansNothingToAccess() {
 // files deleted in between neither disturb it nor change its figures.
 void ScanLifecycleTest::analysesWhatDiscoveryFoundEvenIfFilesVanish() {
     QTemporaryDir dir;
-    makeTreeOf250(dir.path());
+    writeFolders(dir.path(), 50, 4);
     const AnalysisResult undisturbed = recordScan(dir.path()).result();
 
     bool removed = false;
@@ -162,12 +140,12 @@ void ScanLifecycleTest::analysesWhatDiscoveryFoundEvenIfFilesVanish() {
         if (progress.phase == ScanPhase::analyzing && progress.estimatedTotalFiles && !removed) {
             removed = true;
             for (int folder = 0; folder < 50; folder += 2)
-                QDir(QStringLiteral("%1/d%2").arg(dir.path()).arg(folder)).removeRecursively();
+                QDir(QStringLiteral("%1/folder%2").arg(dir.path()).arg(folder)).removeRecursively();
         }
     });
 
     QVERIFY(removed);
-    QVERIFY(!QFile::exists(dir.path() + "/d0/f0.dat"));
+    QVERIFY(!QFile::exists(dir.path() + "/folder0/file0"));
     QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(undisturbed));
 }
 

@@ -1,7 +1,9 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
+#include "SampleResults.h"
 
 #include "model/Json.h"
+#include "storage/PersistenceService.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,7 +14,7 @@
 #include <QTest>
 
 using namespace tessarine;
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 class CliHistoryTest : public QObject {
     Q_OBJECT
@@ -69,43 +71,40 @@ void CliHistoryTest::emptyHistory() {
 }
 
 void CliHistoryTest::savedScansAreListedNewestFirst() {
-    const auto older = saveScanOf("older");
-    QVERIFY(older);
-    // Stored dates have whole seconds; the later scan must be later even at that precision.
-    QTest::qWait(1100);
-    const auto newer = saveScanOf("newer folder");
-    QVERIFY(newer);
-
-    QFile stored(historyDirectory() + "/scan_" + idText(*older) + ".json");
-    QVERIFY(stored.open(QIODevice::ReadOnly));
-    QCOMPARE(stored.readAll(), json::encode(*older));
+    const auto scanned = saveScanOf("scanned");
+    QVERIFY(scanned);
+    QCOMPARE(readBytes(historyDirectory() + "/scan_" + idText(*scanned) + ".json"),
+             json::encode(*scanned));
+    // Stored dates have whole seconds: the others are set an hour either side of the scan.
+    PersistenceService store(QFileInfo(historyDirectory()).path());
+    AnalysisResult newer = sampleResult(scanned->scanDate.addSecs(3600));
+    AnalysisResult older = sampleResult(scanned->scanDate.addSecs(-3600));
+    newer.rootPath = QStringLiteral("/newer");
+    older.rootPath = QStringLiteral("/older");
+    QVERIFY(!store.save(older) && !store.save(newer));
 
     const CliRun table = runCli({"history"});
     QCOMPARE(table.exitCode, 0);
     const QStringList lines = QString::fromUtf8(table.output).split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines.size(), 4);
     QVERIFY(lines[0].startsWith("Date"));
-    QVERIFY(lines[1].contains(newer->rootPath) && lines[1].endsWith(idText(*newer)));
-    QVERIFY(lines[2].contains(older->rootPath) && lines[2].endsWith(idText(*older)));
-    // Aligned: every column starts at the same place on every line.
-    const qsizetype idColumn = lines[0].indexOf("ID");
-    QCOMPARE(lines[1].indexOf(idText(*newer)), idColumn);
-    QCOMPARE(lines[2].indexOf(idText(*older)), idColumn);
-    QCOMPARE(lines[1].indexOf(newer->rootPath), lines[0].indexOf("Folder"));
+    const std::pair<int, const AnalysisResult*> rows[] = {{1, &newer}, {2, &*scanned}, {3, &older}};
+    for (const auto& [line, result] : rows)
+        QVERIFY(lines[line].contains(result->rootPath) && lines[line].endsWith(idText(*result)));
 
     const CliRun json = runCli({"history", "--json"});
     QCOMPARE(json.exitCode, 0);
     const auto all = jsonArray(json.output);
     QVERIFY(all);
-    QCOMPARE(all->size(), 2);
-    QCOMPARE(all->at(0).toObject()["id"].toString(), idText(*newer));
-    QCOMPARE(all->at(1).toObject()["rootPath"].toString(), older->rootPath);
+    QCOMPARE(all->size(), 3);
+    QCOMPARE(all->at(0).toObject()["id"].toString(), idText(newer));
+    QCOMPARE(all->at(1).toObject()["rootPath"].toString(), scanned->rootPath);
 
     // --csv changes what is printed, not what is saved.
-    const CliRun csv = runCli({"scan", "--save", "--csv", older->rootPath});
+    const CliRun csv = runCli({"scan", "--save", "--csv", scanned->rootPath});
     QCOMPARE(csv.exitCode, 0);
     QVERIFY(csv.output.startsWith("Path,Name,"));
-    QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 3);
+    QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 4);
 }
 
 void CliHistoryTest::deleteRemovesOneScan() {

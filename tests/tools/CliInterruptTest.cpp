@@ -1,10 +1,10 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 // Ctrl-C during the long-running commands: a clean stop with the cancellation's own text and the
 // status a shell gives an interrupted job.
@@ -21,7 +21,7 @@ private:
 };
 
 void CliInterruptTest::initTestCase() {
-    writeManyFiles(m_folder.path(), 200, 50);
+    writeFolders(m_folder.path(), 100, 20);
 }
 
 void CliInterruptTest::ctrlCCancels_data() {
@@ -38,7 +38,7 @@ void CliInterruptTest::ctrlCCancels() {
     QFETCH(QString, message);
     const auto run = runCliInterrupted({command, m_folder.path()});
     if (!run)
-        QSKIP("the command finished before Ctrl-C could reach it");
+        QSKIP("the command ended before it caught Ctrl-C");
     QCOMPARE(run->exitCode, 130);
     QCOMPARE(run->errorText(), message);
     QCOMPARE(run->output, QByteArray());

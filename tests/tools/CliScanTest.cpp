@@ -1,5 +1,5 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
 
 #include "model/Json.h"
 
@@ -9,7 +9,7 @@
 #include <QTest>
 
 using namespace tessarine;
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 class CliScanTest : public QObject {
     Q_OBJECT

@@ -5,7 +5,6 @@
 #include "ProgressText.h"
 
 #include "model/ScanProgress.h"
-#include "tree/FolderTreeProgress.h"
 
 #include <QLocale>
 #include <QTest>
@@ -19,7 +18,6 @@ class CliTextsTest : public QObject {
 private slots:
     void initTestCase();
     void scanLineShowsWhatIsKnown();
-    void treeLine();
     void linesFitTheTerminal();
     void historyTableIsAlignedAndSafe();
 
@@ -48,21 +46,6 @@ void CliTextsTest::scanLineShowsWhatIsKnown() {
     analysis.bytesScanned = 1'500'000;
     QCOMPARE(text.describe(analysis, m_start.addSecs(5)),
              "Analyzing files...  5,000 / 10,000 items  1.5 MB  2,500 items/s  5s remaining");
-}
-
-void CliTextsTest::treeLine() {
-    ProgressText<FolderTreeProgress> text;
-    FolderTreeProgress enumerating{FolderTreeProgress::Phase::enumerating, 0, 100, "/x", m_start};
-    text.describe(enumerating, m_start);
-    enumerating.processedItems = 1100;
-    QCOMPARE(text.describe(enumerating, m_start.addSecs(1)),
-             "Scanning folders...  1,100 items found  1,000 items/s");
-
-    FolderTreeProgress building{FolderTreeProgress::Phase::building, 1200, 0, "a", m_start};
-    text.describe(building, m_start.addSecs(2));
-    building.processedItems = 300;
-    QCOMPARE(text.describe(building, m_start.addSecs(10)),
-             "Building tree...  300 / 1,200 folders  38 folders/s  30s remaining");
 }
 
 void CliTextsTest::linesFitTheTerminal() {

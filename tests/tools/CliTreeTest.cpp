@@ -1,5 +1,5 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
 
 #include <QDir>
 #include <QJsonArray>
@@ -8,7 +8,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 class CliTreeTest : public QObject {
     Q_OBJECT

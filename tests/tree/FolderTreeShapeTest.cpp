@@ -1,6 +1,6 @@
+#include "FileTrees.h"
 #include "RecordedBuild.h"
 #include "ReferenceTree.h"
-#include "TestTrees.h"
 
 #include "scanner/DirectoryWalker.h"
 #include "tree/FolderEnumeration.h"
@@ -13,8 +13,6 @@
 
 #include <algorithm>
 #include <tuple>
-
-#include <unistd.h>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -45,11 +43,10 @@ private slots:
     void equalsPlainRecursiveBuild_data();
     void equalsPlainRecursiveBuild();
     void sumsBottomUpAndDropsEmptyFolders();
-    void coloursFollowListingPositionDroppedFoldersIncluded();
     void childrenLargestFirstEqualSizesInListingOrder();
-    void rootWithOnlyFiles();
+    void roots_data();
+    void roots();
     void folderThatCannotBeListedBecomesLeaf();
-    void missingRootIsBareLeaf();
     void keepsOddNames();
     void chainTenThousandFoldersDeep();
     void sharedOutAcrossThreadsEqualsOneThread();
@@ -79,17 +76,17 @@ void FolderTreeShapeTest::equalsPlainRecursiveBuild() {
 void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
     QTemporaryDir dir;
     const QString root = dir.path();
-    writeFile(root + "/top.bin", 5);
-    writeFile(root + "/x/one.bin", 10);
-    writeFile(root + "/x/y/two.bin", 20);
-    writeFile(root + "/x/y/three.bin", 0);
+    writeFiles(root, {{"top.bin", 5},
+                      {"x/one.bin", 10},
+                      {"x/y/two.bin", 20},
+                      {"x/y/three.bin", 0},
+                      {"x/zeros/a.bin", 0},
+                      {"x/zeros/b.bin", 0},
+                      {"x/zeros/deeper/c.bin", 0},
+                      {".hidden/big.bin", 1000},
+                      {".dotfile", 300},
+                      {"x/.cache", 70}});
     QVERIFY(QDir().mkpath(root + "/x/y/empty"));
-    writeFile(root + "/x/zeros/a.bin", 0);
-    writeFile(root + "/x/zeros/b.bin", 0);
-    writeFile(root + "/x/zeros/deeper/c.bin", 0);
-    writeFile(root + "/.hidden/big.bin", 1000);
-    writeFile(root + "/.dotfile", 300);
-    writeFile(root + "/x/.cache", 70);
 
     const FolderInfo tree = recordBuild(root).tree();
 
@@ -106,42 +103,6 @@ void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
     QCOMPARE(figures(y), Figures(root + "/x/y", 2, 20, 2));
     QVERIFY(y.childFolders.empty());
     QCOMPARE(y.directFilesSize(), 20);
-}
-
-void FolderTreeShapeTest::coloursFollowListingPositionDroppedFoldersIncluded() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    for (const char* name : {"a", "b", "c"})
-        QVERIFY(QDir(root).mkdir(name));
-    const QByteArrayList order = listingOrder(root);
-    QCOMPARE(order.size(), 3);
-    // The first listed gets 10 bytes, the second only a zero-byte file, the third 30 bytes.
-    writeFile(root + '/' + order[0] + "/f", 10);
-    writeFile(root + '/' + order[1] + "/f", 0);
-    writeFile(root + '/' + order[2] + "/f", 30);
-
-    const FolderInfo tree = recordBuild(root).tree();
-
-    QCOMPARE(childNames(tree), (QStringList{order[2], order[0]}));
-    QCOMPARE(tree.childFolders[0].color, FolderColor::teal);
-    QCOMPARE(tree.childFolders[1].color, FolderColor::blue);
-    QCOMPARE(tree.fileCount, 2);
-
-    // Past twelve sub-folders the palette starts again; depth does not shift it.
-    QTemporaryDir many;
-    for (int i = 0; i < 14; ++i)
-        writeFile(many.path() + QStringLiteral("/f%1/nested/data").arg(i), 1);
-    const QByteArrayList manyOrder = listingOrder(many.path());
-    const FolderInfo wide = recordBuild(many.path()).tree();
-    QCOMPARE(wide.childFolders.size(), 14u);
-    for (qsizetype position = 0; position < manyOrder.size(); ++position) {
-        const FolderInfo* child = childNamed(wide, manyOrder[position]);
-        QVERIFY(child);
-        QCOMPARE(child->color, folderColorAt(position));
-        QCOMPARE(child->childFolders.at(0).color, FolderColor::blue);
-    }
-    QCOMPARE(childNamed(wide, manyOrder[12])->color, FolderColor::blue);
-    QCOMPARE(childNamed(wide, manyOrder[13])->color, FolderColor::green);
 }
 
 void FolderTreeShapeTest::childrenLargestFirstEqualSizesInListingOrder() {
@@ -162,18 +123,37 @@ void FolderTreeShapeTest::childrenLargestFirstEqualSizesInListingOrder() {
     QCOMPARE(childNames(recordBuild(root).tree()), expected);
 }
 
-void FolderTreeShapeTest::rootWithOnlyFiles() {
+void FolderTreeShapeTest::roots_data() {
+    QTest::addColumn<QString>("root");
+    QTest::addColumn<QString>("path"); // of the tree's root node
+    QTest::addColumn<qint64>("totalSize");
+    QTest::newRow("only files, trailing slash") << "files/"
+                                                << "files" << 7LL;
+    // A root that cannot be listed is a bare leaf under its own path.
+    QTest::newRow("missing") << "absent"
+                             << "absent" << 0LL;
+    QTest::newRow("a file") << "files/a.txt"
+                            << "files/a.txt" << 0LL;
+}
+
+void FolderTreeShapeTest::roots() {
+    QFETCH(QString, root);
+    QFETCH(QString, path);
+    QFETCH(qint64, totalSize);
     QTemporaryDir dir;
-    writeFile(dir.path() + "/a.txt", 3);
-    writeFile(dir.path() + "/b.txt", 4);
+    writeFiles(dir.path(), {{"files/a.txt", 3}, {"files/b.txt", 4}});
 
-    const FolderInfo tree = recordBuild(dir.path() + "/").tree();
+    const RecordedBuild build = recordBuild(dir.path() + '/' + root);
 
-    QCOMPARE(tree.path, dir.path()); // cleaned, like the scanned root
-    QCOMPARE(tree.totalSize, 7);
-    QCOMPARE(tree.fileCount, 2);
+    const FolderInfo& tree = build.tree();
+    QCOMPARE(tree.path, dir.path() + '/' + path);
+    QCOMPARE(tree.name, QFileInfo(tree.path).fileName());
+    QCOMPARE(tree.totalSize, totalSize);
+    QCOMPARE(tree.fileCount, totalSize ? 2 : 0);
     QCOMPARE(tree.depth, 0);
+    QCOMPARE(tree.color, FolderColor::blue);
     QVERIFY(tree.childFolders.empty());
+    QCOMPARE(build.records.last().processedItems, 1);
 }
 
 void FolderTreeShapeTest::folderThatCannotBeListedBecomesLeaf() {
@@ -207,33 +187,6 @@ void FolderTreeShapeTest::folderThatCannotBeListedBecomesLeaf() {
     QCOMPARE(treeFolderCount(listing), 3);  // inner was never listed
     QCOMPARE(assembly.processedCount(), 4); // the leaf is processed, without a report of its own
     QCOMPARE(reports, 3);
-
-    if (geteuid() == 0)
-        QSKIP("permissions do not stop root; the listing above stood in for them");
-    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::Permissions()));
-    const FolderInfo built = recordBuild(root).tree();
-    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                      QFileDevice::ExeOwner));
-    QCOMPARE(built.totalSize, 20);
-    QVERIFY(!childNamed(built, "gone"));
-}
-
-void FolderTreeShapeTest::missingRootIsBareLeaf() {
-    QTemporaryDir dir;
-    writeFile(dir.path() + "/plain.txt", 12);
-    for (const QString& root : {dir.path() + "/absent", dir.path() + "/plain.txt"}) {
-        const RecordedBuild build = recordBuild(root);
-        const FolderInfo& tree = build.tree();
-        QCOMPARE(tree.path, root);
-        QCOMPARE(tree.name, QFileInfo(root).fileName());
-        QCOMPARE(tree.totalSize, 0);
-        QCOMPARE(tree.fileCount, 0);
-        QVERIFY(tree.childFolders.empty());
-        QCOMPARE(tree.depth, 0);
-        QCOMPARE(tree.color, FolderColor::blue);
-        QVERIFY(build.recordsIn(FolderTreeProgress::Phase::building).size() == 1);
-        QCOMPARE(build.records.last().processedItems, 1);
-    }
 }
 
 void FolderTreeShapeTest::keepsOddNames() {
