@@ -36,118 +36,115 @@ class ScanLifecycleTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void publishesEveryHundredAnalysedItems();
-    void cancelsDuringAnalysis();
-    void cancelBeforeAnythingWasFoundMeansNothingToAccess();
-    void analysesWhatDiscoveryFoundEvenIfFilesVanish();
-};
+    void publishesEveryHundredAnalysedItems() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4); // 250 items, folders and files interleaved
+        const std::vector<WalkedItem> walk = referenceWalk(QFile::encodeName(dir.path()));
+        QCOMPARE(walk.size(), 250u);
 
-void ScanLifecycleTest::publishesEveryHundredAnalysedItems() {
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 50, 4); // 250 items, folders and files interleaved
-    const std::vector<WalkedItem> walk = referenceWalk(QFile::encodeName(dir.path()));
-    QCOMPARE(walk.size(), 250u);
+        const RecordedScan scan = recordScan(dir.path());
 
-    const RecordedScan scan = recordScan(dir.path());
-
-    QCOMPARE(scan.phases(),
-             (QList<ScanPhase>{ScanPhase::initializing, ScanPhase::scanning, ScanPhase::analyzing,
-                               ScanPhase::finalizing, ScanPhase::complete}));
-    const QDateTime startTime = scan.snapshots.front().startTime;
-    for (const ScanProgress& snapshot : scan.snapshots)
-        QCOMPARE(snapshot.startTime, startTime);
-    // Discovery snapshots past the opening one (only a slow machine shows them) carry a path
-    // and counts that never run ahead of the listing.
-    const QList<ScanProgress> discovery = scan.snapshotsIn(ScanPhase::scanning);
-    QCOMPARE(discovery.front().filesScanned + discovery.front().foldersScanned, 0);
-    for (const ScanProgress& snapshot : discovery.sliced(1)) {
-        QVERIFY(snapshot.currentPath.startsWith(dir.path()));
-        QVERIFY(snapshot.filesScanned + snapshot.foldersScanned <= 250);
-        QVERIFY(!snapshot.estimatedTotalFiles);
-    }
-
-    const QList<ScanProgress> analysis = scan.snapshotsIn(ScanPhase::analyzing);
-    QCOMPARE(analysis.size(), 3);
-    ScanProgress opening;
-    opening.phase = ScanPhase::analyzing;
-    opening.startTime = startTime;
-    opening.estimatedTotalFiles = 250;
-    QCOMPARE(analysis[0], opening);
-    for (qsizetype periodic : {1, 2}) {
-        ScanProgress expected = expectedAfter(walk, periodic * 100);
-        expected.startTime = startTime;
-        QCOMPARE(analysis[periodic], expected);
-    }
-    // The closing snapshots repeat the last periodic one; only the result has the final totals.
-    for (ScanPhase closing : {ScanPhase::finalizing, ScanPhase::complete}) {
-        const QList<ScanProgress> snapshots = scan.snapshotsIn(closing);
-        QCOMPARE(snapshots.size(), 1);
-        ScanProgress expected = analysis[2];
-        expected.phase = closing;
-        QCOMPARE(snapshots.front(), expected);
-    }
-    QCOMPARE(scan.result().fileCount, 200);
-    QCOMPARE(scan.result().folderCount, 50);
-}
-
-void ScanLifecycleTest::cancelsDuringAnalysis() {
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 50, 4);
-
-    const RecordedScan scan =
-        recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
-            if (progress.phase == ScanPhase::analyzing && progress.filesScanned > 0)
-                scanner.cancel();
-        });
-
-    QCOMPARE(scan.error().kind, ScanError::Kind::cancelled);
-    QCOMPARE(scan.error().errorDescription(), QStringLiteral("Scan was cancelled"));
-    QCOMPARE(scan.phases().back(), ScanPhase::cancelled);
-    QCOMPARE(scan.snapshotsIn(ScanPhase::cancelled).size(), 1);
-    QVERIFY(scan.snapshotsIn(ScanPhase::finalizing).isEmpty());
-    // The cancelled snapshot keeps the counters of the one it interrupted.
-    ScanProgress expected = scan.snapshots[scan.snapshots.size() - 2];
-    QCOMPARE(expected.filesScanned + expected.foldersScanned, 100);
-    expected.phase = ScanPhase::cancelled;
-    QCOMPARE(scan.snapshots.back(), expected);
-}
-
-void ScanLifecycleTest::cancelBeforeAnythingWasFoundMeansNothingToAccess() {
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 50, 4);
-
-    const RecordedScan scan =
-        recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
-            if (progress.phase == ScanPhase::scanning)
-                scanner.cancel();
-        });
-
-    QCOMPARE(scan.error(),
-             (ScanError{ScanError::Kind::cannotAccessDirectory, QDir::cleanPath(dir.path())}));
-    QCOMPARE(scan.phases().back(), ScanPhase::scanning);
-}
-
-// Discovery stores each item's metadata beside it; the analysis never goes back to the disk, so
-// files deleted in between neither disturb it nor change its figures.
-void ScanLifecycleTest::analysesWhatDiscoveryFoundEvenIfFilesVanish() {
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 50, 4);
-    const AnalysisResult undisturbed = recordScan(dir.path()).result();
-
-    bool removed = false;
-    const RecordedScan scan = recordScan(dir.path(), [&](FileSystemScanner&,
-                                                         const ScanProgress& progress) {
-        if (progress.phase == ScanPhase::analyzing && progress.estimatedTotalFiles && !removed) {
-            removed = true;
-            for (int folder = 0; folder < 50; folder += 2)
-                QDir(QStringLiteral("%1/folder%2").arg(dir.path()).arg(folder)).removeRecursively();
+        QCOMPARE(scan.phases(), (QList<ScanPhase>{ScanPhase::initializing, ScanPhase::scanning,
+                                                  ScanPhase::analyzing, ScanPhase::finalizing,
+                                                  ScanPhase::complete}));
+        const QDateTime startTime = scan.snapshots.front().startTime;
+        for (const ScanProgress& snapshot : scan.snapshots)
+            QCOMPARE(snapshot.startTime, startTime);
+        // Discovery snapshots past the opening one (only a slow machine shows them) carry a path
+        // and counts that never run ahead of the listing.
+        const QList<ScanProgress> discovery = scan.snapshotsIn(ScanPhase::scanning);
+        QCOMPARE(discovery.front().filesScanned + discovery.front().foldersScanned, 0);
+        for (const ScanProgress& snapshot : discovery.sliced(1)) {
+            QVERIFY(snapshot.currentPath.startsWith(dir.path()));
+            QVERIFY(snapshot.filesScanned + snapshot.foldersScanned <= 250);
+            QVERIFY(!snapshot.estimatedTotalFiles);
         }
-    });
 
-    QVERIFY(removed);
-    QVERIFY(!QFile::exists(dir.path() + "/folder0/file0"));
-    QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(undisturbed));
-}
+        const QList<ScanProgress> analysis = scan.snapshotsIn(ScanPhase::analyzing);
+        QCOMPARE(analysis.size(), 3);
+        ScanProgress opening;
+        opening.phase = ScanPhase::analyzing;
+        opening.startTime = startTime;
+        opening.estimatedTotalFiles = 250;
+        QCOMPARE(analysis[0], opening);
+        for (qsizetype periodic : {1, 2}) {
+            ScanProgress expected = expectedAfter(walk, periodic * 100);
+            expected.startTime = startTime;
+            QCOMPARE(analysis[periodic], expected);
+        }
+        // The closing snapshots repeat the last periodic one; only the result has the final totals.
+        for (ScanPhase closing : {ScanPhase::finalizing, ScanPhase::complete}) {
+            const QList<ScanProgress> snapshots = scan.snapshotsIn(closing);
+            QCOMPARE(snapshots.size(), 1);
+            ScanProgress expected = analysis[2];
+            expected.phase = closing;
+            QCOMPARE(snapshots.front(), expected);
+        }
+        QCOMPARE(scan.result().fileCount, 200);
+        QCOMPARE(scan.result().folderCount, 50);
+    }
+
+    void cancelsDuringAnalysis() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+
+        const RecordedScan scan =
+            recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::analyzing && progress.filesScanned > 0)
+                    scanner.cancel();
+            });
+
+        QCOMPARE(scan.error().kind, ScanError::Kind::cancelled);
+        QCOMPARE(scan.error().errorDescription(), QStringLiteral("Scan was cancelled"));
+        QCOMPARE(scan.phases().back(), ScanPhase::cancelled);
+        QCOMPARE(scan.snapshotsIn(ScanPhase::cancelled).size(), 1);
+        QVERIFY(scan.snapshotsIn(ScanPhase::finalizing).isEmpty());
+        // The cancelled snapshot keeps the counters of the one it interrupted.
+        ScanProgress expected = scan.snapshots[scan.snapshots.size() - 2];
+        QCOMPARE(expected.filesScanned + expected.foldersScanned, 100);
+        expected.phase = ScanPhase::cancelled;
+        QCOMPARE(scan.snapshots.back(), expected);
+    }
+
+    void cancelBeforeAnythingWasFoundMeansNothingToAccess() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+
+        const RecordedScan scan =
+            recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::scanning)
+                    scanner.cancel();
+            });
+
+        QCOMPARE(scan.error(),
+                 (ScanError{ScanError::Kind::cannotAccessDirectory, QDir::cleanPath(dir.path())}));
+        QCOMPARE(scan.phases().back(), ScanPhase::scanning);
+    }
+
+    // Discovery stores each item's metadata beside it; the analysis never goes back to the disk, so
+    // files deleted in between neither disturb it nor change its figures.
+    void analysesWhatDiscoveryFoundEvenIfFilesVanish() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+        const AnalysisResult undisturbed = recordScan(dir.path()).result();
+
+        bool removed = false;
+        const RecordedScan scan =
+            recordScan(dir.path(), [&](FileSystemScanner&, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::analyzing && progress.estimatedTotalFiles &&
+                    !removed) {
+                    removed = true;
+                    for (int folder = 0; folder < 50; folder += 2)
+                        QDir(QStringLiteral("%1/folder%2").arg(dir.path()).arg(folder))
+                            .removeRecursively();
+                }
+            });
+
+        QVERIFY(removed);
+        QVERIFY(!QFile::exists(dir.path() + "/folder0/file0"));
+        QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(undisturbed));
+    }
+};
 
 QTEST_GUILESS_MAIN(ScanLifecycleTest)
 #include "ScanLifecycleTest.moc"

@@ -10,14 +10,6 @@
 
 using namespace tessarine::testing;
 
-class CliTreeTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void jsonHoldsEveryFolderBySize();
-    void failuresPrintTheErrorText();
-};
-
 namespace {
 
 QStringList childNames(const QJsonObject& folder) {
@@ -29,44 +21,49 @@ QStringList childNames(const QJsonObject& folder) {
 
 } // namespace
 
-void CliTreeTest::jsonHoldsEveryFolderBySize() {
-    QTemporaryDir folder;
-    const QString root = folder.path();
-    writeFile(root + "/top.txt", 1);
-    writeFile(root + "/small/y", 10);
-    for (const char* name : {"/big/a", "/big/b", "/big/c"})
-        writeFile(root + name, 1000);
-    writeFile(root + "/big/inner folder/x", 500);
-    writeFile(root + "/.hidden/z", 999);
-    QVERIFY(QDir().mkpath(root + "/empty"));
+class CliTreeTest : public QObject {
+    Q_OBJECT
 
-    const CliRun run = runCli({"tree", "."}, CliOptions::inFolder(root));
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.errors, QByteArray());
-    QJsonParseError error;
-    const QJsonObject tree = QJsonDocument::fromJson(run.output, &error).object();
-    QCOMPARE(error.error, QJsonParseError::NoError);
-    QCOMPARE(tree["path"].toString(), root);
-    QCOMPARE(tree["depth"].toInteger(), 0);
-    QCOMPARE(tree["totalSize"].toInteger(), 3511);
-    QCOMPARE(tree["fileCount"].toInteger(), 6);
-    // Largest first; the empty folder and the hidden one are left out.
-    QCOMPARE(childNames(tree), (QStringList{"big", "small"}));
-    const QJsonObject big = tree["childFolders"].toArray()[0].toObject();
-    QCOMPARE(big["totalSize"].toInteger(), 3500);
-    QCOMPARE(childNames(big), QStringList{"inner folder"});
-}
+private slots:
+    void jsonHoldsEveryFolderBySize() {
+        QTemporaryDir folder;
+        const QString root = folder.path();
+        writeFile(root + "/top.txt", 1);
+        writeFile(root + "/small/y", 10);
+        for (const char* name : {"/big/a", "/big/b", "/big/c"})
+            writeFile(root + name, 1000);
+        writeFile(root + "/big/inner folder/x", 500);
+        writeFile(root + "/.hidden/z", 999);
+        QVERIFY(QDir().mkpath(root + "/empty"));
 
-void CliTreeTest::failuresPrintTheErrorText() {
-    QTemporaryDir folder;
-    writeFile(folder.filePath("file"), 1);
-    for (const QString& path : {folder.filePath("missing"), folder.filePath("file")}) {
-        const CliRun run = runCli({"tree", path});
-        QCOMPARE(run.exitCode, 1);
-        QCOMPARE(run.errorText(), "Cannot access: " + path + "\n");
-        QCOMPARE(run.output, QByteArray());
+        const CliRun run = runCli({"tree", "."}, CliOptions::inFolder(root));
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QByteArray());
+        QJsonParseError error;
+        const QJsonObject tree = QJsonDocument::fromJson(run.output, &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QCOMPARE(tree["path"].toString(), root);
+        QCOMPARE(tree["depth"].toInteger(), 0);
+        QCOMPARE(tree["totalSize"].toInteger(), 3511);
+        QCOMPARE(tree["fileCount"].toInteger(), 6);
+        // Largest first; the empty folder and the hidden one are left out.
+        QCOMPARE(childNames(tree), (QStringList{"big", "small"}));
+        const QJsonObject big = tree["childFolders"].toArray()[0].toObject();
+        QCOMPARE(big["totalSize"].toInteger(), 3500);
+        QCOMPARE(childNames(big), QStringList{"inner folder"});
     }
-}
+
+    void failuresPrintTheErrorText() {
+        QTemporaryDir folder;
+        writeFile(folder.filePath("file"), 1);
+        for (const QString& path : {folder.filePath("missing"), folder.filePath("file")}) {
+            const CliRun run = runCli({"tree", path});
+            QCOMPARE(run.exitCode, 1);
+            QCOMPARE(run.errorText(), "Cannot access: " + path + "\n");
+            QCOMPARE(run.output, QByteArray());
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(CliTreeTest)
 #include "CliTreeTest.moc"

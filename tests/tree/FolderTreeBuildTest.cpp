@@ -36,150 +36,145 @@ class FolderTreeBuildTest : public QObject {
 
 private slots:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void recordsFollowThePhases();
-    void updateIntervalScalesWithFolderCount();
-    void remainingTime();
-    void cancelStopsTheBuild_data();
-    void cancelStopsTheBuild();
-    void recordsReachTheServiceThread();
+    void recordsFollowThePhases() {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        writeFolders(root, 3, 1);
+        writeFile(root + "/folder0/inner/file", 4);
+        writeFile(root + "/loose.txt", 2);
+
+        FolderTreeService service;
+        const RecordedBuild build = recordBuild(service, root);
+
+        QVERIFY(std::holds_alternative<FolderInfo>(build.outcome));
+        const FolderTreeProgress& first = build.records.first();
+        QCOMPARE(first.phase, Phase::enumerating);
+        QCOMPARE(first.processedItems, 0);
+        QCOMPARE(first.currentFolder, root);
+        QVERIFY(first.startTime.isValid());
+        for (const FolderTreeProgress& record : build.records)
+            QCOMPARE(record.startTime, first.startTime);
+
+        // Entries: three folders with a byte each, inner with its file, the loose file.
+        const FolderTreeProgress lastFound = build.recordsIn(Phase::enumerating).last();
+        QCOMPARE(lastFound.totalItems, 0);
+        QCOMPARE(lastFound.processedItems, 9);
+        QCOMPARE(lastFound.currentFolder, QStringLiteral("9 items (4 folders)"));
+
+        const QList<FolderTreeProgress> built = build.recordsIn(Phase::building);
+        QCOMPARE(built.first().totalItems, 4);
+        QCOMPARE(built.first().processedItems, 0);
+        QCOMPARE(built.first().currentFolder, root);
+        // Every folder reports with an interval of one, the root last and under its own name.
+        QCOMPARE(processedCounts(built), (QList<qint64>{0, 1, 2, 3, 4, 5}));
+        QCOMPARE(built.last().currentFolder, QFileInfo(root).fileName());
+
+        const FolderTreeProgress& last = build.records.last();
+        QCOMPARE(last.phase, Phase::complete);
+        QCOMPARE(last.totalItems, 4);
+        QCOMPARE(last.processedItems, 5);
+        QCOMPARE(last.currentFolder, root);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(service.progress(), std::optional(last));
+        QVERIFY(!service.isBuilding());
+        QCOMPARE(service.phaseName(), QStringLiteral("complete"));
+        QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
+    }
+
+    // Every fifth folder reports from 400 folders on; the root, processed last, reports too.
+    void updateIntervalScalesWithFolderCount() {
+        const QTemporaryDir thousand = makeFastTemporaryDir();
+        QVERIFY(thousand.isValid());
+        for (int i = 0; i < 1000; ++i)
+            QVERIFY(QDir(thousand.path()).mkdir(QStringLiteral("f%1").arg(i)));
+        const RecordedBuild build = recordBuild(thousand.path());
+        QList<qint64> everyFifth;
+        for (qint64 processed = 0; processed <= 1000; processed += 5)
+            everyFifth.append(processed);
+        QCOMPARE(processedCounts(build.recordsIn(Phase::building)), everyFifth);
+        QCOMPARE(build.records.last().processedItems, 1001);
+        QCOMPARE(build.records.last().totalItems, 1000);
+        QVERIFY(build.tree().childFolders.empty());
+    }
+
+    void remainingTime() {
+        const QDateTime start(QDate(2024, 3, 5), QTime(10, 0), QTimeZone::utc());
+        const auto estimate = [&](qint64 total, qint64 processed) {
+            FolderTreeProgress progress = building(total, processed);
+            progress.startTime = start;
+            return progress.estimatedTimeRemaining(start.addSecs(10));
+        };
+        QCOMPARE(estimate(1200, 300), std::optional(30.0));
+        // No estimate before anything is known, or while at most five percent is done.
+        QCOMPARE(estimate(0, 10), std::nullopt);
+        QCOMPARE(estimate(1200, 0), std::nullopt);
+        QCOMPARE(estimate(1200, 60), std::nullopt);
+        QVERIFY(estimate(1200, 61).value() > 180);
+        QCOMPARE(estimate(1200, 1201),
+                 std::optional(0.0)); // the root comes after the counted folders
+    }
+
+    void cancelStopsTheBuild_data() {
+        QTest::addColumn<int>("phase");
+        QTest::addColumn<qint64>("processed"); // the record at which to cancel
+        QTest::newRow("while enumerating") << int(Phase::enumerating) << 0LL;
+        QTest::newRow("in the node pass") << int(Phase::building) << 1LL;
+    }
+
+    // The build stops at the record that cancelled it, and the same service builds again
+    // afterwards.
+    void cancelStopsTheBuild() {
+        QFETCH(int, phase);
+        QFETCH(qint64, processed);
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 20, 1);
+        FolderTreeService service;
+
+        const RecordedBuild build = recordBuild(
+            service, dir.path(), [&](FolderTreeService& tree, const FolderTreeProgress& record) {
+                if (int(record.phase) == phase && record.processedItems == processed)
+                    tree.setCancelled(true);
+            });
+
+        QVERIFY(build.wasCancelled());
+        QCOMPARE(int(build.records.last().phase), phase);
+        QCOMPARE(build.records.last().processedItems, processed);
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(service.progress(), std::optional(build.records.last()));
+
+        const RecordedBuild again = recordBuild(service, dir.path());
+        QVERIFY(!service.isCancelled());
+        QCOMPARE(again.tree().totalSize, 20);
+        QCOMPARE(again.records.last().phase, Phase::complete);
+    }
+
+    void recordsReachTheServiceThread() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 30, 1);
+        FolderTreeService service;
+        QList<bool> onServiceThread;
+        QList<bool> buildingStates;
+        connect(&service, &FolderTreeService::progressChanged, this,
+                [&] { onServiceThread.append(QThread::currentThread() == service.thread()); });
+        connect(&service, &FolderTreeService::isBuildingChanged, this,
+                [&] { buildingStates.append(service.isBuilding()); });
+        QList<FolderTreeProgress> made;
+        service.setProgressObserver([&](const FolderTreeProgress& record) { made.append(record); });
+
+        FolderTreeOutcome outcome = FolderTreeError{};
+        std::thread worker([&] { outcome = service.build(dir.path()); });
+        worker.join();
+        QVERIFY(!service.progress()); // nothing arrives until the service's thread takes it
+        QCoreApplication::sendPostedEvents();
+
+        QVERIFY(std::holds_alternative<FolderInfo>(outcome));
+        QCOMPARE(onServiceThread, QList<bool>(made.size(), true));
+        QCOMPARE(service.progress(), std::optional(made.last()));
+        QCOMPARE(buildingStates, (QList<bool>{true, false}));
+        QCOMPARE(service.processedItems(), 31);
+        QCOMPARE(service.totalItems(), 30);
+    }
 };
-
-void FolderTreeBuildTest::recordsFollowThePhases() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    writeFolders(root, 3, 1);
-    writeFile(root + "/folder0/inner/file", 4);
-    writeFile(root + "/loose.txt", 2);
-
-    FolderTreeService service;
-    const RecordedBuild build = recordBuild(service, root);
-
-    QVERIFY(std::holds_alternative<FolderInfo>(build.outcome));
-    const FolderTreeProgress& first = build.records.first();
-    QCOMPARE(first.phase, Phase::enumerating);
-    QCOMPARE(first.processedItems, 0);
-    QCOMPARE(first.currentFolder, root);
-    QVERIFY(first.startTime.isValid());
-    for (const FolderTreeProgress& record : build.records)
-        QCOMPARE(record.startTime, first.startTime);
-
-    // Entries: three folders with a byte each, inner with its file, the loose file.
-    const FolderTreeProgress lastFound = build.recordsIn(Phase::enumerating).last();
-    QCOMPARE(lastFound.totalItems, 0);
-    QCOMPARE(lastFound.processedItems, 9);
-    QCOMPARE(lastFound.currentFolder, QStringLiteral("9 items (4 folders)"));
-
-    const QList<FolderTreeProgress> built = build.recordsIn(Phase::building);
-    QCOMPARE(built.first().totalItems, 4);
-    QCOMPARE(built.first().processedItems, 0);
-    QCOMPARE(built.first().currentFolder, root);
-    // Every folder reports with an interval of one, the root last and under its own name.
-    QCOMPARE(processedCounts(built), (QList<qint64>{0, 1, 2, 3, 4, 5}));
-    QCOMPARE(built.last().currentFolder, QFileInfo(root).fileName());
-
-    const FolderTreeProgress& last = build.records.last();
-    QCOMPARE(last.phase, Phase::complete);
-    QCOMPARE(last.totalItems, 4);
-    QCOMPARE(last.processedItems, 5);
-    QCOMPARE(last.currentFolder, root);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(service.progress(), std::optional(last));
-    QVERIFY(!service.isBuilding());
-    QCOMPARE(service.phaseName(), QStringLiteral("complete"));
-    QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
-}
-
-// Every fifth folder reports from 400 folders on; the root, processed last, reports too.
-void FolderTreeBuildTest::updateIntervalScalesWithFolderCount() {
-    const QTemporaryDir thousand = makeFastTemporaryDir();
-    QVERIFY(thousand.isValid());
-    for (int i = 0; i < 1000; ++i)
-        QVERIFY(QDir(thousand.path()).mkdir(QStringLiteral("f%1").arg(i)));
-    const RecordedBuild build = recordBuild(thousand.path());
-    QList<qint64> everyFifth;
-    for (qint64 processed = 0; processed <= 1000; processed += 5)
-        everyFifth.append(processed);
-    QCOMPARE(processedCounts(build.recordsIn(Phase::building)), everyFifth);
-    QCOMPARE(build.records.last().processedItems, 1001);
-    QCOMPARE(build.records.last().totalItems, 1000);
-    QVERIFY(build.tree().childFolders.empty());
-}
-
-void FolderTreeBuildTest::remainingTime() {
-    const QDateTime start(QDate(2024, 3, 5), QTime(10, 0), QTimeZone::utc());
-    const auto estimate = [&](qint64 total, qint64 processed) {
-        FolderTreeProgress progress = building(total, processed);
-        progress.startTime = start;
-        return progress.estimatedTimeRemaining(start.addSecs(10));
-    };
-    QCOMPARE(estimate(1200, 300), std::optional(30.0));
-    // No estimate before anything is known, or while at most five percent is done.
-    QCOMPARE(estimate(0, 10), std::nullopt);
-    QCOMPARE(estimate(1200, 0), std::nullopt);
-    QCOMPARE(estimate(1200, 60), std::nullopt);
-    QVERIFY(estimate(1200, 61).value() > 180);
-    QCOMPARE(estimate(1200, 1201), std::optional(0.0)); // the root comes after the counted folders
-}
-
-void FolderTreeBuildTest::cancelStopsTheBuild_data() {
-    QTest::addColumn<int>("phase");
-    QTest::addColumn<qint64>("processed"); // the record at which to cancel
-    QTest::newRow("while enumerating") << int(Phase::enumerating) << 0LL;
-    QTest::newRow("in the node pass") << int(Phase::building) << 1LL;
-}
-
-// The build stops at the record that cancelled it, and the same service builds again afterwards.
-void FolderTreeBuildTest::cancelStopsTheBuild() {
-    QFETCH(int, phase);
-    QFETCH(qint64, processed);
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 20, 1);
-    FolderTreeService service;
-
-    const RecordedBuild build = recordBuild(
-        service, dir.path(), [&](FolderTreeService& tree, const FolderTreeProgress& record) {
-            if (int(record.phase) == phase && record.processedItems == processed)
-                tree.setCancelled(true);
-        });
-
-    QVERIFY(build.wasCancelled());
-    QCOMPARE(int(build.records.last().phase), phase);
-    QCOMPARE(build.records.last().processedItems, processed);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(service.progress(), std::optional(build.records.last()));
-
-    const RecordedBuild again = recordBuild(service, dir.path());
-    QVERIFY(!service.isCancelled());
-    QCOMPARE(again.tree().totalSize, 20);
-    QCOMPARE(again.records.last().phase, Phase::complete);
-}
-
-void FolderTreeBuildTest::recordsReachTheServiceThread() {
-    QTemporaryDir dir;
-    writeFolders(dir.path(), 30, 1);
-    FolderTreeService service;
-    QList<bool> onServiceThread;
-    QList<bool> buildingStates;
-    connect(&service, &FolderTreeService::progressChanged, this,
-            [&] { onServiceThread.append(QThread::currentThread() == service.thread()); });
-    connect(&service, &FolderTreeService::isBuildingChanged, this,
-            [&] { buildingStates.append(service.isBuilding()); });
-    QList<FolderTreeProgress> made;
-    service.setProgressObserver([&](const FolderTreeProgress& record) { made.append(record); });
-
-    FolderTreeOutcome outcome = FolderTreeError{};
-    std::thread worker([&] { outcome = service.build(dir.path()); });
-    worker.join();
-    QVERIFY(!service.progress()); // nothing arrives until the service's thread takes it
-    QCoreApplication::sendPostedEvents();
-
-    QVERIFY(std::holds_alternative<FolderInfo>(outcome));
-    QCOMPARE(onServiceThread, QList<bool>(made.size(), true));
-    QCOMPARE(service.progress(), std::optional(made.last()));
-    QCOMPARE(buildingStates, (QList<bool>{true, false}));
-    QCOMPARE(service.processedItems(), 31);
-    QCOMPARE(service.totalItems(), 30);
-}
 
 QTEST_GUILESS_MAIN(FolderTreeBuildTest)
 #include "FolderTreeBuildTest.moc"
