@@ -10,8 +10,8 @@
 #include <utility>
 
 // Real folders and files for tests, made in temporary folders. Every writer creates the folders
-// above what it writes and throws std::runtime_error when the file system refuses, which fails
-// the running test.
+// above what it writes and throws std::runtime_error when the file system refuses, so that no test
+// goes on with half a fixture.
 namespace tessarine::testing {
 
 // A file of `size` bytes, or holding `bytes`; returns its path.

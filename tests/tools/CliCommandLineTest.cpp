@@ -52,7 +52,7 @@ private slots:
 
     void doubleDashEndsTheOptions() {
         // A folder may be named like an option; after "--" it is a folder, even "--help".
-        const CliRun run = runCli({"scan", "--", "--help"}, CliOptions::inFolder(QDir::tempPath()));
+        const CliRun run = runCli({"scan", "--", "--help"}, {.workingDirectory = QDir::tempPath()});
         QCOMPARE(run.exitCode, 1);
         QCOMPARE(run.errorText(),
                  QStringLiteral("Cannot access directory: ") + QDir::tempPath() + "/--help\n");

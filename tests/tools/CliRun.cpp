@@ -53,18 +53,6 @@ bool catchesInterrupt(qint64 pid) {
 
 } // namespace
 
-CliOptions CliOptions::inFolder(const QString& folder) {
-    CliOptions options;
-    options.workingDirectory = folder;
-    return options;
-}
-
-CliOptions CliOptions::writingTo(const QString& file) {
-    CliOptions options;
-    options.outputFile = file;
-    return options;
-}
-
 QString historyDirectory() {
     return QDir(dataHome()).filePath(QStringLiteral("Tessarine"));
 }

@@ -19,11 +19,8 @@ struct CliRun {
 };
 
 struct CliOptions {
-    QString workingDirectory;
-    QString outputFile; // standard output goes here instead of being captured
-
-    static CliOptions inFolder(const QString& folder);
-    static CliOptions writingTo(const QString& file);
+    QString workingDirectory{};
+    QString outputFile{}; // standard output goes here instead of being captured
 };
 
 // Runs the built program to its end. The child inherits the test's XDG_DATA_HOME, so it uses the

@@ -27,7 +27,7 @@ private slots:
 
     void jsonDescribesTheFolder() {
         // A relative folder: the result names the folder absolutely.
-        const CliRun run = runCli({"scan", "."}, CliOptions::inFolder(m_folder->path()));
+        const CliRun run = runCli({"scan", "."}, {.workingDirectory = m_folder->path()});
         QCOMPARE(run.exitCode, 0);
         // Without a terminal, nothing but the data.
         QCOMPARE(run.errors, QByteArray());
@@ -75,7 +75,7 @@ private slots:
     }
 
     void writeErrorsFail() {
-        const CliRun run = runCli({"scan", m_folder->path()}, CliOptions::writingTo("/dev/full"));
+        const CliRun run = runCli({"scan", m_folder->path()}, {.outputFile = "/dev/full"});
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.errorText().startsWith("Cannot write the output: "), run.errors);
     }

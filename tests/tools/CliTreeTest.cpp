@@ -36,7 +36,7 @@ private slots:
         writeFile(root + "/.hidden/z", 999);
         QVERIFY(QDir().mkpath(root + "/empty"));
 
-        const CliRun run = runCli({"tree", "."}, CliOptions::inFolder(root));
+        const CliRun run = runCli({"tree", "."}, {.workingDirectory = root});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.errors, QByteArray());
         QJsonParseError error;
