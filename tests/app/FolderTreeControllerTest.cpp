@@ -1,4 +1,4 @@
-#include "TestTrees.h"
+#include "FileTrees.h"
 
 #include "app/FolderTreeController.h"
 

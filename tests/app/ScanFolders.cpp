@@ -1,18 +1,6 @@
 #include "ScanFolders.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
-
 namespace tessarine::testing {
-
-void writeFile(const QString& path, qint64 size) {
-    QVERIFY(QDir().mkpath(QFileInfo(path).absolutePath()));
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(QByteArray(size, 'x')), size);
-}
 
 void makeScannableFolder(const QString& root, int fileCount) {
     for (int i = 0; i < fileCount; ++i)

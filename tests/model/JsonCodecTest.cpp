@@ -1,4 +1,4 @@
-#include "SampleRecords.h"
+#include "SampleResults.h"
 
 #include "model/Json.h"
 #include "model/JsonWriter.h"
@@ -132,7 +132,7 @@ class JsonCodecTest : public QObject {
 
 private slots:
     void fullResultRoundTrips() {
-        const AnalysisResult original = fullResult();
+        const AnalysisResult original = sampleResult();
         const QByteArray bytes = json::encode(original);
         const AnalysisResult copy = decoded(bytes);
         QCOMPARE(copy.totalSize, original.totalSize);
@@ -168,25 +168,18 @@ private slots:
         QVERIFY(decoded(bytes) == empty);
     }
 
-    void folderTreeMember() {
-        AnalysisResult result = smallResult();
-        QByteArray bytes = json::encode(result);
+    // Other writers may write an absent tree as null.
+    void nullFolderTree() {
+        QByteArray bytes = json::encode(smallResult());
         bytes.replace("\"fileCount\" : 1,\n  \"folderCount\"",
                       "\"fileCount\" : 1,\n  \"folderTree\" : null,\n  \"folderCount\"");
         QVERIFY(bytes.contains("null"));
         QVERIFY(!decoded(bytes).folderTree.has_value());
-
-        // A stored tree comes back whole and is written again.
-        result.folderTree = fullResult().folderTree;
-        const QByteArray withTree = json::encode(result);
-        const AnalysisResult copy = decoded(withTree);
-        QVERIFY(copy.folderTree == result.folderTree);
-        QCOMPARE(json::encode(copy), withTree);
     }
 
     // Pieces handed to a sink join up to exactly the text encoded whole, however they fall.
     void folderTreeInPieces() {
-        FolderInfo root = *fullResult().folderTree;
+        FolderInfo root = *sampleResult().folderTree;
         // Wide enough for the text to pass a piece boundary many times over.
         for (int i = 0; i < 3000; ++i) {
             FolderInfo child;
@@ -307,6 +300,83 @@ private slots:
             json::encode(result).replace("0A1B2C3D-4E5F-4A6B-8C7D", "0a1b2c3d-4e5f-4a6b-8c7d");
         QCOMPARE(decoded(lower).id, result.id);
     }
+
+    // Every row edits one spot of a valid encoded result; each edit must fail the whole decoding
+    // with a message that names where the problem is.
+    void editedMemberFails_data() {
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        QTest::addColumn<QString>("where");
+        const QByteArray id = "\"id\" : \"" + idText;
+        QTest::newRow("missing top-level member")
+            << QByteArray("\"rootName\" : \"root \\\"name\\\"\",") << QByteArray() << "rootName";
+        QTest::newRow("missing member of a nested folder")
+            << QByteArray("\"color\" : \"cyan\",") << QByteArray()
+            << "folderTree.childFolders[0].childFolders[0].color";
+        QTest::newRow("integer as text")
+            << QByteArray("\"maxDepth\" : 10") << QByteArray("\"maxDepth\" : \"10\"") << "maxDepth";
+        QTest::newRow("fraction for an integer")
+            << QByteArray("\"folderCount\" : 7") << QByteArray("\"folderCount\" : 7.5")
+            << "folderCount";
+        QTest::newRow("integer beyond 64 bits")
+            << QByteArray("\"fileCount\" : 9223372036854775807")
+            << QByteArray("\"fileCount\" : 9223372036854775808") << "fileCount";
+        QTest::newRow("number for a bool")
+            << QByteArray("\"isDirectory\" : true") << QByteArray("\"isDirectory\" : 1")
+            << "largestFiles[1].isDirectory";
+        QTest::newRow("text for a number")
+            << QByteArray("\"scanDuration\" : 12.345")
+            << QByteArray("\"scanDuration\" : \"12.345\"") << "scanDuration";
+        QTest::newRow("null for a list")
+            << QByteArray("\"insights\" : [") << QByteArray("\"insights\" : null, \"x\" : [")
+            << "insights";
+        QTest::newRow("number in a string list") << QByteArray("\"\\/tmp\\/root\\/.cache\"")
+                                                 << QByteArray("42") << "insights[0].paths[0]";
+        QTest::newRow("list for a map")
+            << QByteArray("\"depthDistribution\" : {")
+            << QByteArray("\"depthDistribution\" : [], \"x\" : {") << "depthDistribution";
+        QTest::newRow("depth key that is no number")
+            << QByteArray("\"10\" : {") << QByteArray("\"ten\" : {") << "depthDistribution.ten";
+        QTest::newRow("category in lower case")
+            << QByteArray("\"category\" : \"Documents\"")
+            << QByteArray("\"category\" : \"documents\"") << "largestFiles[2].category";
+        QTest::newRow("unknown insight type")
+            << QByteArray("\"type\" : \"Large Cache\"") << QByteArray("\"type\" : \"Big Cache\"")
+            << "insights[0].type";
+        QTest::newRow("unknown folder colour")
+            << QByteArray("\"color\" : \"mint\"") << QByteArray("\"color\" : \"Mint\"")
+            << "folderTree.childFolders[1].color";
+        QTest::newRow("UUID in braces") << (id + "\"") << ("\"id\" : \"{" + idText + "}\"") << "id";
+        QTest::newRow("date as a number")
+            << QByteArray("\"2024-03-05T14:07:09Z\"") << QByteArray("731340429") << "scanDate";
+    }
+
+    void editedMemberFails() {
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        QFETCH(QString, where);
+        AnalysisResult result = sampleResult();
+        result.id = QUuid::fromString(QLatin1String(idText));
+        const QByteArray valid = json::encode(result);
+        QCOMPARE(valid.count(from), 1);
+        QString error;
+        QVERIFY(!json::decodeResult(QByteArray(valid).replace(from, to), &error).has_value());
+        QVERIFY2(error.startsWith(where + QStringLiteral(": ")), qPrintable(error));
+    }
+
+    void malformedDocumentsFail() {
+        const QByteArray valid = json::encode(sampleResult());
+        for (const QByteArray& document :
+             {valid.left(valid.size() / 2), QByteArray(), QByteArray("[]"), QByteArray("null"),
+              QByteArray("{}"), valid + "{}", valid.left(valid.size() - 3)}) {
+            QString error;
+            QVERIFY(!json::decodeResult(document, &error).has_value());
+            QVERIFY(!error.isEmpty());
+        }
+    }
+
+private:
+    const QByteArray idText = "5B7A0C1D-2E3F-4A5B-9C6D-7E8F90A1B2C3";
 };
 
 QTEST_APPLESS_MAIN(JsonCodecTest)

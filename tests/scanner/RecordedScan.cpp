@@ -1,10 +1,6 @@
 #include "RecordedScan.h"
 
-#include "TestTrees.h"
-#include "scanner/ScanAggregator.h"
-
-#include <QDir>
-#include <QFile>
+#include <algorithm>
 
 namespace tessarine::testing {
 
@@ -48,44 +44,6 @@ AnalysisResult withoutIdentities(AnalysisResult result) {
         file.id = QUuid();
     for (PatternInsight& insight : result.insights)
         insight.id = QUuid();
-    return result;
-}
-
-namespace {
-
-// Written independently of the scanner's byte-level rule: the text after the last dot of the
-// decoded name, unless the name starts or ends with that dot.
-QString extensionOf(const QString& name) {
-    const qsizetype dot = name.lastIndexOf('.');
-    return dot <= 0 || dot == name.size() - 1 ? QString() : name.sliced(dot + 1).toLower();
-}
-
-FileInfo recordOf(const WalkedItem& item) {
-    FileInfo info;
-    info.path = QFile::decodeName(item.path);
-    info.name = QFile::decodeName(item.path.mid(item.path.lastIndexOf('/') + 1));
-    info.size = item.size;
-    info.fileExtension = extensionOf(info.name);
-    info.category = categoryForExtension(info.fileExtension);
-    info.depth = item.depth;
-    info.modificationDate = item.modifiedMsecs == ListedEntry::unknownModificationTime
-                                ? distantPast()
-                                : QDateTime::fromMSecsSinceEpoch(item.modifiedMsecs, Qt::UTC);
-    info.isDirectory = item.kind == EntryKind::directory || item.kind == EntryKind::package;
-    return info;
-}
-
-} // namespace
-
-AnalysisResult referenceResult(const QString& root) {
-    ScanAggregator aggregator;
-    for (const WalkedItem& item : referenceWalk(QFile::encodeName(root))) {
-        if (item.kind != EntryKind::symlink && item.kind != EntryKind::unreadable)
-            aggregator.add(recordOf(item));
-    }
-    AnalysisResult result = aggregator.finish();
-    result.rootPath = QDir::cleanPath(root);
-    result.rootName = QDir(root).dirName();
     return result;
 }
 

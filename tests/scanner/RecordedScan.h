@@ -29,8 +29,4 @@ RecordedScan recordScan(const QString& path, const SnapshotReaction& react = {})
 // identities, the scan date and its duration.
 AnalysisResult withoutIdentities(AnalysisResult result);
 
-// What a plain sequential recursive walk of `root` yields, folded record by record: the result a
-// scan of an unchanging tree must give.
-AnalysisResult referenceResult(const QString& root);
-
 } // namespace tessarine::testing

@@ -1,5 +1,6 @@
+#include "FileTrees.h"
 #include "RecordedScan.h"
-#include "TestTrees.h"
+#include "ReferenceWalk.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,15 +13,6 @@ using namespace tessarine;
 using namespace tessarine::testing;
 
 namespace {
-
-// 50 folders of 4 files each: 250 items, folders and files interleaved in listing order.
-void makeTreeOf250(const QString& root) {
-    for (int folder = 0; folder < 50; ++folder) {
-        for (int file = 0; file < 4; ++file)
-            writeFile(QStringLiteral("%1/d%2/f%3.dat").arg(root).arg(folder).arg(file),
-                      folder * 4 + file);
-    }
-}
 
 // The progress a sequential walk shows once it has analysed `count` items.
 ScanProgress expectedAfter(const std::vector<WalkedItem>& walk, qsizetype count) {
@@ -46,153 +38,135 @@ class ScanLifecycleTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void publishesEveryHundredAnalysedItems();
-    void cancelsDuringAnalysis();
-    void forgetsCancelMadeBeforeTheScan();
-    void taskCancelledAsItStartsListsOnlyPart();
-    void cancelBeforeAnythingWasFoundMeansNothingToAccess();
-    void analysesWhatDiscoveryFoundEvenIfFilesVanish();
-};
+    void publishesEveryHundredAnalysedItems() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4); // 250 items, folders and files interleaved
+        const std::vector<WalkedItem> walk = referenceWalk(QFile::encodeName(dir.path()));
+        QCOMPARE(walk.size(), 250u);
 
-void ScanLifecycleTest::publishesEveryHundredAnalysedItems() {
-    QTemporaryDir dir;
-    makeTreeOf250(dir.path());
-    const std::vector<WalkedItem> walk = referenceWalk(QFile::encodeName(dir.path()));
-    QCOMPARE(walk.size(), 250u);
+        const RecordedScan scan = recordScan(dir.path());
 
-    const RecordedScan scan = recordScan(dir.path());
-
-    QCOMPARE(scan.phases(),
-             (QList<ScanPhase>{ScanPhase::initializing, ScanPhase::scanning, ScanPhase::analyzing,
-                               ScanPhase::finalizing, ScanPhase::complete}));
-    const QDateTime startTime = scan.snapshots.front().startTime;
-    for (const ScanProgress& snapshot : scan.snapshots)
-        QCOMPARE(snapshot.startTime, startTime);
-    // Discovery snapshots past the opening one (only a slow machine shows them) carry a path
-    // and counts that never run ahead of the listing.
-    const QList<ScanProgress> discovery = scan.snapshotsIn(ScanPhase::scanning);
-    QCOMPARE(discovery.front().filesScanned + discovery.front().foldersScanned, 0);
-    for (const ScanProgress& snapshot : discovery.sliced(1)) {
-        QVERIFY(snapshot.currentPath.startsWith(dir.path()));
-        QVERIFY(snapshot.filesScanned + snapshot.foldersScanned <= 250);
-        QVERIFY(!snapshot.estimatedTotalFiles);
-    }
-
-    const QList<ScanProgress> analysis = scan.snapshotsIn(ScanPhase::analyzing);
-    QCOMPARE(analysis.size(), 3);
-    ScanProgress opening;
-    opening.phase = ScanPhase::analyzing;
-    opening.startTime = startTime;
-    opening.estimatedTotalFiles = 250;
-    QCOMPARE(analysis[0], opening);
-    for (qsizetype periodic : {1, 2}) {
-        ScanProgress expected = expectedAfter(walk, periodic * 100);
-        expected.startTime = startTime;
-        QCOMPARE(analysis[periodic], expected);
-    }
-    // The closing snapshots repeat the last periodic one; only the result has the final totals.
-    for (ScanPhase closing : {ScanPhase::finalizing, ScanPhase::complete}) {
-        const QList<ScanProgress> snapshots = scan.snapshotsIn(closing);
-        QCOMPARE(snapshots.size(), 1);
-        ScanProgress expected = analysis[2];
-        expected.phase = closing;
-        QCOMPARE(snapshots.front(), expected);
-    }
-    QCOMPARE(scan.result().fileCount, 200);
-    QCOMPARE(scan.result().folderCount, 50);
-}
-
-void ScanLifecycleTest::cancelsDuringAnalysis() {
-    QTemporaryDir dir;
-    makeTreeOf250(dir.path());
-
-    const RecordedScan scan =
-        recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
-            if (progress.phase == ScanPhase::analyzing && progress.filesScanned > 0)
-                scanner.cancel();
-        });
-
-    QCOMPARE(scan.error().kind, ScanError::Kind::cancelled);
-    QCOMPARE(scan.error().errorDescription(), QStringLiteral("Scan was cancelled"));
-    QCOMPARE(scan.phases().back(), ScanPhase::cancelled);
-    QCOMPARE(scan.snapshotsIn(ScanPhase::cancelled).size(), 1);
-    QVERIFY(scan.snapshotsIn(ScanPhase::finalizing).isEmpty());
-    // The cancelled snapshot keeps the counters of the one it interrupted.
-    ScanProgress expected = scan.snapshots[scan.snapshots.size() - 2];
-    QCOMPARE(expected.filesScanned + expected.foldersScanned, 100);
-    expected.phase = ScanPhase::cancelled;
-    QCOMPARE(scan.snapshots.back(), expected);
-}
-
-void ScanLifecycleTest::forgetsCancelMadeBeforeTheScan() {
-    QTemporaryDir dir;
-    writeFile(dir.path() + "/a.txt", 3);
-    FileSystemScanner scanner;
-    QVERIFY(!scanner.currentProgress());
-    scanner.cancel();
-
-    const ScanOutcome outcome = scanner.scan(dir.path());
-
-    QCOMPARE(std::get<AnalysisResult>(outcome).fileCount, 1);
-    QCOMPARE(scanner.currentProgress()->phase, ScanPhase::complete);
-}
-
-// Cancel right after a drop, or a second New Scan: the task is cancelled while its worker is still
-// starting, and must not go on to walk the whole tree.
-void ScanLifecycleTest::taskCancelledAsItStartsListsOnlyPart() {
-    const QTemporaryDir dir = makeFastTemporaryDir();
-    generateTree(dir.path(), 30000, 5u);
-    const qint64 items = qint64(referenceWalk(QFile::encodeName(dir.path())).size());
-    FileSystemScanner scanner;
-    const CancelToken task;
-    std::optional<ScanOutcome> outcome;
-
-    std::thread worker([&] { outcome = scanner.scan(dir.path(), task); });
-    task.cancel();
-    worker.join();
-
-    QVERIFY(std::holds_alternative<ScanError>(*outcome));
-    const ScanProgress last = *scanner.currentProgress();
-    QVERIFY(last.phase == ScanPhase::scanning || last.phase == ScanPhase::cancelled);
-    QVERIFY(last.estimatedTotalFiles.value_or(0) < items);
-}
-
-void ScanLifecycleTest::cancelBeforeAnythingWasFoundMeansNothingToAccess() {
-    QTemporaryDir dir;
-    makeTreeOf250(dir.path());
-
-    const RecordedScan scan =
-        recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
-            if (progress.phase == ScanPhase::scanning)
-                scanner.cancel();
-        });
-
-    QCOMPARE(scan.error(),
-             (ScanError{ScanError::Kind::cannotAccessDirectory, QDir::cleanPath(dir.path())}));
-    QCOMPARE(scan.phases().back(), ScanPhase::scanning);
-}
-
-// Discovery stores each item's metadata beside it; the analysis never goes back to the disk, so
-// files deleted in between neither disturb it nor change its figures.
-void ScanLifecycleTest::analysesWhatDiscoveryFoundEvenIfFilesVanish() {
-    QTemporaryDir dir;
-    makeTreeOf250(dir.path());
-    const AnalysisResult undisturbed = recordScan(dir.path()).result();
-
-    bool removed = false;
-    const RecordedScan scan = recordScan(dir.path(), [&](FileSystemScanner&,
-                                                         const ScanProgress& progress) {
-        if (progress.phase == ScanPhase::analyzing && progress.estimatedTotalFiles && !removed) {
-            removed = true;
-            for (int folder = 0; folder < 50; folder += 2)
-                QDir(QStringLiteral("%1/d%2").arg(dir.path()).arg(folder)).removeRecursively();
+        QCOMPARE(scan.phases(), (QList<ScanPhase>{ScanPhase::initializing, ScanPhase::scanning,
+                                                  ScanPhase::analyzing, ScanPhase::finalizing,
+                                                  ScanPhase::complete}));
+        const QDateTime startTime = scan.snapshots.front().startTime;
+        for (const ScanProgress& snapshot : scan.snapshots)
+            QCOMPARE(snapshot.startTime, startTime);
+        // Discovery snapshots past the opening one (only a slow machine shows them) carry a path
+        // and counts that never run ahead of the listing.
+        const QList<ScanProgress> discovery = scan.snapshotsIn(ScanPhase::scanning);
+        QCOMPARE(discovery.front().filesScanned + discovery.front().foldersScanned, 0);
+        for (const ScanProgress& snapshot : discovery.sliced(1)) {
+            QVERIFY(snapshot.currentPath.startsWith(dir.path()));
+            QVERIFY(snapshot.filesScanned + snapshot.foldersScanned <= 250);
+            QVERIFY(!snapshot.estimatedTotalFiles);
         }
-    });
 
-    QVERIFY(removed);
-    QVERIFY(!QFile::exists(dir.path() + "/d0/f0.dat"));
-    QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(undisturbed));
-}
+        const QList<ScanProgress> analysis = scan.snapshotsIn(ScanPhase::analyzing);
+        QCOMPARE(analysis.size(), 3);
+        ScanProgress opening;
+        opening.phase = ScanPhase::analyzing;
+        opening.startTime = startTime;
+        opening.estimatedTotalFiles = 250;
+        QCOMPARE(analysis[0], opening);
+        for (qsizetype periodic : {1, 2}) {
+            ScanProgress expected = expectedAfter(walk, periodic * 100);
+            expected.startTime = startTime;
+            QCOMPARE(analysis[periodic], expected);
+        }
+        // The closing snapshots repeat the last periodic one; only the result has the final totals.
+        for (ScanPhase closing : {ScanPhase::finalizing, ScanPhase::complete}) {
+            const QList<ScanProgress> snapshots = scan.snapshotsIn(closing);
+            QCOMPARE(snapshots.size(), 1);
+            ScanProgress expected = analysis[2];
+            expected.phase = closing;
+            QCOMPARE(snapshots.front(), expected);
+        }
+        QCOMPARE(scan.result().fileCount, 200);
+        QCOMPARE(scan.result().folderCount, 50);
+    }
+
+    void cancelsDuringAnalysis() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+
+        const RecordedScan scan =
+            recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::analyzing && progress.filesScanned > 0)
+                    scanner.cancel();
+            });
+
+        QCOMPARE(scan.error().kind, ScanError::Kind::cancelled);
+        QCOMPARE(scan.error().errorDescription(), QStringLiteral("Scan was cancelled"));
+        QCOMPARE(scan.phases().back(), ScanPhase::cancelled);
+        QCOMPARE(scan.snapshotsIn(ScanPhase::cancelled).size(), 1);
+        QVERIFY(scan.snapshotsIn(ScanPhase::finalizing).isEmpty());
+        // The cancelled snapshot keeps the counters of the one it interrupted.
+        ScanProgress expected = scan.snapshots[scan.snapshots.size() - 2];
+        QCOMPARE(expected.filesScanned + expected.foldersScanned, 100);
+        expected.phase = ScanPhase::cancelled;
+        QCOMPARE(scan.snapshots.back(), expected);
+    }
+
+    // Cancel right after a drop, or a second New Scan: the task is cancelled while its worker is
+    // still starting, and must not go on to walk the whole tree.
+    void taskCancelledAsItStartsListsOnlyPart() {
+        const QTemporaryDir dir = makeFastTemporaryDir();
+        generateTree(dir.path(), 30000, 5u);
+        const qint64 items = qint64(referenceWalk(QFile::encodeName(dir.path())).size());
+        FileSystemScanner scanner;
+        const CancelToken task;
+        std::optional<ScanOutcome> outcome;
+
+        std::thread worker([&] { outcome = scanner.scan(dir.path(), task); });
+        task.cancel();
+        worker.join();
+
+        QVERIFY(std::holds_alternative<ScanError>(*outcome));
+        const ScanProgress last = *scanner.currentProgress();
+        QVERIFY(last.phase == ScanPhase::scanning || last.phase == ScanPhase::cancelled);
+        QVERIFY(last.estimatedTotalFiles.value_or(0) < items);
+    }
+
+    void cancelBeforeAnythingWasFoundMeansNothingToAccess() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+
+        const RecordedScan scan =
+            recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::scanning)
+                    scanner.cancel();
+            });
+
+        QCOMPARE(scan.error(),
+                 (ScanError{ScanError::Kind::cannotAccessDirectory, QDir::cleanPath(dir.path())}));
+        QCOMPARE(scan.phases().back(), ScanPhase::scanning);
+    }
+
+    // Discovery stores each item's metadata beside it; the analysis never goes back to the disk, so
+    // files deleted in between neither disturb it nor change its figures.
+    void analysesWhatDiscoveryFoundEvenIfFilesVanish() {
+        QTemporaryDir dir;
+        writeFolders(dir.path(), 50, 4);
+        const AnalysisResult undisturbed = recordScan(dir.path()).result();
+
+        bool removed = false;
+        const RecordedScan scan =
+            recordScan(dir.path(), [&](FileSystemScanner&, const ScanProgress& progress) {
+                if (progress.phase == ScanPhase::analyzing && progress.estimatedTotalFiles &&
+                    !removed) {
+                    removed = true;
+                    for (int folder = 0; folder < 50; folder += 2)
+                        QDir(QStringLiteral("%1/folder%2").arg(dir.path()).arg(folder))
+                            .removeRecursively();
+                }
+            });
+
+        QVERIFY(removed);
+        QVERIFY(!QFile::exists(dir.path() + "/folder0/file0"));
+        QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(undisturbed));
+    }
+};
 
 QTEST_GUILESS_MAIN(ScanLifecycleTest)
 #include "ScanLifecycleTest.moc"

@@ -1,5 +1,5 @@
 #include "FileSizeLimit.h"
-#include "FolderSnapshot.h"
+#include "FileTrees.h"
 #include "SampleResults.h"
 #include "StandardOutputCapture.h"
 
@@ -29,12 +29,6 @@ QDateTime wholeSeconds(const QDateTime& date) {
     return QDateTime::fromSecsSinceEpoch(date.toSecsSinceEpoch(), QTimeZone::utc());
 }
 
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
-
 QList<AnalysisResult> loadedResults(PersistenceService& store) {
     auto loaded = store.loadAll();
     if (auto* error = std::get_if<StorageError>(&loaded))
@@ -60,7 +54,6 @@ private slots:
         QCOMPARE(store.storagePath(), base.filePath("Tessarine"));
         QVERIFY(!store.directoryError());
         QVERIFY(QFileInfo(store.storagePath()).isDir());
-        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(store.loadAll()));
         QVERIFY(loadedResults(store).isEmpty());
 
         QVERIFY(QDir(store.storagePath()).removeRecursively());
@@ -190,9 +183,7 @@ private slots:
 
         PersistenceService store(notADirectory);
         QVERIFY(store.directoryError());
-        QCOMPARE(store.directoryError()->kind, PersistenceError::Kind::directoryNotAccessible);
-        QCOMPARE(store.directoryError()->errorDescription(),
-                 QStringLiteral("Storage directory not accessible: Not a directory"));
+        QVERIFY(store.directoryError()->errorDescription().endsWith("Not a directory"));
 
         const AnalysisResult result = sampleResult(utc(10));
         const std::optional<StorageError> saveError = store.save(result);

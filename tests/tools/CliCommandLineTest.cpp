@@ -2,73 +2,62 @@
 
 #include <QTest>
 
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 class CliCommandLineTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void helpGoesToStandardOutput_data();
-    void helpGoesToStandardOutput();
-    void badUsageExitsWithTwo_data();
-    void badUsageExitsWithTwo();
-    void doubleDashEndsTheOptions();
+    void helpGoesToStandardOutput_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("--help") << QStringList{"--help"};
+        QTest::newRow("scan --help") << QStringList{"scan", "/nowhere", "--help"};
+        QTest::newRow("history -h") << QStringList{"history", "-h"};
+    }
+
+    void helpGoesToStandardOutput() {
+        QFETCH(QStringList, arguments);
+        const CliRun run = runCli(arguments);
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.output.startsWith("Usage:\n"));
+        for (const char* command : {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
+            QVERIFY2(run.output.contains(command), command);
+        QCOMPARE(run.errors, QByteArray());
+    }
+
+    void badUsageExitsWithTwo_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("problem");
+        QTest::newRow("nothing") << QStringList{} << "Missing command";
+        QTest::newRow("unknown command")
+            << QStringList{"frobnicate"} << "Unknown command: frobnicate";
+        QTest::newRow("scan without folder")
+            << QStringList{"scan"} << "scan needs exactly one FOLDER";
+        QTest::newRow("unknown option")
+            << QStringList{"scan", "--fast", "/a"} << "Unknown option: --fast";
+        QTest::newRow("history with a folder") << QStringList{"history", "/a"} << "history takes";
+        QTest::newRow("delete as json")
+            << QStringList{"history", "delete", "x", "--json"} << "history takes";
+    }
+
+    void badUsageExitsWithTwo() {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, problem);
+        const CliRun run = runCli(arguments);
+        QCOMPARE(run.exitCode, 2);
+        QCOMPARE(run.output, QByteArray());
+        QVERIFY2(run.errorText().startsWith(problem), qPrintable(run.errorText()));
+        QVERIFY(run.errors.contains("\nUsage:\n"));
+    }
+
+    void doubleDashEndsTheOptions() {
+        // A folder may be named like an option; after "--" it is a folder, even "--help".
+        const CliRun run = runCli({"scan", "--", "--help"}, {.workingDirectory = QDir::tempPath()});
+        QCOMPARE(run.exitCode, 1);
+        QCOMPARE(run.errorText(),
+                 QStringLiteral("Cannot access directory: ") + QDir::tempPath() + "/--help\n");
+    }
 };
-
-void CliCommandLineTest::helpGoesToStandardOutput_data() {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("--help") << QStringList{"--help"};
-    QTest::newRow("-h") << QStringList{"-h"};
-    QTest::newRow("help") << QStringList{"help"};
-    QTest::newRow("scan --help") << QStringList{"scan", "/nowhere", "--help"};
-    QTest::newRow("history -h") << QStringList{"history", "-h"};
-}
-
-void CliCommandLineTest::helpGoesToStandardOutput() {
-    QFETCH(QStringList, arguments);
-    const CliRun run = runCli(arguments);
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY(run.output.startsWith("Usage:\n"));
-    for (const char* command : {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
-        QVERIFY2(run.output.contains(command), command);
-    QCOMPARE(run.errors, QByteArray());
-}
-
-void CliCommandLineTest::badUsageExitsWithTwo_data() {
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("problem");
-    QTest::newRow("nothing") << QStringList{} << "Missing command";
-    QTest::newRow("unknown command") << QStringList{"frobnicate"} << "Unknown command: frobnicate";
-    QTest::newRow("scan without folder") << QStringList{"scan"} << "scan needs exactly one FOLDER";
-    QTest::newRow("scan of two folders")
-        << QStringList{"scan", "/a", "/b"} << "scan needs exactly one FOLDER";
-    QTest::newRow("unknown option")
-        << QStringList{"scan", "--fast", "/a"} << "Unknown option: --fast";
-    QTest::newRow("tree takes no options")
-        << QStringList{"tree", "--csv", "/a"} << "Unknown option: --csv";
-    QTest::newRow("delete without id") << QStringList{"history", "delete"} << "history takes";
-    QTest::newRow("history with a folder") << QStringList{"history", "/a"} << "history takes";
-    QTest::newRow("delete as json")
-        << QStringList{"history", "delete", "x", "--json"} << "history takes";
-}
-
-void CliCommandLineTest::badUsageExitsWithTwo() {
-    QFETCH(QStringList, arguments);
-    QFETCH(QString, problem);
-    const CliRun run = runCli(arguments);
-    QCOMPARE(run.exitCode, 2);
-    QCOMPARE(run.output, QByteArray());
-    QVERIFY2(run.errorText().startsWith(problem), qPrintable(run.errorText()));
-    QVERIFY(run.errors.contains("\nUsage:\n"));
-}
-
-void CliCommandLineTest::doubleDashEndsTheOptions() {
-    // A folder may be named like an option; after "--" it is a folder, even "--help".
-    const CliRun run = runCli({"scan", "--", "--help"}, CliOptions::inFolder(QDir::tempPath()));
-    QCOMPARE(run.exitCode, 1);
-    QCOMPARE(run.errorText(),
-             QStringLiteral("Cannot access directory: ") + QDir::tempPath() + "/--help\n");
-}
 
 QTEST_GUILESS_MAIN(CliCommandLineTest)
 #include "CliCommandLineTest.moc"

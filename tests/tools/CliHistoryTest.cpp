@@ -1,7 +1,9 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
+#include "SampleResults.h"
 
 #include "model/Json.h"
+#include "storage/PersistenceService.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,33 +14,12 @@
 #include <QTest>
 
 using namespace tessarine;
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
-class CliHistoryTest : public QObject {
-    Q_OBJECT
+namespace {
 
-private slots:
-    void init();
-    void emptyHistory();
-    void savedScansAreListedNewestFirst();
-    void deleteRemovesOneScan();
-    void unreadableFilesDoNotSpoilTheJson();
-    void saveFailureIsReported();
-
-private:
-    // Scans a new folder holding one file with --save, and returns the printed result.
-    std::optional<AnalysisResult> saveScanOf(const QString& folderName);
-
-    QTemporaryDir m_folders;
-};
-
-void CliHistoryTest::init() {
-    QFile::remove(historyDirectory());
-    QVERIFY(QDir(historyDirectory()).removeRecursively());
-}
-
-std::optional<AnalysisResult> CliHistoryTest::saveScanOf(const QString& folderName) {
-    const QString folder = m_folders.filePath(folderName);
+// Scans a new folder holding one file with --save, and returns the printed result.
+std::optional<AnalysisResult> saveScanOf(const QString& folder) {
     writeFile(folder + "/file.bin", 1234);
     const CliRun run = runCli({"scan", "--save", folder});
     if (run.exitCode != 0)
@@ -47,7 +28,7 @@ std::optional<AnalysisResult> CliHistoryTest::saveScanOf(const QString& folderNa
 }
 
 // The elements of a JSON array, or none when the text is anything else.
-static std::optional<QJsonArray> jsonArray(const QByteArray& text) {
+std::optional<QJsonArray> jsonArray(const QByteArray& text) {
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError || !document.isArray())
@@ -55,107 +36,121 @@ static std::optional<QJsonArray> jsonArray(const QByteArray& text) {
     return document.array();
 }
 
-static QString idText(const AnalysisResult& result) {
+QString idText(const AnalysisResult& result) {
     return result.id.toString(QUuid::WithoutBraces).toUpper();
 }
 
-void CliHistoryTest::emptyHistory() {
-    const CliRun table = runCli({"history"});
-    QCOMPARE(table.exitCode, 0);
-    QCOMPARE(table.output, "No stored scans.\n");
-    const CliRun json = runCli({"history", "--json"});
-    QCOMPARE(json.exitCode, 0);
-    QCOMPARE(json.output, "[]\n");
-}
+} // namespace
 
-void CliHistoryTest::savedScansAreListedNewestFirst() {
-    const auto older = saveScanOf("older");
-    QVERIFY(older);
-    // Stored dates have whole seconds; the later scan must be later even at that precision.
-    QTest::qWait(1100);
-    const auto newer = saveScanOf("newer folder");
-    QVERIFY(newer);
+class CliHistoryTest : public QObject {
+    Q_OBJECT
 
-    QFile stored(historyDirectory() + "/scan_" + idText(*older) + ".json");
-    QVERIFY(stored.open(QIODevice::ReadOnly));
-    QCOMPARE(stored.readAll(), json::encode(*older));
+private slots:
+    void init() {
+        QFile::remove(historyDirectory());
+        QVERIFY(QDir(historyDirectory()).removeRecursively());
+    }
 
-    const CliRun table = runCli({"history"});
-    QCOMPARE(table.exitCode, 0);
-    const QStringList lines = QString::fromUtf8(table.output).split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(lines.size(), 3);
-    QVERIFY(lines[0].startsWith("Date"));
-    QVERIFY(lines[1].contains(newer->rootPath) && lines[1].endsWith(idText(*newer)));
-    QVERIFY(lines[2].contains(older->rootPath) && lines[2].endsWith(idText(*older)));
-    // Aligned: every column starts at the same place on every line.
-    const qsizetype idColumn = lines[0].indexOf("ID");
-    QCOMPARE(lines[1].indexOf(idText(*newer)), idColumn);
-    QCOMPARE(lines[2].indexOf(idText(*older)), idColumn);
-    QCOMPARE(lines[1].indexOf(newer->rootPath), lines[0].indexOf("Folder"));
+    void emptyHistory() {
+        const CliRun table = runCli({"history"});
+        QCOMPARE(table.exitCode, 0);
+        QCOMPARE(table.output, "No stored scans.\n");
+        const CliRun json = runCli({"history", "--json"});
+        QCOMPARE(json.exitCode, 0);
+        QCOMPARE(json.output, "[]\n");
+    }
 
-    const CliRun json = runCli({"history", "--json"});
-    QCOMPARE(json.exitCode, 0);
-    const auto all = jsonArray(json.output);
-    QVERIFY(all);
-    QCOMPARE(all->size(), 2);
-    QCOMPARE(all->at(0).toObject()["id"].toString(), idText(*newer));
-    QCOMPARE(all->at(1).toObject()["rootPath"].toString(), older->rootPath);
+    void savedScansAreListedNewestFirst() {
+        const auto scanned = saveScanOf(m_folders.filePath("scanned"));
+        QVERIFY(scanned);
+        QCOMPARE(readBytes(historyDirectory() + "/scan_" + idText(*scanned) + ".json"),
+                 json::encode(*scanned));
+        // Stored dates have whole seconds: the others are set an hour either side of the scan.
+        PersistenceService store(QFileInfo(historyDirectory()).path());
+        AnalysisResult newer = sampleResult(scanned->scanDate.addSecs(3600));
+        AnalysisResult older = sampleResult(scanned->scanDate.addSecs(-3600));
+        newer.rootPath = QStringLiteral("/newer");
+        older.rootPath = QStringLiteral("/older");
+        QVERIFY(!store.save(older) && !store.save(newer));
 
-    // --csv changes what is printed, not what is saved.
-    const CliRun csv = runCli({"scan", "--save", "--csv", older->rootPath});
-    QCOMPARE(csv.exitCode, 0);
-    QVERIFY(csv.output.startsWith("Path,Name,"));
-    QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 3);
-}
+        const CliRun table = runCli({"history"});
+        QCOMPARE(table.exitCode, 0);
+        const QStringList lines = QString::fromUtf8(table.output).split('\n', Qt::SkipEmptyParts);
+        QCOMPARE(lines.size(), 4);
+        QVERIFY(lines[0].startsWith("Date"));
+        const std::pair<int, const AnalysisResult*> rows[] = {
+            {1, &newer}, {2, &*scanned}, {3, &older}};
+        for (const auto& [line, result] : rows)
+            QVERIFY(lines[line].contains(result->rootPath) &&
+                    lines[line].endsWith(idText(*result)));
 
-void CliHistoryTest::deleteRemovesOneScan() {
-    const auto kept = saveScanOf("kept");
-    const auto removed = saveScanOf("removed");
-    QVERIFY(kept && removed);
+        const CliRun json = runCli({"history", "--json"});
+        QCOMPARE(json.exitCode, 0);
+        const auto all = jsonArray(json.output);
+        QVERIFY(all);
+        QCOMPARE(all->size(), 3);
+        QCOMPARE(all->at(0).toObject()["id"].toString(), idText(newer));
+        QCOMPARE(all->at(1).toObject()["rootPath"].toString(), scanned->rootPath);
 
-    // Ids are accepted in either case.
-    const QString id = idText(*removed).toLower();
-    const CliRun run = runCli({"history", "delete", id});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}),
-             QStringList{"scan_" + idText(*kept) + ".json"});
+        // --csv changes what is printed, not what is saved.
+        const CliRun csv = runCli({"scan", "--save", "--csv", scanned->rootPath});
+        QCOMPARE(csv.exitCode, 0);
+        QVERIFY(csv.output.startsWith("Path,Name,"));
+        QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 4);
+    }
 
-    const CliRun again = runCli({"history", "delete", id});
-    QCOMPARE(again.exitCode, 1);
-    QCOMPARE(again.errorText(), "No stored scan with id " + id + "\n");
+    void deleteRemovesOneScan() {
+        const auto kept = saveScanOf(m_folders.filePath("kept"));
+        const auto removed = saveScanOf(m_folders.filePath("removed"));
+        QVERIFY(kept && removed);
 
-    const CliRun malformed = runCli({"history", "delete", "12345"});
-    QCOMPARE(malformed.exitCode, 1);
-    QCOMPARE(malformed.errorText(), "Not a scan id: 12345\n");
-    QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 1);
-}
+        // Ids are accepted in either case.
+        const QString id = idText(*removed).toLower();
+        const CliRun run = runCli({"history", "delete", id});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}),
+                 QStringList{"scan_" + idText(*kept) + ".json"});
 
-void CliHistoryTest::unreadableFilesDoNotSpoilTheJson() {
-    QVERIFY(saveScanOf("stored"));
-    writeFile(historyDirectory() + "/broken.json", 1);
+        const CliRun again = runCli({"history", "delete", id});
+        QCOMPARE(again.exitCode, 1);
+        QCOMPARE(again.errorText(), "No stored scan with id " + id + "\n");
 
-    // The store reports the broken file on standard output; here that is the data's channel.
-    const CliRun run = runCli({"history", "--json"});
-    QCOMPARE(run.exitCode, 0);
-    const auto all = jsonArray(run.output);
-    QVERIFY(all);
-    QCOMPARE(all->size(), 1);
-    QVERIFY2(run.errorText().startsWith("Failed to load broken.json: "), run.errors);
-}
+        const CliRun malformed = runCli({"history", "delete", "12345"});
+        QCOMPARE(malformed.exitCode, 1);
+        QCOMPARE(malformed.errorText(), "Not a scan id: 12345\n");
+        QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}).size(), 1);
+    }
 
-void CliHistoryTest::saveFailureIsReported() {
-    // A file where the history folder should be: the store cannot make its folder.
-    QVERIFY(QDir().mkpath(QFileInfo(historyDirectory()).path()));
-    writeFile(historyDirectory(), 1);
-    const QString folder = m_folders.filePath("unsaved");
-    writeFile(folder + "/file.bin", 10);
+    void unreadableFilesDoNotSpoilTheJson() {
+        QVERIFY(saveScanOf(m_folders.filePath("stored")));
+        writeFile(historyDirectory() + "/broken.json", 1);
 
-    const CliRun run = runCli({"scan", "--save", folder});
-    QCOMPARE(run.exitCode, 1);
-    QVERIFY2(run.errorText().startsWith("Storage directory not accessible"), run.errors);
-    QCOMPARE(run.output, QByteArray());
-    QVERIFY(QFile::remove(historyDirectory()));
-}
+        // The store reports the broken file on standard output; here that is the data's channel.
+        const CliRun run = runCli({"history", "--json"});
+        QCOMPARE(run.exitCode, 0);
+        const auto all = jsonArray(run.output);
+        QVERIFY(all);
+        QCOMPARE(all->size(), 1);
+        QVERIFY2(run.errorText().startsWith("Failed to load broken.json: "), run.errors);
+    }
+
+    void saveFailureIsReported() {
+        // A file where the history folder should be: the store cannot make its folder.
+        QVERIFY(QDir().mkpath(QFileInfo(historyDirectory()).path()));
+        writeFile(historyDirectory(), 1);
+        const QString folder = m_folders.filePath("unsaved");
+        writeFile(folder + "/file.bin", 10);
+
+        const CliRun run = runCli({"scan", "--save", folder});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.errorText().startsWith("Storage directory not accessible"), run.errors);
+        QCOMPARE(run.output, QByteArray());
+        QVERIFY(QFile::remove(historyDirectory()));
+    }
+
+private:
+    QTemporaryDir m_folders;
+};
 
 QTEST_GUILESS_MAIN(CliHistoryTest)
 #include "CliHistoryTest.moc"

@@ -1,10 +1,10 @@
 #include "CliRun.h"
-#include "TestFolders.h"
+#include "FileTrees.h"
 
 #include <QTemporaryDir>
 #include <QTest>
 
-using namespace tessarine::test;
+using namespace tessarine::testing;
 
 // Ctrl-C during the long-running commands: a clean stop with the cancellation's own text and the
 // status a shell gives an interrupted job.
@@ -12,37 +12,31 @@ class CliInterruptTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void ctrlCCancels_data();
-    void ctrlCCancels();
+    void initTestCase() { writeFolders(m_folder.path(), 100, 20); }
+
+    void ctrlCCancels_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("scan") << "scan"
+                              << "Scan was cancelled\n";
+        QTest::newRow("tree") << "tree"
+                              << "Folder tree building was cancelled\n";
+    }
+
+    void ctrlCCancels() {
+        QFETCH(QString, command);
+        QFETCH(QString, message);
+        const auto run = runCliInterrupted({command, m_folder.path()});
+        if (!run)
+            QSKIP("the command ended before it caught Ctrl-C");
+        QCOMPARE(run->exitCode, 130);
+        QCOMPARE(run->errorText(), message);
+        QCOMPARE(run->output, QByteArray());
+    }
 
 private:
     QTemporaryDir m_folder;
 };
-
-void CliInterruptTest::initTestCase() {
-    writeManyFiles(m_folder.path(), 200, 50);
-}
-
-void CliInterruptTest::ctrlCCancels_data() {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("scan") << "scan"
-                          << "Scan was cancelled\n";
-    QTest::newRow("tree") << "tree"
-                          << "Folder tree building was cancelled\n";
-}
-
-void CliInterruptTest::ctrlCCancels() {
-    QFETCH(QString, command);
-    QFETCH(QString, message);
-    const auto run = runCliInterrupted({command, m_folder.path()});
-    if (!run)
-        QSKIP("the command finished before Ctrl-C could reach it");
-    QCOMPARE(run->exitCode, 130);
-    QCOMPARE(run->errorText(), message);
-    QCOMPARE(run->output, QByteArray());
-}
 
 QTEST_GUILESS_MAIN(CliInterruptTest)
 #include "CliInterruptTest.moc"

@@ -1,14 +1,13 @@
 #include "CliRun.h"
 
 #include <QDir>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QThread>
 
 #include <csignal>
 
-namespace tessarine::test {
+namespace tessarine::testing {
 
 namespace {
 
@@ -19,33 +18,8 @@ QString dataHome() {
     return qEnvironmentVariable("XDG_DATA_HOME");
 }
 
-} // namespace
-
-CliOptions CliOptions::inFolder(const QString& folder) {
-    CliOptions options;
-    options.workingDirectory = folder;
-    return options;
-}
-
-CliOptions CliOptions::writingTo(const QString& file) {
-    CliOptions options;
-    options.outputFile = file;
-    return options;
-}
-
-CliOptions CliOptions::interruptedAfter(int milliseconds) {
-    CliOptions options;
-    options.interruptAfterMs = milliseconds;
-    return options;
-}
-
-QString historyDirectory() {
-    return QDir(dataHome()).filePath(QStringLiteral("Tessarine"));
-}
-
-CliRun runCli(const QStringList& arguments, const CliOptions& options) {
+bool start(QProcess& process, const QStringList& arguments, const CliOptions& options) {
     dataHome();
-    QProcess process;
     process.setProgram(QStringLiteral(TESSARINE_CLI_PATH));
     process.setArguments(arguments);
     if (!options.workingDirectory.isEmpty())
@@ -53,30 +27,57 @@ CliRun runCli(const QStringList& arguments, const CliOptions& options) {
     if (!options.outputFile.isEmpty())
         process.setStandardOutputFile(options.outputFile);
     process.start();
-    if (!process.waitForStarted()) {
-        qWarning("cannot start %s", TESSARINE_CLI_PATH);
-        return {};
-    }
-    if (options.interruptAfterMs >= 0) {
-        QThread::msleep(options.interruptAfterMs);
-        ::kill(pid_t(process.processId()), SIGINT);
-    }
+    if (process.waitForStarted())
+        return true;
+    qWarning("cannot start %s", TESSARINE_CLI_PATH);
+    return false;
+}
+
+CliRun finish(QProcess& process) {
     process.waitForFinished(-1);
     return {process.exitCode(), process.exitStatus() == QProcess::CrashExit,
             process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-std::optional<CliRun> runCliInterrupted(const QStringList& arguments) {
-    // Steps small enough to land inside a run that is short on a fast machine.
-    for (int delay = 5; delay < 1000; delay += delay / 3) {
-        CliRun run = runCli(arguments, CliOptions::interruptedAfter(delay));
-        if (run.crashed)
-            continue; // too early: the handler was not installed yet
-        if (run.exitCode == 0)
-            return std::nullopt; // too late, and later attempts would be later still
-        return run;
+// Whether the process has a handler of its own for SIGINT: the "SigCgt" mask of its status.
+bool catchesInterrupt(qint64 pid) {
+    QFile status(QStringLiteral("/proc/%1/status").arg(pid));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    for (const QByteArray& line : status.readAll().split('\n')) {
+        if (line.startsWith("SigCgt:"))
+            return line.mid(7).trimmed().toULongLong(nullptr, 16) & (1ULL << (SIGINT - 1));
     }
-    return std::nullopt;
+    return false;
 }
 
-} // namespace tessarine::test
+} // namespace
+
+QString historyDirectory() {
+    return QDir(dataHome()).filePath(QStringLiteral("Tessarine"));
+}
+
+CliRun runCli(const QStringList& arguments, const CliOptions& options) {
+    QProcess process;
+    if (!start(process, arguments, options))
+        return {};
+    return finish(process);
+}
+
+std::optional<CliRun> runCliInterrupted(const QStringList& arguments) {
+    QProcess process;
+    if (!start(process, arguments, {}))
+        return std::nullopt;
+    while (!catchesInterrupt(process.processId())) {
+        if (process.waitForFinished(1))
+            return std::nullopt;
+    }
+    ::kill(pid_t(process.processId()), SIGINT);
+    CliRun run = finish(process);
+    // Killed by the signal: the work ended and dropped its handler just before Ctrl-C came.
+    if (run.crashed)
+        return std::nullopt;
+    return run;
+}
+
+} // namespace tessarine::testing

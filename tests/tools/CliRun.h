@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace tessarine::test {
+namespace tessarine::testing {
 
 // What one run of tessarine-cli left behind.
 struct CliRun {
@@ -19,25 +19,19 @@ struct CliRun {
 };
 
 struct CliOptions {
-    QString workingDirectory;
-    QString outputFile;        // standard output goes here instead of being captured
-    int interruptAfterMs = -1; // sends Ctrl-C (SIGINT) this long after the start
-
-    static CliOptions inFolder(const QString& folder);
-    static CliOptions writingTo(const QString& file);
-    static CliOptions interruptedAfter(int milliseconds);
+    QString workingDirectory{};
+    QString outputFile{}; // standard output goes here instead of being captured
 };
 
 // Runs the built program to its end. The child inherits the test's XDG_DATA_HOME, so it uses the
 // test's own scan history; a test run outside CTest gets a temporary one instead of the real one.
 CliRun runCli(const QStringList& arguments, const CliOptions& options = {});
 
-// Runs the program with Ctrl-C sent after growing delays until one lands while the work is under
-// way, and returns that run. None when the work always finished first, or the signal always came
-// before the program could catch it: the caller then skips rather than guesses.
+// Runs the program and sends it Ctrl-C (SIGINT) as soon as it catches that signal, that is once
+// its work is under way. None when the program ended before that.
 std::optional<CliRun> runCliInterrupted(const QStringList& arguments);
 
 // The history folder the program uses in this test.
 QString historyDirectory();
 
-} // namespace tessarine::test
+} // namespace tessarine::testing

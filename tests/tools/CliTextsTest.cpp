@@ -5,7 +5,6 @@
 #include "ProgressText.h"
 
 #include "model/ScanProgress.h"
-#include "tree/FolderTreeProgress.h"
 
 #include <QLocale>
 #include <QTest>
@@ -17,93 +16,71 @@ class CliTextsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void scanLineShowsWhatIsKnown();
-    void treeLine();
-    void linesFitTheTerminal();
-    void historyTableIsAlignedAndSafe();
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    void scanLineShowsWhatIsKnown() {
+        ProgressText<ScanProgress> text;
+        ScanProgress discovery{ScanPhase::scanning, 4000, 1000, "/x", 0, m_start, std::nullopt};
+        // No rate before the phase has run a while, no bytes while discovery reads none.
+        QCOMPARE(text.describe(discovery, m_start.addSecs(1)), "Discovering files...  5,000 items");
+        discovery.filesScanned = 8000;
+        QCOMPARE(text.describe(discovery, m_start.addSecs(3)),
+                 "Discovering files...  9,000 items  2,000 items/s");
+
+        // Analysis counts from zero again, so its rate starts afresh.
+        ScanProgress analysis{ScanPhase::analyzing, 0, 0, "/x", 0, m_start, 10000};
+        QCOMPARE(text.describe(analysis, m_start.addSecs(3)),
+                 "Analyzing files...  0 / 10,000 items");
+        analysis.filesScanned = 4500;
+        analysis.foldersScanned = 500;
+        analysis.bytesScanned = 1'500'000;
+        QCOMPARE(text.describe(analysis, m_start.addSecs(5)),
+                 "Analyzing files...  5,000 / 10,000 items  1.5 MB  2,500 items/s  5s remaining");
+    }
+
+    void linesFitTheTerminal() {
+        QCOMPARE(fitToWidth("short", 80), "short");
+        QCOMPARE(fitToWidth("exactly", 8), "exactly");
+        // One column stays free so the line never wraps.
+        QCOMPARE(fitToWidth("exactly", 7), "exactl");
+        QCOMPARE(fitToWidth("anything", 0), "");
+        // A character outside the basic plane is never cut in half.
+        const QString emoji = QString::fromUtf8("ab\U0001F600");
+        QCOMPARE(fitToWidth(emoji, 4), "ab");
+        QCOMPARE(fitToWidth(emoji, 5), emoji);
+    }
+
+    void historyTableIsAlignedAndSafe() {
+        AnalysisResult small;
+        small.scanDate = m_start;
+        small.rootPath = "/home/a\nb\033[2J";
+        small.totalSize = 999;
+        small.fileCount = 3;
+        AnalysisResult large = small;
+        large.id = QUuid::createUuid();
+        large.rootPath = "/srv/much/longer/path";
+        large.totalSize = 1'230'000'000;
+        large.fileCount = 1'234'567;
+
+        const QStringList lines = historyTable({large, small}).split('\n');
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines[3], QString());
+        // Control characters cannot break the line or reach the terminal.
+        QVERIFY(lines[2].contains("/home/a?b?[2J "));
+        const qsizetype idColumn = lines[0].indexOf("ID");
+        QCOMPARE(lines[1].indexOf(large.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
+        QCOMPARE(lines[2].indexOf(small.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
+        // Figures are right-aligned: their last digits share a column.
+        const qsizetype filesEnd = lines[0].indexOf("Files") + 5;
+        QCOMPARE(lines[1].indexOf("1,234,567") + 9, filesEnd);
+        QCOMPARE(lines[2].indexOf(" 3 ") + 2, filesEnd);
+        QVERIFY(lines[1].contains("1.23 GB"));
+        QVERIFY(!lines[0].endsWith(' '));
+    }
 
 private:
     const QDateTime m_start = QDateTime(QDate(2024, 3, 5), QTime(14, 0), Qt::UTC);
 };
-
-void CliTextsTest::initTestCase() {
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-}
-
-void CliTextsTest::scanLineShowsWhatIsKnown() {
-    ProgressText<ScanProgress> text;
-    ScanProgress discovery{ScanPhase::scanning, 4000, 1000, "/x", 0, m_start, std::nullopt};
-    // No rate before the phase has run a while, no bytes while discovery reads none.
-    QCOMPARE(text.describe(discovery, m_start.addSecs(1)), "Discovering files...  5,000 items");
-    discovery.filesScanned = 8000;
-    QCOMPARE(text.describe(discovery, m_start.addSecs(3)),
-             "Discovering files...  9,000 items  2,000 items/s");
-
-    // Analysis counts from zero again, so its rate starts afresh.
-    ScanProgress analysis{ScanPhase::analyzing, 0, 0, "/x", 0, m_start, 10000};
-    QCOMPARE(text.describe(analysis, m_start.addSecs(3)), "Analyzing files...  0 / 10,000 items");
-    analysis.filesScanned = 4500;
-    analysis.foldersScanned = 500;
-    analysis.bytesScanned = 1'500'000;
-    QCOMPARE(text.describe(analysis, m_start.addSecs(5)),
-             "Analyzing files...  5,000 / 10,000 items  1.5 MB  2,500 items/s  5s remaining");
-}
-
-void CliTextsTest::treeLine() {
-    ProgressText<FolderTreeProgress> text;
-    FolderTreeProgress enumerating{FolderTreeProgress::Phase::enumerating, 0, 100, "/x", m_start};
-    text.describe(enumerating, m_start);
-    enumerating.processedItems = 1100;
-    QCOMPARE(text.describe(enumerating, m_start.addSecs(1)),
-             "Scanning folders...  1,100 items found  1,000 items/s");
-
-    FolderTreeProgress building{FolderTreeProgress::Phase::building, 1200, 0, "a", m_start};
-    text.describe(building, m_start.addSecs(2));
-    building.processedItems = 300;
-    QCOMPARE(text.describe(building, m_start.addSecs(10)),
-             "Building tree...  300 / 1,200 folders  38 folders/s  30s remaining");
-}
-
-void CliTextsTest::linesFitTheTerminal() {
-    QCOMPARE(fitToWidth("short", 80), "short");
-    QCOMPARE(fitToWidth("exactly", 8), "exactly");
-    // One column stays free so the line never wraps.
-    QCOMPARE(fitToWidth("exactly", 7), "exactl");
-    QCOMPARE(fitToWidth("anything", 0), "");
-    // A character outside the basic plane is never cut in half.
-    const QString emoji = QString::fromUtf8("ab\U0001F600");
-    QCOMPARE(fitToWidth(emoji, 4), "ab");
-    QCOMPARE(fitToWidth(emoji, 5), emoji);
-}
-
-void CliTextsTest::historyTableIsAlignedAndSafe() {
-    AnalysisResult small;
-    small.scanDate = m_start;
-    small.rootPath = "/home/a\nb\033[2J";
-    small.totalSize = 999;
-    small.fileCount = 3;
-    AnalysisResult large = small;
-    large.id = QUuid::createUuid();
-    large.rootPath = "/srv/much/longer/path";
-    large.totalSize = 1'230'000'000;
-    large.fileCount = 1'234'567;
-
-    const QStringList lines = historyTable({large, small}).split('\n');
-    QCOMPARE(lines.size(), 4);
-    QCOMPARE(lines[3], QString());
-    // Control characters cannot break the line or reach the terminal.
-    QVERIFY(lines[2].contains("/home/a?b?[2J "));
-    const qsizetype idColumn = lines[0].indexOf("ID");
-    QCOMPARE(lines[1].indexOf(large.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
-    QCOMPARE(lines[2].indexOf(small.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
-    // Figures are right-aligned: their last digits share a column.
-    const qsizetype filesEnd = lines[0].indexOf("Files") + 5;
-    QCOMPARE(lines[1].indexOf("1,234,567") + 9, filesEnd);
-    QCOMPARE(lines[2].indexOf(" 3 ") + 2, filesEnd);
-    QVERIFY(lines[1].contains("1.23 GB"));
-    QVERIFY(!lines[0].endsWith(' '));
-}
 
 QTEST_GUILESS_MAIN(CliTextsTest)
 #include "CliTextsTest.moc"

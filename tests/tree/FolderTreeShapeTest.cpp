@@ -1,6 +1,6 @@
+#include "FileTrees.h"
 #include "RecordedBuild.h"
 #include "ReferenceTree.h"
-#include "TestTrees.h"
 
 #include "scanner/DirectoryWalker.h"
 #include "tree/FolderEnumeration.h"
@@ -13,8 +13,6 @@
 
 #include <algorithm>
 #include <tuple>
-
-#include <unistd.h>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -55,284 +53,230 @@ class FolderTreeShapeTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void equalsPlainRecursiveBuild_data();
-    void equalsPlainRecursiveBuild();
-    void sumsBottomUpAndDropsEmptyFolders();
-    void coloursFollowListingPositionDroppedFoldersIncluded();
-    void childrenLargestFirstEqualSizesInListingOrder();
-    void rootWithOnlyFiles();
-    void folderThatCannotBeListedBecomesLeaf();
-    void missingRootIsBareLeaf();
-    void keepsOddNames();
-    void chainTenThousandFoldersDeep();
-    void sharedOutAcrossThreadsEqualsOneThread();
-};
-
-void FolderTreeShapeTest::equalsPlainRecursiveBuild_data() {
-    QTest::addColumn<int>("items");
-    QTest::addColumn<unsigned>("seed");
-    QTest::newRow("small") << 300 << 1u;
-    QTest::newRow("wide") << 3000 << 7u;
-}
-
-// Hidden entries, a package (one file of its own entry's size), links to files and folders (not
-// followed), empty folders and zero-byte files, in the file system's own listing order.
-void FolderTreeShapeTest::equalsPlainRecursiveBuild() {
-    QFETCH(int, items);
-    QFETCH(unsigned, seed);
-    const QTemporaryDir dir = makeFastTemporaryDir();
-    generateTree(dir.path(), items, seed);
-
-    const FolderInfo built = withoutIds(recordBuild(dir.path()).tree());
-
-    QVERIFY(built == withoutIds(referenceTree(dir.path())));
-    QVERIFY(built.childFolders.size() > 1);
-}
-
-void FolderTreeShapeTest::sumsBottomUpAndDropsEmptyFolders() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    writeFile(root + "/top.bin", 5);
-    writeFile(root + "/x/one.bin", 10);
-    writeFile(root + "/x/y/two.bin", 20);
-    writeFile(root + "/x/y/three.bin", 0);
-    QVERIFY(QDir().mkpath(root + "/x/y/empty"));
-    writeFile(root + "/x/zeros/a.bin", 0);
-    writeFile(root + "/x/zeros/b.bin", 0);
-    writeFile(root + "/x/zeros/deeper/c.bin", 0);
-    writeFile(root + "/.hidden/big.bin", 1000);
-    writeFile(root + "/.dotfile", 300);
-    writeFile(root + "/x/.cache", 70);
-
-    const FolderInfo tree = recordBuild(root).tree();
-
-    // Hidden entries never count; a dropped folder adds nothing to its parent, not even the
-    // count of its zero-byte files.
-    QCOMPARE(figures(tree), Figures(root, 0, 35, 4));
-    QCOMPARE(tree.name, QFileInfo(root).fileName());
-    QCOMPARE(tree.color, FolderColor::blue);
-    QCOMPARE(childNames(tree), QStringList{"x"});
-    const FolderInfo& x = tree.childFolders[0];
-    QCOMPARE(figures(x), Figures(root + "/x", 1, 30, 3));
-    QCOMPARE(childNames(x), QStringList{"y"});
-    const FolderInfo& y = x.childFolders[0];
-    QCOMPARE(figures(y), Figures(root + "/x/y", 2, 20, 2));
-    QVERIFY(y.childFolders.empty());
-    QCOMPARE(y.directFilesSize(), 20);
-}
-
-void FolderTreeShapeTest::coloursFollowListingPositionDroppedFoldersIncluded() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    for (const char* name : {"a", "b", "c"})
-        QVERIFY(QDir(root).mkdir(name));
-    const QByteArrayList order = listingOrder(root);
-    QCOMPARE(order.size(), 3);
-    // The first listed gets 10 bytes, the second only a zero-byte file, the third 30 bytes.
-    writeFile(root + '/' + order[0] + "/f", 10);
-    writeFile(root + '/' + order[1] + "/f", 0);
-    writeFile(root + '/' + order[2] + "/f", 30);
-
-    const FolderInfo tree = recordBuild(root).tree();
-
-    QCOMPARE(childNames(tree), (QStringList{order[2], order[0]}));
-    QCOMPARE(tree.childFolders[0].color, FolderColor::teal);
-    QCOMPARE(tree.childFolders[1].color, FolderColor::blue);
-    QCOMPARE(tree.fileCount, 2);
-
-    // Past twelve sub-folders the palette starts again; depth does not shift it.
-    QTemporaryDir many;
-    for (int i = 0; i < 14; ++i)
-        writeFile(many.path() + QStringLiteral("/f%1/nested/data").arg(i), 1);
-    const QByteArrayList manyOrder = listingOrder(many.path());
-    const FolderInfo wide = recordBuild(many.path()).tree();
-    QCOMPARE(wide.childFolders.size(), 14u);
-    for (qsizetype position = 0; position < manyOrder.size(); ++position) {
-        const FolderInfo* child = childNamed(wide, manyOrder[position]);
-        QVERIFY(child);
-        QCOMPARE(child->color, folderColorAt(position));
-        QCOMPARE(child->childFolders.at(0).color, FolderColor::blue);
+    void equalsPlainRecursiveBuild_data() {
+        QTest::addColumn<int>("items");
+        QTest::addColumn<unsigned>("seed");
+        QTest::newRow("small") << 300 << 1u;
+        QTest::newRow("wide") << 3000 << 7u;
     }
-    QCOMPARE(childNamed(wide, manyOrder[12])->color, FolderColor::blue);
-    QCOMPARE(childNamed(wide, manyOrder[13])->color, FolderColor::green);
-}
 
-void FolderTreeShapeTest::childrenLargestFirstEqualSizesInListingOrder() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    for (int i = 0; i < 6; ++i)
-        writeFile(root + QStringLiteral("/same%1/file").arg(i), 7);
-    writeFile(root + "/bigger/file", 8);
-    writeFile(root + "/smaller/file", 6);
+    // Hidden entries, a package (one file of its own entry's size), a named pipe, links to files,
+    // folders and nothing (counted at their own size, not followed), empty folders and zero-byte
+    // files, in the file system's own listing order.
+    void equalsPlainRecursiveBuild() {
+        QFETCH(int, items);
+        QFETCH(unsigned, seed);
+        const QTemporaryDir dir = makeFastTemporaryDir();
+        generateTree(dir.path(), items, seed);
 
-    QStringList expected{"bigger"};
-    for (const QByteArray& name : listingOrder(root)) {
-        if (name.startsWith("same"))
-            expected.append(QString::fromUtf8(name));
+        const FolderInfo built = withoutIds(recordBuild(dir.path()).tree());
+
+        QVERIFY(built == withoutIds(referenceTree(dir.path())));
+        QVERIFY(built.childFolders.size() > 1);
     }
-    expected.append("smaller");
 
-    QCOMPARE(childNames(recordBuild(root).tree()), expected);
-}
+    void sumsBottomUpAndDropsEmptyFolders() {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        writeFiles(root, {{"top.bin", 5},
+                          {"x/one.bin", 10},
+                          {"x/y/two.bin", 20},
+                          {"x/y/three.bin", 0},
+                          {"x/zeros/a.bin", 0},
+                          {"x/zeros/b.bin", 0},
+                          {"x/zeros/deeper/c.bin", 0},
+                          {".hidden/big.bin", 1000},
+                          {".dotfile", 300},
+                          {"x/.cache", 70}});
+        QVERIFY(QDir().mkpath(root + "/x/y/empty"));
 
-void FolderTreeShapeTest::rootWithOnlyFiles() {
-    QTemporaryDir dir;
-    writeFile(dir.path() + "/a.txt", 3);
-    writeFile(dir.path() + "/b.txt", 4);
+        const FolderInfo tree = recordBuild(root).tree();
 
-    const FolderInfo tree = recordBuild(dir.path() + "/").tree();
-
-    QCOMPARE(tree.path(), dir.path()); // cleaned, like the scanned root
-    QCOMPARE(tree.totalSize, 7);
-    QCOMPARE(tree.fileCount, 2);
-    QCOMPARE(tree.depth, 0);
-    QVERIFY(tree.childFolders.empty());
-}
-
-void FolderTreeShapeTest::folderThatCannotBeListedBecomesLeaf() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    for (const char* name : {"first", "gone", "last"})
-        writeFile(root + '/' + name + "/file", 10);
-    writeFile(root + "/gone/inner/file", 10);
-
-    // Stands in for a folder removed between its parent's listing and its own: the walker marks
-    // such a folder unreadable, and so would a permission it lacks.
-    const DirectoryListing listing = DirectoryWalker().walk(root);
-    QByteArrayList order;
-    for (const ListedEntry& entry : listing.root()->entries()) {
-        order.append(entry.name().toByteArray());
-        if (entry.name() == QByteArrayView("gone"))
-            const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
-    }
-    const std::atomic<bool> cancelled{false};
-    qint64 reports = 0;
-    FolderTreeAssembly assembly(cancelled, treeFolderCount(listing),
-                                [&](qint64, const QString&) { ++reports; });
-    const std::optional<FolderInfo> tree = assembly.assemble(listing, root);
-
-    QVERIFY(tree);
-    QCOMPARE(tree->totalSize, 20);
-    QCOMPARE(tree->fileCount, 2);
-    QVERIFY(!childNamed(*tree, "gone"));
-    for (const FolderInfo& child : tree->childFolders)
-        QCOMPARE(child.color, folderColorAt(order.indexOf(child.name.toUtf8())));
-    QCOMPARE(treeFolderCount(listing), 3);  // inner was never listed
-    QCOMPARE(assembly.processedCount(), 4); // the leaf is processed, without a report of its own
-    QCOMPARE(reports, 3);
-
-    if (geteuid() == 0)
-        QSKIP("permissions do not stop root; the listing above stood in for them");
-    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::Permissions()));
-    const FolderInfo built = recordBuild(root).tree();
-    QVERIFY(QFile::setPermissions(root + "/gone", QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                                      QFileDevice::ExeOwner));
-    QCOMPARE(built.totalSize, 20);
-    QVERIFY(!childNamed(built, "gone"));
-}
-
-void FolderTreeShapeTest::missingRootIsBareLeaf() {
-    QTemporaryDir dir;
-    writeFile(dir.path() + "/plain.txt", 12);
-    for (const QString& root : {dir.path() + "/absent", dir.path() + "/plain.txt"}) {
-        const RecordedBuild build = recordBuild(root);
-        const FolderInfo& tree = build.tree();
-        QCOMPARE(tree.path(), root);
+        // Hidden entries never count; a dropped folder adds nothing to its parent, not even the
+        // count of its zero-byte files.
+        QCOMPARE(figures(tree), Figures(root, 0, 35, 4));
         QCOMPARE(tree.name, QFileInfo(root).fileName());
-        QCOMPARE(tree.totalSize, 0);
-        QCOMPARE(tree.fileCount, 0);
-        QVERIFY(tree.childFolders.empty());
+        QCOMPARE(tree.color, FolderColor::blue);
+        QCOMPARE(childNames(tree), QStringList{"x"});
+        const FolderInfo& x = tree.childFolders[0];
+        QCOMPARE(figures(x), Figures(root + "/x", 1, 30, 3));
+        QCOMPARE(childNames(x), QStringList{"y"});
+        const FolderInfo& y = x.childFolders[0];
+        QCOMPARE(figures(y), Figures(root + "/x/y", 2, 20, 2));
+        QVERIFY(y.childFolders.empty());
+        QCOMPARE(y.directFilesSize(), 20);
+    }
+
+    void childrenLargestFirstEqualSizesInListingOrder() {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        for (int i = 0; i < 6; ++i)
+            writeFile(root + QStringLiteral("/same%1/file").arg(i), 7);
+        writeFile(root + "/bigger/file", 8);
+        writeFile(root + "/smaller/file", 6);
+
+        QStringList expected{"bigger"};
+        for (const QByteArray& name : listingOrder(root)) {
+            if (name.startsWith("same"))
+                expected.append(QString::fromUtf8(name));
+        }
+        expected.append("smaller");
+
+        QCOMPARE(childNames(recordBuild(root).tree()), expected);
+    }
+
+    void roots_data() {
+        QTest::addColumn<QString>("root");
+        QTest::addColumn<QString>("path"); // of the tree's root node
+        QTest::addColumn<qint64>("totalSize");
+        QTest::newRow("only files, trailing slash") << "files/"
+                                                    << "files" << 7LL;
+        // A root that cannot be listed is a bare leaf under its own path.
+        QTest::newRow("missing") << "absent"
+                                 << "absent" << 0LL;
+        QTest::newRow("a file") << "files/a.txt"
+                                << "files/a.txt" << 0LL;
+    }
+
+    void roots() {
+        QFETCH(QString, root);
+        QFETCH(QString, path);
+        QFETCH(qint64, totalSize);
+        QTemporaryDir dir;
+        writeFiles(dir.path(), {{"files/a.txt", 3}, {"files/b.txt", 4}});
+
+        const RecordedBuild build = recordBuild(dir.path() + '/' + root);
+
+        const FolderInfo& tree = build.tree();
+        QCOMPARE(tree.path(), dir.path() + '/' + path);
+        QCOMPARE(tree.name, QFileInfo(tree.path()).fileName());
+        QCOMPARE(tree.totalSize, totalSize);
+        QCOMPARE(tree.fileCount, totalSize ? 2 : 0);
         QCOMPARE(tree.depth, 0);
         QCOMPARE(tree.color, FolderColor::blue);
-        QVERIFY(build.recordsIn(FolderTreeProgress::Phase::building).size() == 1);
+        QVERIFY(tree.childFolders.empty());
         QCOMPARE(build.records.last().processedItems, 1);
     }
-}
 
-void FolderTreeShapeTest::keepsOddNames() {
-    QTemporaryDir dir;
-    const QString root = dir.path();
-    const QString odd = QStringLiteral("with space, \"quotes\" and\nnewline é");
-    writeFile(root + '/' + odd + "/file", 4);
-    const RawNamedFiles raw(root, {QByteArray("bad-\xff-utf8")}, 6);
+    void folderThatCannotBeListedBecomesLeaf() {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        for (const char* name : {"first", "gone", "last"})
+            writeFile(root + '/' + name + "/file", 10);
+        writeFile(root + "/gone/inner/file", 10);
 
-    const FolderInfo tree = recordBuild(root).tree();
-
-    QCOMPARE(tree.totalSize, 10);
-    QCOMPARE(childNames(tree), QStringList{odd});
-    QCOMPARE(tree.childFolders[0].path(), root + '/' + odd);
-}
-
-void FolderTreeShapeTest::chainTenThousandFoldersDeep() {
-    const QTemporaryDir dir = makeFastTemporaryDir();
-    QVERIFY(dir.isValid());
-    const int depth = 10000;
-    const FolderChain chain(dir.path(), depth);
-
-    const RecordedBuild build = recordBuild(dir.path());
-
-    const FolderInfo* folder = &build.tree();
-    for (int level = 0; level <= depth; ++level) {
-        QCOMPARE(folder->depth, level);
-        QCOMPARE(folder->totalSize, 1);
-        QCOMPARE(folder->fileCount, 1);
-        if (level < depth) {
-            QCOMPARE(folder->childFolders.size(), 1u);
-            folder = &folder->childFolders[0];
+        // Stands in for a folder removed between its parent's listing and its own: the walker marks
+        // such a folder unreadable, and so would a permission it lacks.
+        const DirectoryListing listing = DirectoryWalker().walk(root);
+        QByteArrayList order;
+        for (const ListedEntry& entry : listing.root()->entries()) {
+            order.append(entry.name().toByteArray());
+            if (entry.name() == QByteArrayView("gone"))
+                const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
         }
-    }
-    QVERIFY(folder->childFolders.empty());
-    QCOMPARE(folder->path(), dir.path() + QStringLiteral("/d").repeated(depth));
-    QVERIFY(sharesParentPaths(build.tree()));
-    QCOMPARE(build.records.last().processedItems, depth + 1);
-}
+        const std::atomic<bool> cancelled{false};
+        qint64 reports = 0;
+        FolderTreeAssembly assembly(cancelled, treeFolderCount(listing),
+                                    [&](qint64, const QString&) { ++reports; });
+        const std::optional<FolderInfo> tree = assembly.assemble(listing, root);
 
-// Enough folders for the node pass to share subtrees out, some of them unreadable; the threads
-// must give the single thread's tree, count every folder once and report in increasing order.
-void FolderTreeShapeTest::sharedOutAcrossThreadsEqualsOneThread() {
-    const QTemporaryDir dir = makeFastTemporaryDir();
-    generateTree(dir.path(), 24000, 11u);
-    const std::atomic<bool> notCancelled{false};
-    const DirectoryListing listing =
-        enumerateFolders(dir.path(), notCancelled, [](qint64, qint64) {});
-    int unreadable = 0;
-    for (const ListedEntry& entry : listing.root()->entries()) {
-        if (entry.contents() && entry.contents()->state() == ListedDirectory::State::listed &&
-            unreadable++ % 3 == 0)
-            const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
+        QVERIFY(tree);
+        QCOMPARE(tree->totalSize, 20);
+        QCOMPARE(tree->fileCount, 2);
+        QVERIFY(!childNamed(*tree, "gone"));
+        for (const FolderInfo& child : tree->childFolders)
+            QCOMPARE(child.color, folderColorAt(order.indexOf(child.name.toUtf8())));
+        QCOMPARE(treeFolderCount(listing), 3); // inner was never listed
+        QCOMPARE(assembly.processedCount(),
+                 4); // the leaf is processed, without a report of its own
+        QCOMPARE(reports, 3);
     }
-    const qint64 folderCount = treeFolderCount(listing);
-    QVERIFY(folderCount >= FolderTreeAssembly::parallelFolderCount);
 
-    const auto assemble = [&](int threads, const std::atomic<bool>& cancelled,
-                              QList<qint64>& reported) {
+    void keepsOddNames() {
+        QTemporaryDir dir;
+        const QString root = dir.path();
+        const QString odd = QStringLiteral("with space, \"quotes\" and\nnewline é");
+        writeFile(root + '/' + odd + "/file", 4);
+        const RawNamedFiles raw(root, {QByteArray("bad-\xff-utf8")}, 6);
+
+        const FolderInfo tree = recordBuild(root).tree();
+
+        QCOMPARE(tree.totalSize, 10);
+        QCOMPARE(childNames(tree), QStringList{odd});
+        QCOMPARE(tree.childFolders[0].path(), root + '/' + odd);
+    }
+
+    void chainTenThousandFoldersDeep() {
+        const QTemporaryDir dir = makeFastTemporaryDir();
+        QVERIFY(dir.isValid());
+        const int depth = 10000;
+        const FolderChain chain(dir.path(), depth);
+
+        const RecordedBuild build = recordBuild(dir.path());
+
+        const FolderInfo* folder = &build.tree();
+        for (int level = 0; level <= depth; ++level) {
+            QCOMPARE(folder->depth, level);
+            QCOMPARE(folder->totalSize, 1);
+            QCOMPARE(folder->fileCount, 1);
+            if (level < depth) {
+                QCOMPARE(folder->childFolders.size(), 1u);
+                folder = &folder->childFolders[0];
+            }
+        }
+        QVERIFY(folder->childFolders.empty());
+        QCOMPARE(folder->path(), dir.path() + QStringLiteral("/d").repeated(depth));
+        QVERIFY(sharesParentPaths(build.tree()));
+        QCOMPARE(build.records.last().processedItems, depth + 1);
+    }
+
+    // Enough folders for the node pass to share subtrees out, some of them unreadable; the threads
+    // must give the single thread's tree, count every folder once and report in increasing order.
+    void sharedOutAcrossThreadsEqualsOneThread() {
+        const QTemporaryDir dir = makeFastTemporaryDir();
+        generateTree(dir.path(), 24000, 11u);
+        const std::atomic<bool> notCancelled{false};
+        const DirectoryListing listing =
+            enumerateFolders(dir.path(), notCancelled, [](qint64, qint64) {});
+        int unreadable = 0;
+        for (const ListedEntry& entry : listing.root()->entries()) {
+            if (entry.contents() && entry.contents()->state() == ListedDirectory::State::listed &&
+                unreadable++ % 3 == 0)
+                const_cast<ListedDirectory*>(entry.contents())->markUnreadable();
+        }
+        const qint64 folderCount = treeFolderCount(listing);
+        QVERIFY(folderCount >= FolderTreeAssembly::parallelFolderCount);
+
+        const auto assemble = [&](int threads, const std::atomic<bool>& cancelled,
+                                  QList<qint64>& reported) {
+            FolderTreeAssembly assembly(
+                cancelled, folderCount,
+                [&](qint64 processed, const QString&) { reported.append(processed); }, threads);
+            const std::optional<FolderInfo> tree = assembly.assemble(listing, dir.path());
+            return std::pair(tree ? std::optional(withoutIds(*tree)) : std::nullopt,
+                             assembly.processedCount());
+        };
+        QList<qint64> alone, shared;
+        const auto [single, singleCount] = assemble(1, notCancelled, alone);
+        const auto [parallel, parallelCount] = assemble(4, notCancelled, shared);
+
+        QVERIFY(single && parallel);
+        QVERIFY(*parallel == *single);
+        QVERIFY(sharesParentPaths(*parallel));
+        QCOMPARE(parallelCount, singleCount);
+        QCOMPARE(shared.last(), folderCount);
+        QVERIFY(std::is_sorted(shared.begin(), shared.end()));
+        QVERIFY(std::adjacent_find(shared.begin(), shared.end()) == shared.end());
+        QVERIFY(shared.size() > 100);
+
+        // Called off at the first record, while the threads are busy with their subtrees.
+        std::atomic<bool> cancelled{false};
         FolderTreeAssembly assembly(
-            cancelled, folderCount,
-            [&](qint64 processed, const QString&) { reported.append(processed); }, threads);
-        const std::optional<FolderInfo> tree = assembly.assemble(listing, dir.path());
-        return std::pair(tree ? std::optional(withoutIds(*tree)) : std::nullopt,
-                         assembly.processedCount());
-    };
-    QList<qint64> alone, shared;
-    const auto [single, singleCount] = assemble(1, notCancelled, alone);
-    const auto [parallel, parallelCount] = assemble(4, notCancelled, shared);
-
-    QVERIFY(single && parallel);
-    QVERIFY(*parallel == *single);
-    QVERIFY(sharesParentPaths(*parallel));
-    QCOMPARE(parallelCount, singleCount);
-    QCOMPARE(shared.last(), folderCount);
-    QVERIFY(std::is_sorted(shared.begin(), shared.end()));
-    QVERIFY(std::adjacent_find(shared.begin(), shared.end()) == shared.end());
-    QVERIFY(shared.size() > 100);
-
-    // Called off at the first record, while the threads are busy with their subtrees.
-    std::atomic<bool> cancelled{false};
-    FolderTreeAssembly assembly(
-        cancelled, folderCount, [&](qint64, const QString&) { cancelled = true; }, 4);
-    QVERIFY(!assembly.assemble(listing, dir.path()));
-    QVERIFY(assembly.processedCount() < folderCount);
-}
+            cancelled, folderCount, [&](qint64, const QString&) { cancelled = true; }, 4);
+        QVERIFY(!assembly.assemble(listing, dir.path()));
+        QVERIFY(assembly.processedCount() < folderCount);
+    }
+};
 
 QTEST_GUILESS_MAIN(FolderTreeShapeTest)
 #include "FolderTreeShapeTest.moc"

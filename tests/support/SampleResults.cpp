@@ -1,4 +1,4 @@
-#include "SampleRecords.h"
+#include "SampleResults.h"
 
 #include <limits>
 
@@ -11,18 +11,6 @@ constexpr qint64 beyondDoubles = (qint64(1) << 53) + 1;
 
 const QString oddPath = QStringLiteral("/tmp/odd \"name\"\\ with\nnewline\tand/\u00e9t\u00e9/") +
                         QString::fromUtf8("\xF0\x9F\x98\x80 \x01 \xFF.txt");
-
-FileInfo file(const QString& path, qint64 size, const QString& extension, FileCategory category) {
-    FileInfo info;
-    info.path = path;
-    info.name = path.section(u'/', -1);
-    info.size = size;
-    info.fileExtension = extension;
-    info.category = category;
-    info.depth = 10;
-    info.modificationDate = QDateTime(QDate(2023, 12, 31), QTime(23, 59, 59), Qt::UTC);
-    return info;
-}
 
 FolderInfo folder(const QString& path, qint64 totalSize, qint64 depth, FolderColor color) {
     FolderInfo info;
@@ -45,11 +33,44 @@ FolderInfo folderTree() {
     return root;
 }
 
+CategoryStats category(FileCategory kind, qint64 fileCount, qint64 totalSize,
+                       const QSet<QString>& extensions) {
+    CategoryStats stats;
+    stats.category = kind;
+    stats.fileCount = fileCount;
+    stats.totalSize = totalSize;
+    stats.extensions = extensions;
+    return stats;
+}
+
+ExtensionStats extension(const QString& ext, FileCategory kind, qint64 fileCount,
+                         qint64 totalSize) {
+    ExtensionStats stats;
+    stats.ext = ext;
+    stats.category = kind;
+    stats.fileCount = fileCount;
+    stats.totalSize = totalSize;
+    return stats;
+}
+
 } // namespace
 
-AnalysisResult fullResult() {
+FileInfo sampleFile(const QString& path, qint64 size, const QString& extension,
+                    FileCategory category) {
+    FileInfo file;
+    file.path = path;
+    file.name = path.section(u'/', -1);
+    file.size = size;
+    file.fileExtension = extension;
+    file.category = category;
+    file.depth = path.count(u'/') - 2;
+    file.modificationDate = QDateTime(QDate(2023, 12, 31), QTime(23, 59, 59), Qt::UTC);
+    return file;
+}
+
+AnalysisResult sampleResult(const QDateTime& scanDate) {
     AnalysisResult result;
-    result.scanDate = QDateTime(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
+    result.scanDate = scanDate;
     result.rootPath = oddPath;
     result.rootName = QStringLiteral("root \"name\"");
     result.totalSize = beyondDoubles;
@@ -58,38 +79,23 @@ AnalysisResult fullResult() {
     result.maxDepth = 10;
     result.scanDuration = 12.345;
 
-    FileInfo photo = file(QStringLiteral("/tmp/root/photo.JPG"), beyondDoubles,
-                          QStringLiteral("jpg"), FileCategory::images);
-    FileInfo folderItem = file(QStringLiteral("/tmp/root/dir"), 0, QString(), FileCategory::other);
+    FileInfo folderItem =
+        sampleFile(QStringLiteral("/tmp/root/dir"), 0, QString(), FileCategory::other);
     folderItem.isDirectory = true;
     folderItem.modificationDate = distantPast();
-    FileInfo odd = file(oddPath, std::numeric_limits<qint64>::min(), QStringLiteral("txt"),
-                        FileCategory::documents);
-    result.largestFiles = {photo, folderItem, odd};
+    result.largestFiles = {sampleFile(QStringLiteral("/tmp/root/photo.JPG"), beyondDoubles,
+                                      QStringLiteral("jpg"), FileCategory::images),
+                           folderItem,
+                           sampleFile(oddPath, std::numeric_limits<qint64>::min(),
+                                      QStringLiteral("txt"), FileCategory::documents)};
 
-    CategoryStats images;
-    images.category = FileCategory::images;
-    images.fileCount = 1;
-    images.totalSize = beyondDoubles;
-    images.extensions = {QStringLiteral("jpg"), QStringLiteral("jpeg")};
-    CategoryStats design;
-    design.category = FileCategory::design;
-    design.fileCount = 2;
-    design.totalSize = 3;
-    design.extensions = {QString(), QStringLiteral("blend")};
-    result.categoryBreakdown = {images, design};
-
+    result.categoryBreakdown = {
+        category(FileCategory::images, 1, beyondDoubles, {"jpg", "jpeg"}),
+        category(FileCategory::design, 2, 3, {QString(), QStringLiteral("blend")})};
     result.depthDistribution = {{1, {2, 3, 4}}, {2, {5, 6, 7}}, {10, {8, 9, beyondDoubles}}};
-
-    ExtensionStats jpg;
-    jpg.ext = QStringLiteral("jpg");
-    jpg.category = FileCategory::images;
-    jpg.fileCount = 1;
-    jpg.totalSize = beyondDoubles;
-    ExtensionStats none;
-    none.fileCount = 4;
-    none.totalSize = 11;
-    result.extensionStats = {{jpg.ext, jpg}, {none.ext, none}};
+    result.extensionStats = {
+        {"jpg", extension(QStringLiteral("jpg"), FileCategory::images, 1, beyondDoubles)},
+        {QString(), extension(QString(), FileCategory::other, 4, 11)}};
 
     PatternInsight cache;
     cache.type = InsightType::largeCache;

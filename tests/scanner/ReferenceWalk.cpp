@@ -1,0 +1,91 @@
+#include "ReferenceWalk.h"
+
+#include "scanner/ItemNameRules.h"
+#include "scanner/ScanAggregator.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+namespace tessarine::testing {
+
+namespace {
+
+void walkInto(const QByteArray& folder, qint64 depth, std::vector<WalkedItem>& items) {
+    DIR* dir = opendir(folder.constData());
+    if (!dir)
+        return;
+    std::vector<QByteArray> names;
+    while (const dirent* entry = readdir(dir))
+        names.emplace_back(entry->d_name);
+    closedir(dir);
+    for (const QByteArray& name : names) {
+        if (isHiddenName(name))
+            continue;
+        const QByteArray path = folder + (folder.endsWith('/') ? "" : "/") + name;
+        WalkedItem item{path, EntryKind::unreadable, 0, ListedEntry::unknownModificationTime,
+                        depth + 1};
+        struct stat status;
+        if (lstat(path.constData(), &status) == 0) {
+            if (S_ISDIR(status.st_mode)) {
+                item.kind = isPackageName(name) ? EntryKind::package : EntryKind::directory;
+            } else if (S_ISLNK(status.st_mode)) {
+                item.kind = EntryKind::symlink;
+            } else {
+                item.kind = S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special;
+                item.size = status.st_size;
+                item.modifiedMsecs =
+                    qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
+            }
+        }
+        items.push_back(item);
+        if (item.kind == EntryKind::directory)
+            walkInto(path, depth + 1, items);
+    }
+}
+
+// Written independently of the scanner's byte-level rule: the text after the last dot of the
+// decoded name, unless the name starts or ends with that dot.
+QString extensionOf(const QString& name) {
+    const qsizetype dot = name.lastIndexOf('.');
+    return dot <= 0 || dot == name.size() - 1 ? QString() : name.sliced(dot + 1).toLower();
+}
+
+FileInfo recordOf(const WalkedItem& item) {
+    FileInfo info;
+    info.path = QFile::decodeName(item.path);
+    info.name = QFile::decodeName(item.path.mid(item.path.lastIndexOf('/') + 1));
+    info.size = item.size;
+    info.fileExtension = extensionOf(info.name);
+    info.category = categoryForExtension(info.fileExtension);
+    info.depth = item.depth;
+    info.modificationDate = item.modifiedMsecs == ListedEntry::unknownModificationTime
+                                ? distantPast()
+                                : QDateTime::fromMSecsSinceEpoch(item.modifiedMsecs, Qt::UTC);
+    info.isDirectory = item.kind == EntryKind::directory || item.kind == EntryKind::package;
+    return info;
+}
+
+} // namespace
+
+std::vector<WalkedItem> referenceWalk(const QByteArray& root) {
+    std::vector<WalkedItem> items;
+    walkInto(root, 0, items);
+    return items;
+}
+
+AnalysisResult referenceResult(const QString& root) {
+    ScanAggregator aggregator;
+    for (const WalkedItem& item : referenceWalk(QFile::encodeName(root))) {
+        if (item.kind != EntryKind::symlink && item.kind != EntryKind::unreadable)
+            aggregator.add(recordOf(item));
+    }
+    AnalysisResult result = aggregator.finish();
+    result.rootPath = QDir::cleanPath(root);
+    result.rootName = QDir(root).dirName();
+    return result;
+}
+
+} // namespace tessarine::testing
