@@ -1,21 +1,32 @@
 import QtQuick
 import Tessarine.App
 
-// A drop target for folders to scan. Drags carrying file locations are taken, except while a scan
-// runs; of a dropped set only the first item counts, and it starts a scan only when it is a
-// folder: a dropped file is accepted and then quietly ignored.
+// The one drop target for folders to scan, for the whole window and the landing screen's drop
+// zone alike. Only drags that carry file locations reach it, and none while a scan runs; of a
+// dropped set only the first item counts, and it starts a scan only when it is a folder: a dropped
+// file is accepted and then quietly ignored.
 DropArea {
+    id: area
+
     readonly property bool targeted: containsDrag
 
-    onEntered: drag => drag.accepted = drag.hasUrls && !AppState.isScanning
-
-    onDropped: drop => {
-        if (!drop.hasUrls || AppState.isScanning)
-            return
-        drop.accept(Qt.CopyAction)
-        const url = drop.urls[0]
+    // What a drop of these locations does; false when nothing could be taken.
+    function take(urls) {
+        if (urls.length === 0 || AppState.isScanning)
+            return false
+        const url = urls[0]
         // Later, not now: the scan replaces the view that may hold this very area.
         if (FolderDrop.isFolder(url))
             Qt.callLater(AppState.startScan, url)
+        return true
+    }
+
+    keys: ["text/uri-list"]
+
+    onEntered: drag => drag.accepted = !AppState.isScanning
+
+    onDropped: drop => {
+        if (area.take(drop.urls))
+            drop.accept(Qt.CopyAction)
     }
 }

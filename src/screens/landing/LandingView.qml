@@ -7,14 +7,8 @@ Item {
     id: landing
 
     // True while a drag carrying file locations hovers over the screen.
-    property bool isTargeted: false
-
-    // Starts a scan of the first dropped location when it is a folder; a dropped file or a
-    // location that cannot be read is ignored without a word.
-    function acceptDrop(urls) {
-        if (urls.length > 0 && FolderDrop.isFolder(urls[0]))
-            AppState.startScan(urls[0])
-    }
+    readonly property bool isTargeted: dropArea.targeted
+    readonly property alias dropArea: dropArea
 
     Rectangle {
         anchors.fill: parent
@@ -72,20 +66,8 @@ Item {
         }
     }
 
-    // Only drags that carry file locations reach this area.
-    DropArea {
+    FolderDropArea {
+        id: dropArea
         anchors.fill: parent
-        keys: ["text/uri-list"]
-        onEntered: landing.isTargeted = true
-        onExited: landing.isTargeted = false
-        onDropped: (drop) => {
-            landing.isTargeted = false
-            if (drop.urls.length === 0) {
-                drop.accepted = false
-                return
-            }
-            drop.acceptProposedAction()
-            landing.acceptDrop(drop.urls)
-        }
     }
 }

@@ -46,9 +46,7 @@ Item {
 
             mouseClick(findChild(alert.contentItem, "okButton"))
             tryCompare(alert, "visible", false)
-            verify(!AppState.error.present)
-            wait(50)
-            verify(!alert.visible)
+            verify(!AppState.hasError)
         }
 
         function test_escapeDismissesAndClears() {
@@ -58,7 +56,7 @@ Item {
             verify(!findChild(alert.contentItem, "errorDescription").visible)
             keyClick(Qt.Key_Escape)
             tryCompare(alert, "visible", false)
-            verify(!AppState.error.present)
+            verify(!AppState.hasError)
         }
     }
 }

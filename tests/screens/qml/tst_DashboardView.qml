@@ -70,7 +70,7 @@ ScreenTestCase {
         compare(AppState.currentView, AppState.Scanning)
         tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
         compare(AppState.currentResult.rootPath, folder)
-        verify(!AppState.error.present)
+        verify(!AppState.hasError)
     }
 
     function test_newScanOpensThePicker() {
