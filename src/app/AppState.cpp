@@ -1,8 +1,11 @@
 #include "AppState.h"
 
+#include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
 #include "storage/PersistenceService.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJSEngine>
 #include <QQmlEngine>
 
@@ -203,6 +206,18 @@ void AppState::cancelScan() {
     stopProgressWatcher();
     setIsScanning(false);
     setCurrentView(Landing);
+}
+
+QUrl AppState::folderPickerStart() const {
+    const AnalysisResult* last = m_currentResult             ? &*m_currentResult
+                                 : m_scanHistory.count() > 0 ? &m_scanHistory.results().first()
+                                                             : nullptr;
+    if (last) {
+        const QString parent = parentFolder(last->rootPath);
+        if (!parent.isEmpty() && QFileInfo(parent).isDir())
+            return QUrl::fromLocalFile(parent);
+    }
+    return QUrl::fromLocalFile(QDir::homePath());
 }
 
 void AppState::copyLatestProgress() {

@@ -96,6 +96,9 @@ public:
     // Shows a stored result on the dashboard.
     Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearError();
+    // Where the folder picker opens: beside the folder scanned last (the one on display, else the
+    // newest stored), so that a neighbour is one click away; the home folder when there is none.
+    Q_INVOKABLE QUrl folderPickerStart() const;
 
     // Blocks until every scan worker has returned, the replaced and cancelled ones included. Their
     // outcomes reach the state with the next event processing.

@@ -11,6 +11,10 @@ namespace tessarine {
 // separator except for "/" itself. Symbolic links are kept, not resolved. "" stays "".
 QString cleanRootPath(const QString& folderPath);
 
+// The folder holding the path's last component: "/a/b" for "/a/b/c" and "/a/b/c/", "/" for "/a"
+// and for "/" itself, "" for a path without a "/".
+QString parentFolder(QStringView path);
+
 // The last component: "c" for "/a/b/c" and "/a/b/c/", "notes.md" for "notes.md", "/" for "/"
 // (and "//"), empty for "".
 QString lastPathComponent(QStringView path);

@@ -13,27 +13,40 @@ private slots:
         QTest::addColumn<QString>("path");
         QTest::addColumn<QString>("cleaned");
         QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("parent");
         QTest::newRow("folder") << "/home/ann/Music"
                                 << "/home/ann/Music"
-                                << "Music";
+                                << "Music"
+                                << "/home/ann";
         QTest::newRow("trailing separators") << "/home/ann/Music//"
                                              << "/home/ann/Music"
-                                             << "Music";
+                                             << "Music"
+                                             << "/home/ann";
         QTest::newRow("root") << "/"
                               << "/"
+                              << "/"
                               << "/";
+        QTest::newRow("top level") << "/srv"
+                                   << "/srv"
+                                   << "srv"
+                                   << "/";
         QTest::newRow("separators only") << "//"
+                                         << "/"
                                          << "/"
                                          << "/";
         QTest::newRow("dot segments") << "/a/./b/../c"
                                       << "/a/c"
-                                      << "c";
+                                      << "c"
+                                      << "/a/./b/..";
         QTest::newRow("spaces and quotes") << "/a/\"my b\" c"
                                            << "/a/\"my b\" c"
-                                           << "\"my b\" c";
+                                           << "\"my b\" c"
+                                           << "/a";
         QTest::newRow("relative") << "notes.md" << QDir::currentPath() + "/notes.md"
-                                  << "notes.md";
+                                  << "notes.md"
+                                  << "";
         QTest::newRow("empty") << ""
+                               << ""
                                << ""
                                << "";
     }
@@ -42,8 +55,10 @@ private slots:
         QFETCH(QString, path);
         QFETCH(QString, cleaned);
         QFETCH(QString, name);
+        QFETCH(QString, parent);
         QCOMPARE(lastPathComponent(path), name);
         QCOMPARE(cleanRootPath(path), cleaned);
+        QCOMPARE(parentFolder(path), parent);
     }
 };
 

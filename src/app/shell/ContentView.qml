@@ -54,8 +54,10 @@ Item {
     Connections {
         target: AppState
         function onShowFolderPickerChanged() {
-            if (AppState.showFolderPicker)
+            if (AppState.showFolderPicker) {
+                picker.currentFolder = AppState.folderPickerStart()
                 picker.open()
+            }
         }
     }
 }
