@@ -1,5 +1,6 @@
 #include "scanner/DirectoryReader.h"
 
+#include "model/SaturatingSum.h"
 #include "scanner/ItemNameRules.h"
 
 #include <cstddef>
@@ -62,7 +63,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             const std::optional<qint64> size = entry.ownSize();
             if (m_detail.summedFiles && size) {
                 ++summedCount;
-                summedSize += *size;
+                addSaturating(summedSize, *size);
                 continue;
             }
             m_entries.push_back(entry);

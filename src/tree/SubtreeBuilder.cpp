@@ -1,5 +1,6 @@
 #include "tree/SubtreeBuilder.h"
 
+#include "model/SaturatingSum.h"
 #include "scanner/DirectoryWalker.h"
 
 #include <QFile>
@@ -85,7 +86,7 @@ void SubtreeBuilder::enter(const ListedDirectory& folder, QByteArrayView name, q
 void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
     if (entry.kind() != EntryKind::directory) {
         const std::optional<qint64> size = entry.ownSize();
-        frame.totalSize += size ? *size : unlistedEntrySize(entry.name());
+        addSaturating(frame.totalSize, size ? *size : unlistedEntrySize(entry.name()));
         frame.fileCount += 1;
         return;
     }
@@ -104,7 +105,7 @@ void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
 }
 
 void SubtreeBuilder::adopt(Frame& parent, FolderInfo&& node) {
-    parent.totalSize += node.totalSize;
+    addSaturating(parent.totalSize, node.totalSize);
     parent.fileCount += node.fileCount;
     parent.children.push_back(std::move(node));
 }
