@@ -44,6 +44,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                                                         const std::atomic<bool>& cancelled) {
     m_entries.clear();
     m_subfolders.clear();
+    m_folderLinks.clear();
     m_folderCount = 0;
     qint64 summedCount = 0;
     qint64 summedSize = 0;
@@ -61,7 +62,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                 continue; // also drops "." and ".."
             const ListedEntry entry = describe(fd, folder, nameView, record->type);
             const std::optional<qint64> size = entry.ownSize();
-            if (m_detail.summedFiles && size) {
+            if (m_detail.summedFiles && size && !entry.isHardLinked()) {
                 ++summedCount;
                 addSaturating(summedSize, *size);
                 continue;
@@ -70,8 +71,10 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             m_folderCount += entry.isFolder();
         }
     }
-    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
-                      summedSize);
+    const std::span<ListedEntry> kept = m_arena.copyArray(std::span<const ListedEntry>(m_entries));
+    folder.setEntries(kept, summedCount, summedSize);
+    for (const auto& [index, identity] : m_folderLinks)
+        m_hardLinks.push_back({&kept[index], identity});
     return m_subfolders;
 }
 
@@ -94,11 +97,18 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
     // A summed entry is dropped right after: its name would only take space.
     const QByteArrayView storedName =
         m_detail.summedFiles ? QByteArrayView() : m_arena.copyName(name);
-    if (S_ISLNK(status.st_mode)) // the stat is made anyway, so its size is kept
-        return ListedEntry::link(storedName, qint64(status.st_size));
-    return ListedEntry::sized(storedName,
-                              S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
-                              qint64(status.st_size), modifiedMsecs(status));
+    ListedEntry entry =
+        S_ISLNK(status.st_mode) // the stat is made anyway, so its size is kept
+            ? ListedEntry::link(storedName, qint64(status.st_size))
+            : ListedEntry::sized(storedName,
+                                 S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
+                                 qint64(status.st_size), modifiedMsecs(status));
+    if (status.st_nlink > 1) {
+        entry.markHardLinked();
+        // The caller keeps it next, at this index: a file with several names is never summed.
+        m_folderLinks.push_back({m_entries.size(), {status.st_dev, status.st_ino}});
+    }
+    return entry;
 }
 
 ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name) {

@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 
 #include <initializer_list>
+#include <set>
+#include <sys/stat.h>
 #include <utility>
 #include <vector>
 
@@ -63,6 +65,16 @@ private:
 // A deterministic pseudo-random hierarchy of roughly `itemCount` files and folders with varied
 // sizes, extensions, a few hidden entries, a package, symbolic links and empty folders.
 void generateTree(const QString& root, int itemCount, unsigned seed);
+
+// The size a walk in listing order counts for a file it meets: its own the first time, 0 for any
+// later name of a file with several names.
+class HardLinkCount {
+public:
+    qint64 sizeAt(const struct stat& status);
+
+private:
+    std::set<std::pair<dev_t, ino_t>> m_counted;
+};
 
 // One entry as a plain recursive readdir walk sees it, in pre-order with readdir's order.
 struct WalkedItem {
