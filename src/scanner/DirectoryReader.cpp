@@ -3,10 +3,12 @@
 #include "model/SaturatingSum.h"
 #include "scanner/ItemNameRules.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <limits>
 #include <optional>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -28,8 +30,12 @@ struct KernelDirent {
     char name[1]; // NUL-terminated, running past the declared bound up to recordLength
 };
 
+// A file system may store any 64-bit second (tmpfs takes 2^62): past what milliseconds can hold,
+// a date is held at the latest (or earliest) one instead of wrapping round to some other date.
 qint64 modifiedMsecs(const struct stat& status) {
-    return qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
+    constexpr qint64 latestSecond = std::numeric_limits<qint64>::max() / 1000 - 1;
+    const qint64 seconds = std::clamp<qint64>(status.st_mtim.tv_sec, -latestSecond, latestSecond);
+    return seconds * 1000 + status.st_mtim.tv_nsec / 1'000'000;
 }
 
 } // namespace

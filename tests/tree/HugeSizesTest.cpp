@@ -6,7 +6,11 @@
 #include <QFile>
 #include <QTest>
 
+#include <algorithm>
 #include <limits>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -50,6 +54,21 @@ private slots:
         QCOMPARE(result.insights.size(), 1);
         QCOMPARE(result.insights.first().type, InsightType::largeCache);
         QCOMPARE(result.insights.first().affectedSize, largest);
+    }
+
+    // A modification time past what milliseconds hold (tmpfs keeps 2^62 seconds) is held at the
+    // latest date, not wrapped round to 1970.
+    void latestModificationTimeDoesNotWrap() {
+        const timespec times[2] = {{qint64(1) << 62, 0}, {qint64(1) << 62, 0}};
+        const QByteArray path = QFile::encodeName(m_dir->filePath("b/three.log"));
+        if (::utimensat(AT_FDCWD, path.constData(), times, 0) != 0)
+            QSKIP("this file system cannot hold a modification time of 2^62 seconds");
+        const AnalysisResult result = recordScan(m_dir->path()).result();
+        const auto file =
+            std::find_if(result.largestFiles.begin(), result.largestFiles.end(),
+                         [](const FileInfo& file) { return file.name == u"three.log"; });
+        QVERIFY(file != result.largestFiles.end());
+        QVERIFY(file->modificationDate > QDateTime::currentDateTimeUtc());
     }
 
     void folderTreeSumsSaturate() {
