@@ -6,15 +6,21 @@
 #include "model/Json.h"
 
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace tessarine;
     FuzzedDataProvider input(data, size);
     const AnalysisResult result = fuzz::hostileResult(input, fuzz::TextKind::decodable);
-    const auto decoded = json::decodeResult(json::encode(result));
-    if (!decoded)
+    const QByteArray text = json::encode(result);
+    QString error;
+    const auto decoded = json::decodeResult(text, &error);
+    if (!decoded) {
+        std::fprintf(stderr, "written result does not read back: %s\n%s\n", qPrintable(error),
+                     text.constData());
         std::abort();
+    }
     const auto again = json::decodeResult(json::encode(*decoded));
     if (!again || !(*again == *decoded))
         std::abort();
