@@ -2,11 +2,14 @@
 # so a fresh Debian 12 machine needs nothing but `make` (as root).
 BUILD      ?= build
 ASAN_BUILD ?= build-asan
+FUZZ_BUILD ?= build-fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_TARGETS = ResultDecoderFuzz JsonExportFuzz CsvExportFuzz
 DIR        ?= $(CURDIR)
 JOBS       ?= $(shell nproc)
 CMAKE_GEN   = cmake -G Ninja -Wno-dev
 
-.PHONY: deps build run scan screenshots test test-fast test-asan bench format clean
+.PHONY: deps deps-fuzz build run scan screenshots test test-fast test-asan fuzz bench format clean
 
 deps:
 	@bash scripts/install-deps.sh
@@ -42,6 +45,25 @@ test-asan: deps $(ASAN_BUILD)/build.ninja
 
 test: test-fast test-asan
 
+deps-fuzz:
+	@bash scripts/install-deps.sh fuzz
+
+$(FUZZ_BUILD)/build.ninja:
+	$(CMAKE_GEN) -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	    -DCMAKE_CXX_COMPILER=clang++ -DTESSARINE_CORE_ONLY=ON -DTESSARINE_FUZZ=ON
+
+# Runs each fuzz target for FUZZ_SECONDS, starting from the seeds in fuzz/corpus/. New inputs are
+# kept in $(FUZZ_BUILD)/corpus/, a crashing one in $(FUZZ_BUILD)/ (crash-*, leak-*, timeout-*).
+fuzz: deps-fuzz $(FUZZ_BUILD)/build.ninja
+	cmake --build $(FUZZ_BUILD) -j $(JOBS) --target $(FUZZ_TARGETS)
+	@for target in $(FUZZ_TARGETS); do \
+	    mkdir -p $(FUZZ_BUILD)/corpus/$$target && \
+	    echo "== $$target, $(FUZZ_SECONDS) s" && \
+	    ( cd $(FUZZ_BUILD) && ./fuzz/$$target -max_total_time=$(FUZZ_SECONDS) -print_final_stats=1 \
+	        -timeout=10 -rss_limit_mb=4096 corpus/$$target $(CURDIR)/fuzz/corpus/$$target ) \
+	    || exit 1; \
+	done
+
 bench: build
 	bash bench/run.sh $(BUILD)
 
@@ -49,4 +71,4 @@ format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 clean:
-	rm -rf $(BUILD) $(ASAN_BUILD)
+	rm -rf $(BUILD) $(ASAN_BUILD) $(FUZZ_BUILD)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the build, the tests and the benchmarks need.
 # Only packages that are missing are installed, so a warm machine does not wait.
+# `install-deps.sh fuzz` adds what the fuzz targets need (clang and its libFuzzer runtime).
 set -euo pipefail
 
 packages=(
@@ -19,6 +20,9 @@ packages=(
   # benchmark peers and the peak-memory probe
   gdu ncdu time
 )
+if [ "${1:-}" = fuzz ]; then
+  packages+=(clang libclang-rt-14-dev)
+fi
 
 missing=()
 for p in "${packages[@]}"; do

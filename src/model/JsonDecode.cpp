@@ -82,20 +82,20 @@ FolderInfo readFolder(const ObjectReader& in, const FolderPath* parent) {
 
 std::map<qint64, DepthStats> readDepthDistribution(const ObjectReader& in) {
     std::map<qint64, DepthStats> distribution;
-    for (const QString& name : in.keys()) {
+    for (const auto& [name, member] : in.objectMembers()) {
         bool isNumber = false;
         const qint64 depth = name.toLongLong(&isNumber);
         if (!isNumber)
             fail(in.pathOf(name), QStringLiteral("member name is not a depth"));
-        distribution[depth] = readDepthStats(in.object(name));
+        distribution[depth] = readDepthStats(member);
     }
     return distribution;
 }
 
 QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in) {
     QHash<QString, ExtensionStats> extensions;
-    for (const QString& name : in.keys())
-        extensions.insert(name, readExtensionStats(in.object(name)));
+    for (const auto& [name, member] : in.objectMembers())
+        extensions.insert(name, readExtensionStats(member));
     return extensions;
 }
 

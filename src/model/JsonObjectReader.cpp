@@ -106,8 +106,12 @@ QString ObjectReader::itemPath(QStringView name, qsizetype index) const {
     return pathOf(name) + QLatin1Char('[') + QString::number(index) + QLatin1Char(']');
 }
 
-QStringList ObjectReader::keys() const {
-    return json.keys();
+QList<std::pair<QString, ObjectReader>> ObjectReader::objectMembers() const {
+    QList<std::pair<QString, ObjectReader>> members;
+    members.reserve(json.size());
+    for (auto member = json.begin(); member != json.end(); ++member)
+        members.append({member.key(), ObjectReader(member.value(), pathOf(member.key()))});
+    return members;
 }
 
 } // namespace tessarine::json

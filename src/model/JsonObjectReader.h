@@ -12,6 +12,7 @@
 #include <QUuid>
 
 #include <type_traits>
+#include <utility>
 
 namespace tessarine::json {
 
@@ -31,7 +32,11 @@ public:
 
     QString pathOf(QStringView name) const;
     bool isAbsentOrNull(QStringView name) const;
-    QStringList keys() const;
+    // Every member as an object, in document order. Taken by walking the object, not by looking
+    // each name up again: Qt 6.4's QJsonObject does not find every name it holds (a name with an
+    // escaped character and one from U+E000 to U+FFFF, beside a name with an emoji), and a result
+    // with such extensions would not read back.
+    QList<std::pair<QString, ObjectReader>> objectMembers() const;
 
     QString string(QStringView name) const;
     qint64 integer(QStringView name) const;

@@ -2,6 +2,7 @@
 
 #include "model/Format.h"
 #include "model/PathNames.h"
+#include "model/SaturatingSum.h"
 
 #include <algorithm>
 #include <numeric>
@@ -32,9 +33,14 @@ std::vector<const FolderInfo*> FolderInfo::flattened() const {
 }
 
 qint64 FolderInfo::directFilesSize() const {
-    return std::accumulate(
-        childFolders.begin(), childFolders.end(), totalSize,
-        [](qint64 rest, const FolderInfo& child) { return rest - child.totalSize; });
+    // A total held at the largest value may be less than its children together; the folder's own
+    // files are then unknown, and taken as none rather than as a negative size.
+    return std::max<qint64>(std::accumulate(childFolders.begin(), childFolders.end(), totalSize,
+                                            [](qint64 rest, const FolderInfo& child) {
+                                                return saturatingAdd(
+                                                    rest, -std::max<qint64>(child.totalSize, 0));
+                                            }),
+                            0);
 }
 
 QList<ExtensionStats> AnalysisResult::sortedExtensions() const {

@@ -1,11 +1,14 @@
 #include "scanner/DirectoryReader.h"
 
+#include "model/SaturatingSum.h"
 #include "scanner/ItemNameRules.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <limits>
 #include <optional>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -27,8 +30,12 @@ struct KernelDirent {
     char name[1]; // NUL-terminated, running past the declared bound up to recordLength
 };
 
+// A file system may store any 64-bit second (tmpfs takes 2^62): past what milliseconds can hold,
+// a date is held at the latest (or earliest) one instead of wrapping round to some other date.
 qint64 modifiedMsecs(const struct stat& status) {
-    return qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
+    constexpr qint64 latestSecond = std::numeric_limits<qint64>::max() / 1000 - 1;
+    const qint64 seconds = std::clamp<qint64>(status.st_mtim.tv_sec, -latestSecond, latestSecond);
+    return seconds * 1000 + status.st_mtim.tv_nsec / 1'000'000;
 }
 
 } // namespace
@@ -43,6 +50,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                                                         const std::atomic<bool>& cancelled) {
     m_entries.clear();
     m_subfolders.clear();
+    m_folderLinks.clear();
     m_folderCount = 0;
     qint64 summedCount = 0;
     qint64 summedSize = 0;
@@ -60,17 +68,19 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                 continue; // also drops "." and ".."
             const ListedEntry entry = describe(fd, folder, nameView, record->type);
             const std::optional<qint64> size = entry.ownSize();
-            if (m_detail.summedFiles && size) {
+            if (m_detail.summedFiles && size && !entry.isHardLinked()) {
                 ++summedCount;
-                summedSize += *size;
+                addSaturating(summedSize, *size);
                 continue;
             }
             m_entries.push_back(entry);
             m_folderCount += entry.isFolder();
         }
     }
-    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
-                      summedSize);
+    const std::span<ListedEntry> kept = m_arena.copyArray(std::span<const ListedEntry>(m_entries));
+    folder.setEntries(kept, summedCount, summedSize);
+    for (const auto& [index, identity] : m_folderLinks)
+        m_hardLinks.push_back({&kept[index], identity});
     return m_subfolders;
 }
 
@@ -93,11 +103,18 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
     // A summed entry is dropped right after: its name would only take space.
     const QByteArrayView storedName =
         m_detail.summedFiles ? QByteArrayView() : m_arena.copyName(name);
-    if (S_ISLNK(status.st_mode)) // the stat is made anyway, so its size is kept
-        return ListedEntry::link(storedName, qint64(status.st_size));
-    return ListedEntry::sized(storedName,
-                              S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
-                              qint64(status.st_size), modifiedMsecs(status));
+    ListedEntry entry =
+        S_ISLNK(status.st_mode) // the stat is made anyway, so its size is kept
+            ? ListedEntry::link(storedName, qint64(status.st_size))
+            : ListedEntry::sized(storedName,
+                                 S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
+                                 qint64(status.st_size), modifiedMsecs(status));
+    if (status.st_nlink > 1) {
+        entry.markHardLinked();
+        // The caller keeps it next, at this index: a file with several names is never summed.
+        m_folderLinks.push_back({m_entries.size(), {status.st_dev, status.st_ino}});
+    }
+    return entry;
 }
 
 ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name) {

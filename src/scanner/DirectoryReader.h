@@ -1,6 +1,7 @@
 #pragma once
 
 #include "scanner/DirectoryListing.h"
+#include "scanner/HardLinks.h"
 #include "scanner/ListedDirectory.h"
 #include "scanner/ListingArena.h"
 
@@ -26,6 +27,9 @@ public:
 
     // Of the entries of the last folder read: folders (directories and packages).
     qint64 lastFolderCount() const { return m_folderCount; }
+    // The entries with several names among all folders this reader has read. A file with several
+    // names is always listed, never summed, so its size can be counted once in listing order.
+    std::vector<HardLinkedEntry>& hardLinks() { return m_hardLinks; }
 
 private:
     ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
@@ -36,6 +40,8 @@ private:
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;
+    std::vector<std::pair<std::size_t, FileIdentity>> m_folderLinks; // by index in m_entries
+    std::vector<HardLinkedEntry> m_hardLinks;
     qint64 m_folderCount = 0;
 };
 

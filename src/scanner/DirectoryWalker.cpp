@@ -1,6 +1,7 @@
 #include "scanner/DirectoryWalker.h"
 
 #include "scanner/DirectoryReader.h"
+#include "scanner/HardLinks.h"
 
 #include <QFile>
 
@@ -52,6 +53,7 @@ struct WalkOutcome {
     qint64 items;
     qint64 folders;
     bool cancelled;
+    std::vector<HardLinkedEntry> hardLinks;
 };
 
 struct PendingFolder {
@@ -91,7 +93,8 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_workAvailable;
     std::condition_variable m_finished;
-    std::vector<PendingFolder> m_stack; // LIFO keeps the walk depth-first
+    std::vector<PendingFolder> m_stack;       // LIFO keeps the walk depth-first
+    std::vector<HardLinkedEntry> m_hardLinks; // of every reader, once it is done
     int m_busyWorkers = 0;
     bool m_done = false;
 
@@ -143,7 +146,7 @@ WalkOutcome WalkSession::run() {
     // A cancelled walk leaves folders that nobody will open; let go of their parents.
     for (const PendingFolder& pending : m_stack)
         release(pending.parent);
-    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
+    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled(), std::move(m_hardLinks)};
 }
 
 void WalkSession::work(ListingArena& arena) {
@@ -157,6 +160,8 @@ void WalkSession::work(ListingArena& arena) {
             m_finished.notify_all();
         }
     }
+    std::lock_guard lock(m_mutex);
+    m_hardLinks.insert(m_hardLinks.end(), reader.hardLinks().begin(), reader.hardLinks().end());
 }
 
 std::optional<PendingFolder> WalkSession::take() {
@@ -270,6 +275,7 @@ DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
     listing.m_itemCount = outcome.items;
     listing.m_folderCount = outcome.folders;
     listing.m_cancelled = outcome.cancelled;
+    countHardLinkedFilesOnce(listing, outcome.hardLinks);
     return listing;
 }
 

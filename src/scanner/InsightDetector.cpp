@@ -1,6 +1,7 @@
 #include "scanner/InsightDetector.h"
 
 #include "model/Format.h"
+#include "model/SaturatingSum.h"
 
 #include <array>
 #include <optional>
@@ -37,7 +38,7 @@ std::optional<PatternInsight> nodeModules(const QHash<QString, ExtensionStats>& 
     if (js == extensions.cend() || json == extensions.cend() || totalSize <= 0)
         return std::nullopt;
     const qint64 count = js->fileCount + json->fileCount;
-    const qint64 size = js->totalSize + json->totalSize;
+    const qint64 size = saturatingAdd(js->totalSize, json->totalSize);
     if (count < nodeModulesMinimumCount ||
         double(size) / double(totalSize) <= nodeModulesMinimumShare)
         return std::nullopt;
@@ -53,7 +54,7 @@ std::optional<PatternInsight> deepNesting(const std::map<qint64, DepthStats>& de
     qint64 size = 0;
     for (auto it = depths.upper_bound(deepNestingDepth); it != depths.end(); ++it) {
         count += it->second.fileCount;
-        size += it->second.totalSize;
+        addSaturating(size, it->second.totalSize);
     }
     if (count < deepNestingMinimumCount)
         return std::nullopt;
@@ -73,7 +74,7 @@ std::optional<PatternInsight> largeCache(const QHash<QString, ExtensionStats>& e
     for (const QString& ext : cacheExtensions) {
         if (const auto entry = extensions.constFind(ext); entry != extensions.cend()) {
             count += entry->fileCount;
-            size += entry->totalSize;
+            addSaturating(size, entry->totalSize);
         }
     }
     if (size < cacheMinimumSize)

@@ -52,6 +52,12 @@ public:
     qint64 modifiedMsecs() const {
         return isSized() ? m_payload.sized.modifiedMsecs : unknownModificationTime;
     }
+    // Whether the file has other names (st_nlink > 1), here or elsewhere. Its size counts once per
+    // listing, at its first name in listing order: see countHardLinkedFilesOnce.
+    bool isHardLinked() const { return m_hardLinked; }
+    void markHardLinked() { m_hardLinked = true; }
+    // A later name of a file already counted: it stays listed, with no size of its own.
+    void dropRepeatedLinkSize() { m_payload.sized.size = 0; }
     // The listing of a directory entry; null for every other kind (packages included).
     const ListedDirectory* contents() const {
         return m_kind == EntryKind::directory ? m_payload.contents : nullptr;
@@ -72,6 +78,7 @@ private:
     } m_payload;
     quint32 m_nameLength;
     EntryKind m_kind;
+    bool m_hardLinked = false;
 };
 
 static_assert(sizeof(ListedEntry) == 32, "one listed item must stay compact");

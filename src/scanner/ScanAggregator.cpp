@@ -1,5 +1,6 @@
 #include "scanner/ScanAggregator.h"
 
+#include "model/SaturatingSum.h"
 #include "scanner/InsightDetector.h"
 
 #include <algorithm>
@@ -37,20 +38,20 @@ ExtensionTally& ScanAggregator::tally(const QString& ext, FileCategory category)
 void ScanAggregator::countFile(qint64 size, qint64 depth, ExtensionTally& ext,
                                FileCategory category) {
     ++m_fileCount;
-    m_totalSize += size;
+    addSaturating(m_totalSize, size);
     CategoryStats& stats = m_categories[std::size_t(category)];
     ++stats.fileCount;
-    stats.totalSize += size;
+    addSaturating(stats.totalSize, size);
     const quint16 categoryBit = quint16(1u << unsigned(category));
     if (!(ext.categoriesHoldingExt & categoryBit)) {
         ext.categoriesHoldingExt |= categoryBit;
         stats.extensions.insert(ext.ext);
     }
     ++ext.fileCount;
-    ext.totalSize += size;
+    addSaturating(ext.totalSize, size);
     DepthStats& level = depthEntry(depth);
     ++level.fileCount;
-    level.totalSize += size;
+    addSaturating(level.totalSize, size);
 }
 
 DepthStats& ScanAggregator::depthEntry(qint64 depth) {

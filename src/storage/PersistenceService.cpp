@@ -5,6 +5,7 @@
 #include "storage/ConsoleLine.h"
 #include "storage/CsvExport.h"
 #include "storage/HistoryLocation.h"
+#include "storage/StoredFileRead.h"
 
 #include <QDir>
 #include <QFile>
@@ -40,14 +41,12 @@ bool mayHoldResult(const QFileInfo& entry) {
 
 // The result in one history file, or why it could not be had.
 std::variant<AnalysisResult, QString> readHistoryFile(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
-    const QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return file.errorString();
+    auto bytes = readStoredFile(path);
+    if (auto* reason = std::get_if<QString>(&bytes))
+        return std::move(*reason);
     QString decodeError;
-    std::optional<AnalysisResult> result = json::decodeResult(bytes, &decodeError);
+    std::optional<AnalysisResult> result =
+        json::decodeResult(std::get<QByteArray>(bytes), &decodeError);
     if (!result)
         return decodeError;
     return std::move(*result);

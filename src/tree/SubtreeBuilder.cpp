@@ -1,6 +1,8 @@
 #include "tree/SubtreeBuilder.h"
 
 #include "model/PathNames.h"
+#include "model/SaturatingSum.h"
+#include "scanner/DirectoryWalker.h"
 
 #include <QFile>
 
@@ -81,7 +83,7 @@ void SubtreeBuilder::enter(const ListedDirectory& folder, QByteArrayView name, F
 void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
     if (entry.kind() != EntryKind::directory) {
         const std::optional<qint64> size = entry.ownSize();
-        frame.totalSize += size ? *size : unlistedEntrySize(entry.name());
+        addSaturating(frame.totalSize, size ? *size : unlistedEntrySize(entry.name()));
         frame.fileCount += 1;
         return;
     }
@@ -114,7 +116,7 @@ const ReadyFolder* SubtreeBuilder::readyFolder(const ListedDirectory* folder) co
 }
 
 void SubtreeBuilder::adopt(Frame& parent, FolderInfo&& node) {
-    parent.totalSize += node.totalSize;
+    addSaturating(parent.totalSize, node.totalSize);
     parent.fileCount += node.fileCount;
     parent.children.push_back(std::move(node));
 }

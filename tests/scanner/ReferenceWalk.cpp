@@ -13,7 +13,8 @@ namespace tessarine::testing {
 
 namespace {
 
-void walkInto(const QByteArray& folder, qint64 depth, std::vector<WalkedItem>& items) {
+void walkInto(const QByteArray& folder, qint64 depth, std::vector<WalkedItem>& items,
+              HardLinkCount& links) {
     DIR* dir = opendir(folder.constData());
     if (!dir)
         return;
@@ -35,14 +36,14 @@ void walkInto(const QByteArray& folder, qint64 depth, std::vector<WalkedItem>& i
                 item.kind = EntryKind::symlink;
             } else {
                 item.kind = S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special;
-                item.size = status.st_size;
+                item.size = links.sizeAt(status);
                 item.modifiedMsecs =
                     qint64(status.st_mtim.tv_sec) * 1000 + status.st_mtim.tv_nsec / 1'000'000;
             }
         }
         items.push_back(item);
         if (item.kind == EntryKind::directory)
-            walkInto(path, depth + 1, items);
+            walkInto(path, depth + 1, items, links);
     }
 }
 
@@ -72,7 +73,8 @@ FileInfo recordOf(const WalkedItem& item) {
 
 std::vector<WalkedItem> referenceWalk(const QByteArray& root) {
     std::vector<WalkedItem> items;
-    walkInto(root, 0, items);
+    HardLinkCount links;
+    walkInto(root, 0, items, links);
     return items;
 }
 

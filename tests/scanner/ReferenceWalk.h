@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FileTrees.h"
 #include "model/Records.h"
 #include "scanner/ListedEntry.h"
 

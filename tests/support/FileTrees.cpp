@@ -128,6 +128,7 @@ void generateTree(const QString& root, int itemCount, unsigned seed) {
                                              "tar.gz", "log", "cpp", "Mp4",  "cache"};
     QRandomGenerator random(seed);
     QStringList folders{root};
+    QStringList files;
     writeFile(root + "/Tool.app/Contents/binary", 5000);
     writeFile(root + "/.hidden/inside.txt", 10);
     writeFile(root + "/.dotfile", 10);
@@ -143,12 +144,30 @@ void generateTree(const QString& root, int itemCount, unsigned seed) {
         }
         const QString ext = QString::fromLatin1(extensions[random.bounded(10)]);
         const QString name = QStringLiteral("file-%1").arg(made) + (ext.isEmpty() ? "" : "." + ext);
-        writeFile(parent + '/' + name, random.bounded(3) == 0 ? 0 : random.bounded(4000));
+        files.append(
+            writeFile(parent + '/' + name, random.bounded(3) == 0 ? 0 : random.bounded(4000)));
         if (random.bounded(50) == 0)
             QFile::link(parent + '/' + name, parent + QStringLiteral("/link-%1").arg(made));
         if (made % 200 == 0)
             QFile::link(parent + "/gone", parent + QStringLiteral("/dangling-%1").arg(made));
     }
+    // Some files get more names in other folders, before or after the first in listing order.
+    for (qsizetype file = 0; file < files.size(); file += 40) {
+        for (qsizetype name = 1; name <= 1 + file % 3; ++name) {
+            const QString& folder = folders.at((file * 7 + name) % folders.size());
+            const QString linkPath = folder + QStringLiteral("/hard-%1-%2").arg(file).arg(name);
+            require(::link(QFile::encodeName(files[file]).constData(),
+                           QFile::encodeName(linkPath).constData()) == 0,
+                    "cannot make a hard link");
+        }
+    }
+}
+
+qint64 HardLinkCount::sizeAt(const struct stat& status) {
+    if (!S_ISDIR(status.st_mode) && status.st_nlink > 1 &&
+        !m_counted.insert({status.st_dev, status.st_ino}).second)
+        return 0;
+    return qint64(status.st_size);
 }
 
 int openDescriptorCount() {

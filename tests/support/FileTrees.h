@@ -7,7 +7,10 @@
 #include <QTemporaryDir>
 
 #include <initializer_list>
+#include <set>
 #include <utility>
+
+#include <sys/stat.h>
 
 // Real folders and files for tests, made in temporary folders. Every writer creates the folders
 // above what it writes and throws std::runtime_error when the file system refuses, so that no test
@@ -70,6 +73,16 @@ void generateTree(const QString& root, int itemCount, unsigned seed);
 
 // Descriptors this process has open right now.
 int openDescriptorCount();
+
+// The size a plain walk in listing order counts for a file it meets: its own the first time, 0
+// for any later name of a file with several names.
+class HardLinkCount {
+public:
+    qint64 sizeAt(const struct stat& status);
+
+private:
+    std::set<std::pair<dev_t, ino_t>> m_counted;
+};
 
 // A temporary folder in memory (tmpfs) where the system offers one, else in the usual place: a
 // disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.

@@ -1,4 +1,5 @@
 #include "ReferenceTree.h"
+#include "FileTrees.h"
 
 #include "scanner/ItemNameRules.h"
 
@@ -14,8 +15,8 @@ namespace tessarine::testing {
 
 namespace {
 
-FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
-                      qint64 colourIndex) {
+FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth, qint64 colourIndex,
+                      HardLinkCount& links) {
     FolderInfo node;
     node.location = FolderPath(QFile::decodeName(path));
     node.name = name;
@@ -37,14 +38,14 @@ FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
         const bool known = lstat(entryPath.constData(), &status) == 0;
         if (known && S_ISDIR(status.st_mode) && !isPackageName(entryName)) {
             FolderInfo child =
-                folderNode(entryPath, QFile::decodeName(entryName), depth + 1, subfolders++);
+                folderNode(entryPath, QFile::decodeName(entryName), depth + 1, subfolders++, links);
             if (child.totalSize < 1 && child.childFolders.empty())
                 continue;
             node.totalSize += child.totalSize;
             node.fileCount += child.fileCount;
             node.childFolders.push_back(std::move(child));
         } else {
-            node.totalSize += known ? qint64(status.st_size) : 0;
+            node.totalSize += known ? links.sizeAt(status) : 0;
             node.fileCount += 1;
         }
     }
@@ -57,7 +58,8 @@ FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
 } // namespace
 
 FolderInfo referenceTree(const QString& root) {
-    return folderNode(QFile::encodeName(root), QFileInfo(root).fileName(), 0, 0);
+    HardLinkCount links;
+    return folderNode(QFile::encodeName(root), QFileInfo(root).fileName(), 0, 0, links);
 }
 
 FolderInfo withoutIds(FolderInfo tree) {

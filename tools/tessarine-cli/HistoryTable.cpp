@@ -1,6 +1,7 @@
 #include "HistoryTable.h"
 
 #include "model/Format.h"
+#include "model/TerminalText.h"
 
 #include <QStringList>
 #include <QUuid>
@@ -15,18 +16,8 @@ constexpr int columnCount = 5;
 using Row = std::array<QString, columnCount>;
 constexpr std::array<bool, columnCount> alignedRight{false, false, true, true, false};
 
-// A folder name may hold a line feed or a terminal escape; either would break the table or the
-// terminal, so control characters are shown as "?".
-QString printable(QString text) {
-    for (QChar& character : text) {
-        if (character.category() == QChar::Other_Control)
-            character = u'?';
-    }
-    return text;
-}
-
 Row rowOf(const AnalysisResult& result) {
-    return {format::absoluteDate(result.scanDate), printable(result.rootPath),
+    return {format::absoluteDate(result.scanDate), escapeControlCharacters(result.rootPath),
             format::byteCount(result.totalSize), format::count(result.fileCount),
             result.id.toString(QUuid::WithoutBraces).toUpper()};
 }

@@ -1,5 +1,7 @@
 #include "StandardStreams.h"
 
+#include "model/TerminalText.h"
+
 #include <cerrno>
 #include <cstring>
 
@@ -47,7 +49,7 @@ bool writeOutput(QByteArrayView bytes) {
 }
 
 void printError(const QString& text) {
-    writeToStandardError((text + u'\n').toUtf8());
+    writeToStandardError((escapeControlCharacters(text) + u'\n').toUtf8());
 }
 
 void writeToStandardError(const QByteArray& bytes) {

@@ -15,7 +15,7 @@ void reserveStandardOutput();
 // prints why on standard error and returns false.
 bool writeOutput(QByteArrayView bytes);
 
-// One line on standard error.
+// One line on standard error, control characters escaped (it often carries a path).
 void printError(const QString& text);
 
 // Raw bytes on standard error, for the progress line.

@@ -3,6 +3,8 @@
 #include "ExitCode.h"
 #include "StandardStreams.h"
 
+#include "model/TerminalText.h"
+
 namespace tessarine::cli {
 
 namespace {
@@ -36,7 +38,7 @@ int printUsage() {
 }
 
 int usageError(const QString& problem) {
-    writeToStandardError((problem + u'\n' + usageText()).toUtf8());
+    writeToStandardError((escapeControlCharacters(problem) + u'\n' + usageText()).toUtf8());
     return exitUsage;
 }
 
