@@ -1,14 +1,10 @@
 #include "SymbolTable.h"
 
-#include <QFontDatabase>
 #include <QHash>
 
 namespace tessarine {
 
 namespace {
-
-const QString iconFontFile = QStringLiteral(
-    "/usr/share/fonts/truetype/material-design-icons-iconfont/MaterialIcons-Regular.ttf");
 
 // Material's "help_outline": unmistakably a placeholder, never a real symbol of the app.
 constexpr char16_t unknownSymbol = 0xe8fd;
@@ -120,23 +116,16 @@ const QHash<QString, char16_t>& table() {
 } // namespace
 
 SymbolTable::SymbolTable(QObject* parent)
-    : QObject(parent) {
-    fontFamily();
-}
+    : QObject(parent) {}
 
 QString SymbolTable::glyph(const QString& symbolName) const {
     return QString(QChar(codepoint(symbolName)));
 }
 
+// Found by family through the platform's font database: the system package installs it, or a
+// build that embeds the fonts registers it at start (see registerEmbeddedFonts).
 QString SymbolTable::fontFamily() {
-    // Registered once per process; when the file is missing, fontconfig may still know the
-    // family by name, which is the best left to try.
-    static const QString family = [] {
-        const QStringList families =
-            QFontDatabase::applicationFontFamilies(QFontDatabase::addApplicationFont(iconFontFile));
-        return families.isEmpty() ? QStringLiteral("Material Icons") : families.first();
-    }();
-    return family;
+    return QStringLiteral("Material Icons");
 }
 
 QStringList SymbolTable::symbolNames() {

@@ -22,7 +22,7 @@ public:
     // missing entry shows up on screen instead of leaving a hole.
     Q_INVOKABLE QString glyph(const QString& symbolName) const;
 
-    // The icon font's family, loaded from the installed font file on first use.
+    // The icon font's family.
     static QString fontFamily();
     static QStringList symbolNames();
     static char16_t codepoint(const QString& symbolName);

@@ -16,7 +16,7 @@ QColor paletteColor(QStringView name);
 
 class Palette : public QObject {
     Q_OBJECT
-    QML_ELEMENT
+    QML_NAMED_ELEMENT(NamedColors)
     QML_SINGLETON
 
 public:

@@ -9,26 +9,26 @@ QtObject {
     id: theme
 
     // Named colours, from the palette that C++ drawing reads too.
-    readonly property color blue: Palette.named("blue")
-    readonly property color green: Palette.named("green")
-    readonly property color teal: Palette.named("teal")
-    readonly property color orange: Palette.named("orange")
-    readonly property color pink: Palette.named("pink")
-    readonly property color purple: Palette.named("purple")
-    readonly property color red: Palette.named("red")
-    readonly property color yellow: Palette.named("yellow")
-    readonly property color brown: Palette.named("brown")
-    readonly property color indigo: Palette.named("indigo")
-    readonly property color mint: Palette.named("mint")
-    readonly property color cyan: Palette.named("cyan")
-    readonly property color gray: Palette.named("gray")
-    readonly property color accent: Palette.named("accent")
+    readonly property color blue: NamedColors.named("blue")
+    readonly property color green: NamedColors.named("green")
+    readonly property color teal: NamedColors.named("teal")
+    readonly property color orange: NamedColors.named("orange")
+    readonly property color pink: NamedColors.named("pink")
+    readonly property color purple: NamedColors.named("purple")
+    readonly property color red: NamedColors.named("red")
+    readonly property color yellow: NamedColors.named("yellow")
+    readonly property color brown: NamedColors.named("brown")
+    readonly property color indigo: NamedColors.named("indigo")
+    readonly property color mint: NamedColors.named("mint")
+    readonly property color cyan: NamedColors.named("cyan")
+    readonly property color gray: NamedColors.named("gray")
+    readonly property color accent: NamedColors.named("accent")
 
     // Label tiers.
-    readonly property color primary: Palette.named("primary")
-    readonly property color secondary: Palette.named("secondary")
-    readonly property color tertiary: Palette.named("tertiary")
-    readonly property color quaternary: Palette.named("quaternary")
+    readonly property color primary: NamedColors.named("primary")
+    readonly property color secondary: NamedColors.named("secondary")
+    readonly property color tertiary: NamedColors.named("tertiary")
+    readonly property color quaternary: NamedColors.named("quaternary")
 
     // Surfaces.
     readonly property color windowBackground: "#ECECEC"
@@ -46,7 +46,7 @@ QtObject {
     // A colour by its name, so that data carrying a colour name (a category, a folder colour) can
     // be painted. Unknown names give the secondary colour.
     function named(name) {
-        return Palette.named(name)
+        return NamedColors.named(name)
     }
 
     // The colour with its opacity multiplied, so that "secondary at 30%" stays fainter than

@@ -1,9 +1,8 @@
 #include "ShellEngine.h"
 
-#include "app/SymbolTable.h"
+#include "app/design/EmbeddedFonts.h"
 
 #include <QFont>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QQmlEngine>
 #include <QQuickStyle>
@@ -15,25 +14,10 @@ Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 namespace tessarine {
 
-namespace {
-
-const QString interFolder = QStringLiteral("/usr/share/fonts/opentype/inter");
-
-// Registers the Inter weights the theme uses; fontconfig usually knows them already, but an
-// explicit registration keeps the look when it does not.
-void loadInter() {
-    for (const char* weight : {"Regular", "Medium", "SemiBold", "Bold"})
-        QFontDatabase::addApplicationFont(
-            QStringLiteral("%1/Inter-%2.otf").arg(interFolder, QLatin1String(weight)));
-}
-
-} // namespace
-
 void prepareShell() {
     // Basic is the one style drawn entirely in QML, so every control takes the theme's look.
     QQuickStyle::setStyle(QStringLiteral("Basic"));
-    loadInter();
-    SymbolTable::fontFamily();
+    registerEmbeddedFonts();
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
