@@ -108,6 +108,43 @@ private slots:
         drag.leave();
     }
 
+    // Every screen at the smallest window and at full HD, with names long enough to need
+    // eliding: no text may run out of its card.
+    void screensAtWindowSizes_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("smallest") << QSize(900, 600);
+        QTest::newRow("full-hd") << QSize(1920, 1080);
+    }
+
+    void screensAtWindowSizes() {
+        QFETCH(QSize, size);
+        const QString suffix = QLatin1Char('-') + QString::fromLatin1(QTest::currentDataTag());
+        const QString longFolder = QStringLiteral(
+            "/Users/ann/Documents/Client Projects 2025/Quarterly Reports and Presentations/"
+            "Final Versions Approved by the Board of Directors");
+        {
+            Scene scene(7);
+            scene.window()->resize(size);
+            scene.save(QStringLiteral("landing") + suffix);
+        }
+        {
+            Scene scene;
+            scene.window()->resize(size);
+            scene.state().setCurrentView(AppState::Scanning);
+            ScanProgress progress = midScan();
+            progress.currentPath = longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data");
+            scene.state().setScanProgress(progress);
+            scene.save(QStringLiteral("scanning") + suffix);
+        }
+        {
+            Scene scene(3);
+            scene.window()->resize(size);
+            scene.state().openResult(testing::sampleResult(
+                longFolder, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC)));
+            scene.save(QStringLiteral("dashboard") + suffix);
+        }
+    }
+
     void errorAlert() {
         Scene scene(3);
         scene.state().setError(

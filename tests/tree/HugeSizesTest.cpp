@@ -1,6 +1,6 @@
+#include "FileTrees.h"
 #include "RecordedBuild.h"
 #include "RecordedScan.h"
-#include "FileTrees.h"
 
 #include <QDir>
 #include <QFile>

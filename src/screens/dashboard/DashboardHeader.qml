@@ -41,6 +41,8 @@ Card {
             }
 
             Flow {
+                id: facts
+
                 Layout.fillWidth: true
                 spacing: Theme.spacingLarge
 
@@ -48,6 +50,7 @@ Card {
                     font: Theme.callout
                     symbol: "location"
                     text: header.result.rootPath
+                    maximumWidth: facts.width
                 }
 
                 DetailLabel {

@@ -22,22 +22,30 @@ Flow {
         model: location.crumbs
 
         Row {
+            id: crumb
+
             required property int index
             required property string modelData
 
             spacing: 4
 
             Icon {
+                id: chevron
+
                 anchors.verticalCenter: parent.verticalCenter
-                visible: index > 0
+                visible: crumb.index > 0
                 symbol: "chevron.right"
                 size: 10
                 color: Theme.tertiary
             }
 
+            // A folder name longer than the line is shortened in the middle.
             Text {
                 anchors.verticalCenter: parent.verticalCenter
-                text: modelData
+                width: Math.min(implicitWidth, location.width
+                                - (chevron.visible ? chevron.width + crumb.spacing : 0))
+                elide: Text.ElideMiddle
+                text: crumb.modelData
                 font: Theme.monospaced(Theme.callout)
                 color: Theme.primary
             }

@@ -2,14 +2,17 @@ import QtQuick
 import QtQuick.Layouts
 import Tessarine.Screens
 
-// The four performance cards side by side, or their placeholders before the first snapshot.
-RowLayout {
+// The four performance cards side by side, two by two where the panel is narrow, or their
+// placeholders before the first snapshot.
+GridLayout {
     id: cards
 
     required property FigureListModel figures
     required property bool placeholder
 
-    spacing: 12
+    columns: width >= 4 * 130 + 3 * columnSpacing ? 4 : 2
+    columnSpacing: 12
+    rowSpacing: 12
 
     Repeater {
         model: cards.figures

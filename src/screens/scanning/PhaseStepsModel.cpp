@@ -4,10 +4,10 @@
 
 namespace tessarine {
 
-void PhaseStepsModel::setPhase(int phase) {
-    if (phase < 0 || phase >= int(allScanPhases().size()) || phase == int(m_phase))
+void PhaseStepsModel::setPhase(ScanPhase phase) {
+    if (phase == m_phase)
         return;
-    m_phase = static_cast<ScanPhase>(phase);
+    m_phase = phase;
     m_steps = phaseSteps(m_phase);
     emit dataChanged(index(0), index(rowCount() - 1), {CompletedRole, CurrentRole});
     emit phaseChanged();

@@ -7,11 +7,11 @@
 
 namespace tessarine {
 
-// The five dots of the phase-steps row for the bound phase (a ScanPhase position).
+// The five dots of the phase-steps row for the bound phase.
 class PhaseStepsModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(int phase READ phase WRITE setPhase NOTIFY phaseChanged)
+    Q_PROPERTY(tessarine::ScanPhase phase READ phase WRITE setPhase NOTIFY phaseChanged)
 
 public:
     enum Role { LabelRole = Qt::UserRole + 1, CompletedRole, CurrentRole };
@@ -19,8 +19,8 @@ public:
 
     using QAbstractListModel::QAbstractListModel;
 
-    int phase() const { return int(m_phase); }
-    void setPhase(int phase);
+    ScanPhase phase() const { return m_phase; }
+    void setPhase(ScanPhase phase);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -16,25 +16,32 @@ ColumnLayout {
 
     spacing: 0
 
-    // Anchored rather than laid out, so that the steps replacing "Initializing..." when the first
-    // snapshot arrives take their place at the trailing edge at once.
+    // Placed rather than laid out, so that the steps replacing "Initializing..." when the first
+    // snapshot arrives take their place at once; where the title and the steps do not fit side by
+    // side, the steps go below the title.
     Item {
+        id: header
+
+        readonly property bool stacked: title.implicitWidth + steps.implicitWidth + 60 > width
+
         Layout.fillWidth: true
-        implicitHeight: 56
+        implicitHeight: stacked ? 92 : 56
 
         Text {
-            anchors.left: parent.left
-            anchors.leftMargin: 20
-            anchors.verticalCenter: parent.verticalCenter
+            id: title
+
+            x: 20
+            y: header.stacked ? 16 : (header.height - height) / 2
             text: "Scan Details"
             font: Theme.headline
             color: Theme.primary
         }
 
         PhaseStepsIndicator {
-            anchors.right: parent.right
-            anchors.rightMargin: 20
-            anchors.verticalCenter: parent.verticalCenter
+            id: steps
+
+            x: header.stacked ? 20 : header.width - 20 - width
+            y: header.stacked ? title.y + title.height + 12 : (header.height - height) / 2
             visible: panel.hasProgress
             phase: panel.progress.phase
         }

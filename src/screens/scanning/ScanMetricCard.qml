@@ -35,6 +35,8 @@ Rectangle {
 
             Text {
                 anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, content.width - 17)
+                elide: Text.ElideRight
                 text: card.title
                 font: Theme.caption
                 color: Theme.secondary
