@@ -1,4 +1,4 @@
-#include "ShellFixture.h"
+#include "AppFixture.h"
 
 #include "app/shell/ShellEngine.h"
 
@@ -17,7 +17,7 @@ public slots:
     void applicationAvailable() {
         QStandardPaths::setTestModeEnabled(true);
         prepareShell();
-        m_fixture = std::make_unique<ShellFixture>();
+        m_fixture = std::make_unique<AppFixture>(QStringLiteral(SCREENSHOT_DIR));
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
     }
 
@@ -26,7 +26,7 @@ public slots:
     void cleanupTestCase() { m_fixture.reset(); }
 
 private:
-    std::unique_ptr<ShellFixture> m_fixture;
+    std::unique_ptr<AppFixture> m_fixture;
 };
 
 } // namespace tessarine

@@ -1,11 +1,8 @@
-#include "ScreenFixtures.h"
-#include "app/AppState.h"
-#include "storage/PersistenceService.h"
+#include "AppFixture.h"
 
 #include <QLocale>
 #include <QQmlEngine>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest>
 
@@ -16,8 +13,8 @@ Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 using namespace tessarine;
 
-// Gives every test file a fresh application state over a history in a temporary folder, and
-// the fixtures that fill it.
+// Gives every test file a fresh application state and the fixture that fills it, as the Fixture
+// singleton of Tessarine.Testing.
 class ScreensViewSetup : public QObject {
     Q_OBJECT
 
@@ -29,22 +26,14 @@ public slots:
 
     void qmlEngineAvailable(QQmlEngine* engine) {
         engine->addImportPath(QStringLiteral(":/"));
-        m_fixtures.reset();
-        m_state.reset();
-        m_store = std::make_unique<PersistenceService>(m_history.path());
-        m_state = std::make_unique<AppState>(*m_store);
-        AppState::setSharedInstance(m_state.get());
-        m_fixtures = std::make_unique<ScreenFixtures>(*m_state);
-        qmlRegisterSingletonInstance("Tessarine.Fixtures", 1, 0, "Fixtures", m_fixtures.get());
+        m_fixture = std::make_unique<AppFixture>(QStringLiteral(SCREENSHOT_DIR));
+        qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
     }
 
 private:
-    QTemporaryDir m_history;
-    std::unique_ptr<PersistenceService> m_store;
-    std::unique_ptr<AppState> m_state;
-    std::unique_ptr<ScreenFixtures> m_fixtures;
+    std::unique_ptr<AppFixture> m_fixture;
 };
 
-QUICK_TEST_MAIN_WITH_SETUP(screens_view_test, ScreensViewSetup)
+QUICK_TEST_MAIN_WITH_SETUP(ScreensViewTest, ScreensViewSetup)
 
 #include "ScreensViewTest.moc"

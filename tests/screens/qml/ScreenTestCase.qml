@@ -1,6 +1,6 @@
 import QtQuick
 import QtTest
-import Tessarine.Fixtures
+import Tessarine.Testing
 
 // A test case the size of the main window that can save what a view rendered.
 TestCase {
@@ -12,7 +12,7 @@ TestCase {
     function saveScreenshot(item, name) {
         let saved = false
         verify(item.grabToImage(result => {
-            result.saveToFile(Fixtures.screenshotPath(name))
+            result.saveToFile(Fixture.screenshotPath(name))
             saved = true
         }))
         tryVerify(() => saved)

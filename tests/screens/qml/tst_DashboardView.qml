@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Tessarine.App
-import Tessarine.Fixtures
+import Tessarine.Testing
 import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
@@ -29,7 +29,7 @@ ScreenTestCase {
     }
 
     function test_headerAndSummaryCards() {
-        Fixtures.showResult("/Users/ann/Movies")
+        Fixture.showResult("/Users/ann/Movies")
         const view = createTemporaryObject(dashboardComponent, testCase)
         const cards = summaryCards(view)
         compare(cards.length, 4)
@@ -47,7 +47,7 @@ ScreenTestCase {
     }
 
     function test_insightsShowOnlyWhatIsThere() {
-        Fixtures.showResult("/Users/ann/Library")
+        Fixture.showResult("/Users/ann/Library")
         let view = createTemporaryObject(dashboardComponent, testCase)
         verify(ViewSearch.shows(view, "Insights"))
         verify(ViewSearch.shows(view, "Large cache files"))
@@ -56,15 +56,15 @@ ScreenTestCase {
         compare(ViewSearch.texts(view).filter(text => text.endsWith(" affected")), ["150 MB affected"])
         view.destroy()
 
-        Fixtures.showResult("/Users/ann/Library", false)
+        Fixture.showResult("/Users/ann/Library", false)
         view = createTemporaryObject(dashboardComponent, testCase)
         verify(!ViewSearch.shows(view, "Insights"))
     }
 
     function test_rescanScansTheSameFolder() {
         // A name that a URL parser would cut at "#" or decode at "%41".
-        const folder = Fixtures.makeFolder("Odd #1 %41 name")
-        Fixtures.showResult(folder)
+        const folder = Fixture.makeFolder("Odd #1 %41 name")
+        Fixture.showResult(folder)
         const view = createTemporaryObject(dashboardComponent, testCase)
         mouseClick(ViewSearch.named(view, "rescanButton"))
         compare(AppState.currentView, AppState.Scanning)
@@ -74,7 +74,7 @@ ScreenTestCase {
     }
 
     function test_newScanOpensThePicker() {
-        Fixtures.showResult("/Users/ann/Movies")
+        Fixture.showResult("/Users/ann/Movies")
         const view = createTemporaryObject(dashboardComponent, testCase)
         mouseClick(ViewSearch.named(view, "newScanButton"))
         verify(AppState.showFolderPicker)

@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Tessarine.App
-import Tessarine.Fixtures
+import Tessarine.Testing
 import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
@@ -33,7 +33,7 @@ ScreenTestCase {
     function init() {
         AppState.currentView = AppState.Landing
         AppState.showFolderPicker = false
-        Fixtures.fillHistory(0)
+        Fixture.fillHistory(0)
     }
 
     function recentCards(view) {
@@ -51,7 +51,7 @@ ScreenTestCase {
     }
 
     function test_recentScansShowTheFiveNewest() {
-        Fixtures.fillHistory(7)
+        Fixture.fillHistory(7)
         const view = createTemporaryObject(landingComponent, testCase)
         waitForRendering(view)
         verify(ViewSearch.shows(view, "Recent Scans"))
@@ -71,7 +71,7 @@ ScreenTestCase {
     }
 
     function test_buttonsOpenThePickerAndTheHistory() {
-        Fixtures.fillHistory(2)
+        Fixture.fillHistory(2)
         const view = createTemporaryObject(landingComponent, testCase)
         mouseClick(ViewSearch.named(view, "dropZone"))
         verify(AppState.showFolderPicker)
@@ -90,16 +90,16 @@ ScreenTestCase {
 
     function test_onlyADroppedFolderStartsAScan() {
         const view = createTemporaryObject(landingComponent, testCase)
-        verify(view.dropArea.take([Fixtures.fileUrl(Fixtures.makeFile("report.pdf"))]))
+        verify(view.dropArea.take([Fixture.urlOf(Fixture.makeFile("report.pdf"))]))
         verify(!view.dropArea.take([]))
         wait(0) // lets a wrongly started scan show itself
         compare(AppState.currentView, AppState.Landing)
         verify(!AppState.hasError)
 
-        verify(view.dropArea.take([Fixtures.fileUrl(Fixtures.makeFolder("Photos 2024"))]))
+        verify(view.dropArea.take([Fixture.urlOf(Fixture.makeFolder("Photos 2024"))]))
         tryCompare(AppState, "currentView", AppState.Scanning)
         // The same rule as the window's: nothing is taken while a scan runs.
-        verify(!view.dropArea.take([Fixtures.fileUrl(Fixtures.makeFolder("Later"))]))
+        verify(!view.dropArea.take([Fixture.urlOf(Fixture.makeFolder("Later"))]))
         AppState.cancelScan()
     }
 

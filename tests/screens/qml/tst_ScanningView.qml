@@ -1,7 +1,7 @@
 import QtQuick
 import QtTest
 import Tessarine.App
-import Tessarine.Fixtures
+import Tessarine.Testing
 import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
@@ -20,7 +20,7 @@ ScreenTestCase {
     }
 
     function init() {
-        Fixtures.clearProgress()
+        Fixture.clearProgress()
         AppState.currentView = AppState.Scanning
     }
 
@@ -46,7 +46,7 @@ ScreenTestCase {
 
     function test_liveSnapshot() {
         const view = createTemporaryObject(scanningComponent, testCase)
-        Fixtures.showProgress("/Users/ann/Projects/tessarine/src/screens/scanning/main.cpp")
+        Fixture.showProgress("/Users/ann/Projects/tessarine/src/screens/scanning/main.cpp")
         waitForRendering(view)
         const texts = ViewSearch.texts(view)
         for (const expected of ["Analyzing files...", "Reading file metadata", "1,500", "items",
@@ -67,7 +67,7 @@ ScreenTestCase {
     function test_activityLogShowsTheFifteenNewest() {
         const view = createTemporaryObject(scanningComponent, testCase)
         for (let i = 1; i <= 20; ++i)
-            Fixtures.showProgress("/data/file" + i + ".bin")
+            Fixture.showProgress("/data/file" + i + ".bin")
         waitForRendering(view)
         verify(ViewSearch.shows(view, "20 entries"))
         const rows = logRows(view)

@@ -1,0 +1,144 @@
+#include "AppFixture.h"
+
+#include "SampleHistory.h"
+#include "ScanFolders.h"
+
+#include "app/AppState.h"
+#include "storage/PersistenceService.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace tessarine {
+
+namespace {
+
+AnalysisResult resultOf(const QString& rootPath) {
+    AnalysisResult result;
+    result.rootPath = rootPath;
+    result.rootName = rootPath.section(u'/', -1);
+    result.scanDate = QDateTime::currentDateTimeUtc().addSecs(-7200);
+    result.totalSize = 2'500'000'000;
+    result.fileCount = 1'234;
+    result.folderCount = 87;
+    result.maxDepth = 12;
+    result.scanDuration = 12.3;
+    return result;
+}
+
+PatternInsight insight(InsightType type, const char* title, qint64 affectedSize) {
+    PatternInsight insight;
+    insight.type = type;
+    insight.title = QString::fromLatin1(title);
+    insight.description = QStringLiteral("Found in 3 places");
+    insight.affectedSize = affectedSize;
+    insight.affectedCount = 3;
+    return insight;
+}
+
+} // namespace
+
+AppFixture::AppFixture(const QString& screenshotFolder, QObject* parent)
+    : QObject(parent)
+    , m_screenshotFolder(screenshotFolder)
+    , m_store(std::make_unique<PersistenceService>(m_home.path())) {
+    testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
+    testing::writeFile(m_files.filePath(QStringLiteral("notes.txt")), 10);
+    testing::storeSampleHistory(*m_store, storedScanCount());
+    m_state = std::make_unique<AppState>(*m_store);
+    AppState::setSharedInstance(m_state.get());
+}
+
+AppFixture::~AppFixture() = default;
+
+QString AppFixture::folderPath() const {
+    return m_files.filePath(QStringLiteral("folder"));
+}
+
+QUrl AppFixture::folderUrl() const {
+    return QUrl::fromLocalFile(folderPath());
+}
+
+QUrl AppFixture::fileUrl() const {
+    return QUrl::fromLocalFile(m_files.filePath(QStringLiteral("notes.txt")));
+}
+
+// Made on first use: most test files never scan it, and writing it is most of a fixture's cost.
+QUrl AppFixture::largeFolderUrl() const {
+    const QString path = m_files.filePath(QStringLiteral("large"));
+    if (!QFileInfo::exists(path))
+        testing::makeScannableFolder(path, 5000);
+    return QUrl::fromLocalFile(path);
+}
+
+bool AppFixture::dragOver(QQuickItem* over, const QUrl& url) {
+    m_drag = std::make_unique<testing::WindowDrag>(over, QList<QUrl>{url});
+    return m_drag->enter();
+}
+
+int AppFixture::drop() {
+    return m_drag ? m_drag->drop() : Qt::IgnoreAction;
+}
+
+void AppFixture::leave() {
+    if (m_drag)
+        m_drag->leave();
+}
+
+void AppFixture::forgetFolderScans() {
+    const QList<AnalysisResult> stored = m_state->scanHistory()->results();
+    for (const AnalysisResult& result : stored)
+        if (result.rootPath.startsWith(m_files.path()))
+            m_state->deleteScan(result);
+}
+
+void AppFixture::fillHistory(int count) {
+    QList<AnalysisResult> results;
+    for (int n = count; n >= 1; --n) {
+        AnalysisResult result = resultOf(QStringLiteral("/Users/ann/Scan %1").arg(n));
+        result.scanDate = QDateTime::currentDateTimeUtc().addDays(n - count);
+        results.append(std::move(result));
+    }
+    m_state->scanHistory()->reset(results);
+}
+
+void AppFixture::showProgress(const QString& currentPath) {
+    ScanProgress progress;
+    progress.phase = ScanPhase::analyzing;
+    progress.filesScanned = 1'200;
+    progress.foldersScanned = 300;
+    progress.bytesScanned = 5'000'000;
+    progress.currentPath = currentPath;
+    progress.startTime = QDateTime::currentDateTimeUtc().addSecs(-30);
+    progress.estimatedTotalFiles = 3'000;
+    m_state->setScanProgress(progress);
+}
+
+void AppFixture::clearProgress() {
+    m_state->setScanProgress(std::nullopt);
+}
+
+void AppFixture::showResult(const QString& rootPath, bool withInsights) {
+    AnalysisResult result = resultOf(rootPath);
+    if (withInsights)
+        result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000),
+                           insight(InsightType::emptyFolders, "Empty folders", 0)};
+    m_state->setCurrentResult(result);
+}
+
+QString AppFixture::makeFolder(const QString& name) {
+    const QString path = m_files.filePath(QStringLiteral("made/") + name);
+    testing::writeFile(path + QStringLiteral("/notes.txt"), 11);
+    return path;
+}
+
+QString AppFixture::makeFile(const QString& name) {
+    return testing::writeFile(m_files.filePath(QStringLiteral("made/") + name), 21);
+}
+
+QString AppFixture::screenshotPath(const QString& name) const {
+    QDir().mkpath(m_screenshotFolder);
+    return m_screenshotFolder + u'/' + name + QStringLiteral(".png");
+}
+
+} // namespace tessarine

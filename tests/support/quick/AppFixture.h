@@ -1,0 +1,74 @@
+#pragma once
+
+#include "WindowDrag.h"
+
+#include <QObject>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <memory>
+
+class QQuickItem;
+
+namespace tessarine {
+
+class AppState;
+class PersistenceService;
+
+// The world the QML tests run in, as the Fixture singleton of Tessarine.Testing: the one
+// application state over a history of its own (seven stored sample scans, the newest of "/"),
+// folders worth scanning and a plain file in temporary folders, drags from outside the window,
+// and fixed states to show (progress, results, histories).
+class AppFixture : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QUrl folderUrl READ folderUrl CONSTANT)
+    Q_PROPERTY(QString folderPath READ folderPath CONSTANT)
+    Q_PROPERTY(QUrl fileUrl READ fileUrl CONSTANT)
+    Q_PROPERTY(QUrl largeFolderUrl READ largeFolderUrl CONSTANT)
+    Q_PROPERTY(int storedScanCount READ storedScanCount CONSTANT)
+
+public:
+    // Pictures the tests save go to `screenshotFolder`.
+    explicit AppFixture(const QString& screenshotFolder, QObject* parent = nullptr);
+    ~AppFixture() override;
+
+    QUrl folderUrl() const;
+    QString folderPath() const;
+    QUrl fileUrl() const;
+    // A folder of some thousands of files, for a scan that is still running a moment later.
+    QUrl largeFolderUrl() const;
+    static int storedScanCount() { return 7; }
+
+    // Drags `url` from outside over the centre of `over`; true when a drop target takes it.
+    Q_INVOKABLE bool dragOver(QQuickItem* over, const QUrl& url);
+    // Drops the dragged URL; the action the drop ended with (Qt.IgnoreAction when refused).
+    Q_INVOKABLE int drop();
+    Q_INVOKABLE void leave();
+    // Deletes the stored scans of the fixture's folders, so every test starts from the stored
+    // seven.
+    Q_INVOKABLE void forgetFolderScans();
+
+    // Replaces the history list with this many results, "Scan <n>" newest first (not stored).
+    Q_INVOKABLE void fillHistory(int count);
+    // A snapshot of a scan half done and 30 seconds old, at the given path.
+    Q_INVOKABLE void showProgress(const QString& currentPath);
+    Q_INVOKABLE void clearProgress();
+    // A finished result of the folder, with insights unless told otherwise.
+    Q_INVOKABLE void showResult(const QString& rootPath, bool withInsights = true);
+    // A new folder holding one small file, so a scan of it succeeds; a new plain file.
+    Q_INVOKABLE QString makeFolder(const QString& name);
+    Q_INVOKABLE QString makeFile(const QString& name);
+    Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
+    // Where a test saves what it rendered, for a person to look at.
+    Q_INVOKABLE QString screenshotPath(const QString& name) const;
+
+private:
+    QString m_screenshotFolder;
+    QTemporaryDir m_home;
+    QTemporaryDir m_files;
+    std::unique_ptr<PersistenceService> m_store;
+    std::unique_ptr<AppState> m_state;
+    std::unique_ptr<testing::WindowDrag> m_drag;
+};
+
+} // namespace tessarine
