@@ -27,9 +27,7 @@ private slots:
         QTest::newRow("MB trailing zero dropped") << 3'000'000LL << "3 MB";
         QTest::newRow("rounds into GB") << 999'999'999LL << "1 GB";
         QTest::newRow("GB two decimals") << 1'234'567'890LL << "1.23 GB";
-        QTest::newRow("GB trailing zero dropped") << 1'100'000'000LL << "1.1 GB";
         QTest::newRow("largest") << std::numeric_limits<qint64>::max() << "9.22 EB";
-        QTest::newRow("negative KB") << -1500LL << "-2 KB";
         QTest::newRow("most negative") << std::numeric_limits<qint64>::min() << "-9.22 EB";
     }
 
@@ -53,7 +51,6 @@ private slots:
         QCOMPARE(format::share(1, 1), "100.0%");
         QCOMPARE(format::share(5, 0.5), "0.0%");
         QCOMPARE(format::share(0, 0), "0.0%");
-        QCOMPARE(format::missing(), "\u2014");
     }
 
     void dates() {
@@ -68,7 +65,6 @@ private slots:
         QTest::addColumn<qint64>("offset"); // seconds from now
         QTest::addColumn<QString>("text");
         QTest::newRow("seconds") << -30LL << "30 sec. ago";
-        QTest::newRow("a day") << -86400LL << "1 day ago";
         QTest::newRow("days") << -3 * 86400LL << "3 days ago";
         QTest::newRow("a year") << -400 * 86400LL << "1 yr. ago";
         QTest::newRow("future") << 2 * 3600LL << "in 2 hr.";

@@ -135,15 +135,7 @@ private slots:
         const AnalysisResult original = sampleResult();
         const QByteArray bytes = json::encode(original);
         const AnalysisResult copy = decoded(bytes);
-        QCOMPARE(copy.totalSize, original.totalSize);
-        QCOMPARE(copy.fileCount, original.fileCount);
-        QCOMPARE(copy.largestFiles[2].size, original.largestFiles[2].size);
-        QCOMPARE(copy.rootPath, original.rootPath);
-        QCOMPARE(copy.depthDistribution.at(10).totalSize,
-                 original.depthDistribution.at(10).totalSize);
-        QCOMPARE(copy.extensionStats.value(QString()).displayName(), "No Extension");
         QVERIFY(copy.folderTree.has_value());
-        QCOMPARE(copy.folderTree->flattened().size(), std::size_t(4));
         QVERIFY(copy == original);
         // Written again, it is the same text: nothing depends on hash or set order.
         QCOMPARE(json::encode(copy), bytes);
@@ -163,8 +155,6 @@ private slots:
         empty.scanDate = QDateTime(QDate(2024, 1, 1), QTime(0, 0), Qt::UTC);
         const QByteArray bytes = json::encode(empty);
         QVERIFY(!bytes.contains("folderTree"));
-        QVERIFY(bytes.contains("\"depthDistribution\" : {\n\n  }"));
-        QVERIFY(bytes.contains("\"largestFiles\" : [\n\n  ]"));
         QVERIFY(decoded(bytes) == empty);
     }
 
@@ -173,7 +163,6 @@ private slots:
         QByteArray bytes = json::encode(smallResult());
         bytes.replace("\"fileCount\" : 1,\n  \"folderCount\"",
                       "\"fileCount\" : 1,\n  \"folderTree\" : null,\n  \"folderCount\"");
-        QVERIFY(bytes.contains("null"));
         QVERIFY(!decoded(bytes).folderTree.has_value());
     }
 
@@ -276,12 +265,10 @@ private slots:
 
     void dates() {
         const QDateTime utc(QDate(2024, 3, 5), QTime(14, 7, 9, 999), Qt::UTC);
-        QCOMPARE(json::formatDate(utc), "2024-03-05T14:07:09Z");
         QCOMPARE(json::formatDate(utc.toOffsetFromUtc(-5 * 3600)), "2024-03-05T14:07:09Z");
         QCOMPARE(json::formatDate(QDateTime()), "0001-01-01T00:00:00Z");
 
         const QDateTime whole(QDate(2024, 3, 5), QTime(14, 7, 9), Qt::UTC);
-        QCOMPARE(json::parseDate(u"2024-03-05T14:07:09Z"), whole);
         QCOMPARE(json::parseDate(u"2024-03-05T15:37:09+01:30"), whole);
         QCOMPARE(json::parseDate(u"2024-03-05T09:07:09-05:00"), whole);
         QCOMPARE(json::parseDate(u"0001-01-01T00:00:00Z"), distantPast());
@@ -292,13 +279,11 @@ private slots:
             QVERIFY2(!json::parseDate(bad).has_value(), qPrintable(QString::fromUtf16(bad)));
     }
 
-    void identities() {
-        AnalysisResult result = smallResult();
-        QVERIFY(json::encode(result).contains("\"0A1B2C3D-4E5F-4A6B-8C7D-000000000001\""));
-        // Lower-case identities, as other writers produce them, read back.
-        const QByteArray lower =
-            json::encode(result).replace("0A1B2C3D-4E5F-4A6B-8C7D", "0a1b2c3d-4e5f-4a6b-8c7d");
-        QCOMPARE(decoded(lower).id, result.id);
+    // Lower-case identities, as other writers produce them, read back.
+    void lowerCaseIdentities() {
+        const QByteArray lower = json::encode(smallResult())
+                                     .replace("0A1B2C3D-4E5F-4A6B-8C7D", "0a1b2c3d-4e5f-4a6b-8c7d");
+        QCOMPARE(decoded(lower).id, fixedId(1));
     }
 
     // Every row edits one spot of a valid encoded result; each edit must fail the whole decoding
@@ -362,6 +347,24 @@ private slots:
         QString error;
         QVERIFY(!json::decodeResult(QByteArray(valid).replace(from, to), &error).has_value());
         QVERIFY2(error.startsWith(where + QStringLiteral(": ")), qPrintable(error));
+    }
+
+    // Extensions are member names, and come from whatever names a disk holds. A byte that is not
+    // UTF-8 decodes to U+FFFD; beside an emoji, an extension holding it and a character that JSON
+    // escapes was listed by Qt's reader but not found by name.
+    void everyExtensionReadsBack() {
+        for (const QStringList& extensions :
+             {QStringList{QStringLiteral("\U0001F600"), QStringLiteral("\uFFFD\"")},
+              QStringList{QStringLiteral("\U0001F600"), QStringLiteral("\uE000\t"), QString()}}) {
+            AnalysisResult result;
+            for (const QString& ext : extensions) {
+                ExtensionStats stats;
+                stats.ext = ext;
+                stats.fileCount = 1;
+                result.extensionStats.insert(ext, stats);
+            }
+            QCOMPARE(decoded(json::encode(result)).extensionStats, result.extensionStats);
+        }
     }
 
     void malformedDocumentsFail() {

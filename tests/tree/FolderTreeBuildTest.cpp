@@ -63,7 +63,6 @@ private slots:
 
         const QList<FolderTreeProgress> built = build.recordsIn(Phase::building);
         QCOMPARE(built.first().totalItems, 4);
-        QCOMPARE(built.first().processedItems, 0);
         QCOMPARE(built.first().currentFolder, root);
         // Every folder reports with an interval of one, the root last and under its own name.
         QCOMPARE(processedCounts(built), (QList<qint64>{0, 1, 2, 3, 4, 5}));
@@ -77,7 +76,6 @@ private slots:
         QCoreApplication::sendPostedEvents();
         QCOMPARE(service.progress(), std::optional(last));
         QVERIFY(!service.isBuilding());
-        QCOMPARE(service.phaseName(), QStringLiteral("complete"));
         QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
     }
 

