@@ -161,7 +161,6 @@ Card {
                             font: Theme.caption
                             color: Theme.primary
                             elide: Text.ElideMiddle
-                            horizontalAlignment: Text.AlignRight
                         }
                     }
 

@@ -9,6 +9,8 @@ Rectangle {
     property folderSummary details
 
     implicitHeight: figures.implicitHeight + 16
+    // A narrow card drops what does not fit at the end of the row.
+    clip: true
     radius: Theme.radiusMedium
     color: Theme.withOpacity(Theme.secondary, 0.1)
 
@@ -32,6 +34,8 @@ Rectangle {
 
             Text {
                 anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(implicitWidth, 180)
+                elide: Text.ElideMiddle
                 text: bar.details.name
                 font: Theme.weighted(Theme.caption, Font.Medium)
                 color: Theme.secondary
