@@ -73,6 +73,19 @@ public:
         return result;
     }
 
+    // A result whose tree is a chain of depth folders, each inside the one before.
+    Q_INVOKABLE tessarine::AnalysisResult resultWithChain(int depth) const {
+        AnalysisResult result = resultOf(QStringLiteral("/Users/ann"));
+        FolderInfo chain = folder(QStringLiteral("bottom"), 100);
+        for (int level = depth; level > 0; --level) {
+            FolderInfo parent = folder(QString::number(level), 100);
+            parent.childFolders.push_back(std::move(chain));
+            chain = std::move(parent);
+        }
+        result.folderTree = SharedFolderTree(std::move(chain));
+        return result;
+    }
+
     // Holds the service's next build in phase ("enumerating" or "building") until cancelled.
     Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service, const QString& phase) {
         testing::holdBuildInPhase(*service, phase == QLatin1String("building")

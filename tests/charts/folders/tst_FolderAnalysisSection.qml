@@ -120,6 +120,16 @@ TestCase {
         verify(ViewSearch.shows(section, Format.byteCount(2250000) + " (225.0% of total)"))
     }
 
+    // However deep the tree, the treemap shows three levels and the bars fifteen folders.
+    function test_deepChain() {
+        const section = makeSection(FolderFixtures.resultWithChain(10000))
+        verify(ViewSearch.shows(section, "10,000 folders"))
+        verify(ViewSearch.shows(section, "15 of 10,000 folders shown"))
+        const treemap = ViewSearch.named(section, "folderTreemap").treemap
+        compare(treemap.cells.count, 3)
+        waitForRendering(section)
+    }
+
     function test_drillDownAndBack() {
         const section = makeSection(FolderFixtures.resultWithTree())
         const view = ViewSearch.named(section, "folderTreemap")
