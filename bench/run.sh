@@ -2,6 +2,7 @@
 # Times tessarine-cli against gdu and ncdu on one generated tree of about 500,000 files and
 # prints medians, ratios and whether the targets are met:
 #   scan wall time  <= 0.8 x gdu      scan peak memory <= 0.5 x gdu      tree wall time <= 1.0 x scan
+#   the folder tree built through the dashboard's section <= 1.1 x tessarine-cli tree
 # Usage: bench/run.sh BUILD_DIR      (RUNS=n sets the number of timed runs per tool, default 5)
 # The tree is generated once and kept in /var/tmp/tessarine-bench; it is made again when the
 # generator's version changes.
@@ -13,6 +14,7 @@ cli=$build/tools/tessarine-cli
 generator=$build/bench/generate-tree
 responsiveness=$build/bench/responsiveness/tessarine-responsiveness
 treemap=$build/bench/treemap/tessarine-treemap-bench
+folders=$build/bench/treemap/tessarine-folder-analysis-bench
 cache=/var/tmp/tessarine-bench
 tree=$cache/tree
 work=$(mktemp -d)
@@ -140,4 +142,13 @@ if [[ -x $treemap ]]; then
     echo
     echo "Drawing a folder treemap level of 5,000 folders (software renderer, offscreen):"
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$treemap"
+fi
+
+if [[ -x $folders ]]; then
+    echo
+    echo "Folder analysis of the benchmark tree in the dashboard's section (software renderer, offscreen):"
+    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$folders" "$tree" >"$work/folders"
+    grep -v '^build-seconds' "$work/folders"
+    section_vs_cli=$(ratio "$(awk '/^build-seconds/ { print $2 }' "$work/folders")" "$wall_tree")
+    echo "$(verdict "$section_vs_cli" 1.1)  section build <= 1.1 x tessarine-cli tree ($section_vs_cli)"
 fi

@@ -1,18 +1,16 @@
+#include "FrameCost.h"
 #include "charts/NestedTreemap.h"
 #include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QQuickWindow>
 #include <QTextStream>
-#include <QTimer>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
 using namespace tessarine;
@@ -44,32 +42,6 @@ FolderInfo sampleLevel() {
         root.childFolders.push_back(std::move(child));
     }
     return root;
-}
-
-// The milliseconds the window spends on its next frame after change: handling the change, then
-// synchronising the scene (where the item paints) and rendering it. Waiting for the render loop's
-// next tick is left out, as it is no work.
-double nextFrameCost(QQuickWindow& window, const std::function<void()>& change) {
-    QElapsedTimer clock;
-    qint64 frameStart = 0;
-    qint64 frameEnd = 0;
-    QEventLoop loop;
-    const auto started = QObject::connect(
-        &window, &QQuickWindow::beforeSynchronizing, &window,
-        [&] { frameStart = clock.nsecsElapsed(); }, Qt::DirectConnection);
-    const auto swapped = QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, [&] {
-        frameEnd = clock.nsecsElapsed();
-        loop.quit();
-    });
-    QTimer::singleShot(5'000, &loop, &QEventLoop::quit);
-    clock.start();
-    change();
-    const qint64 handled = clock.nsecsElapsed();
-    window.update();
-    loop.exec();
-    QObject::disconnect(started);
-    QObject::disconnect(swapped);
-    return static_cast<double>(handled + frameEnd - frameStart) / 1e6;
 }
 
 } // namespace
@@ -116,18 +88,7 @@ int main(int argc, char** argv) {
         slowestPaint = std::max(slowestPaint, static_cast<double>(clock.nsecsElapsed()) / 1e6);
     }
 
-    double slowestHover = 0;
-    int hoverFrames = 0;
-    for (int x = 5; x < 1000; x += 10) {
-        const QPointF point(x, 300 + 250 * std::sin(x / 80.0));
-        const double ms = nextFrameCost(window, [&] {
-            QMouseEvent move(QEvent::MouseMove, point, window.mapToGlobal(point), Qt::NoButton,
-                             Qt::NoButton, Qt::NoModifier);
-            QGuiApplication::sendEvent(&window, &move);
-        });
-        slowestHover = std::max(slowestHover, ms);
-        ++hoverFrames;
-    }
+    const SweepCost sweep = sweepFrameCost(window, bounds);
 
     std::printf("treemap: %lld cells (%d folders, %d nested), backend %s\n",
                 static_cast<long long>(cells.size()), folderCount, nestedParents * nestedChildren,
@@ -137,7 +98,7 @@ int main(int argc, char** argv) {
     std::printf("  layout and styling, slowest of 10: %.1f ms\n", slowestLayout);
     std::printf("  painting every cell, slowest of 5: %.1f ms\n", slowestPaint);
     std::printf("  slowest of 6 frames after setting new cells: %.1f ms\n", slowestFullFrame);
-    std::printf("  slowest of %d frames while the pointer sweeps: %.1f ms\n", hoverFrames,
-                slowestHover);
+    std::printf("  slowest of %d frames while the pointer sweeps: %.1f ms\n", sweep.frames,
+                sweep.slowest);
     return 0;
 }

@@ -12,9 +12,9 @@ FolderTreeController::~FolderTreeController() {
     stopWorker();
 }
 
-void FolderTreeController::setTree(std::shared_ptr<const FolderInfo> tree) {
+void FolderTreeController::setTree(const SharedFolderTree& tree) {
     cancel();
-    m_tree = std::move(tree);
+    m_tree = tree;
     emit treeChanged();
     setState(m_tree ? Ready : Idle);
 }
@@ -53,7 +53,7 @@ void FolderTreeController::finish(BuildId build, FolderTreeOutcome outcome) {
     if (build != m_currentBuild)
         return;
     if (auto* tree = std::get_if<FolderInfo>(&outcome)) {
-        m_tree = std::make_shared<const FolderInfo>(std::move(*tree));
+        m_tree = SharedFolderTree(std::move(*tree));
         emit treeChanged();
         setState(Ready);
         return;

@@ -26,6 +26,8 @@ class FolderTreeController : public QObject {
     // "Failed to load: " and the build's error after a failure; empty otherwise.
     Q_PROPERTY(QString errorText READ errorText NOTIFY errorTextChanged)
     Q_PROPERTY(bool hasTree READ hasTree NOTIFY treeChanged)
+    // The finished tree, for the views that draw it.
+    Q_PROPERTY(tessarine::SharedFolderTree tree READ tree NOTIFY treeChanged)
 
 public:
     enum State { Idle, Building, Ready, Failed };
@@ -37,12 +39,12 @@ public:
     State state() const { return m_state; }
     FolderTreeService* service() { return &m_service; }
     QString errorText() const { return m_errorText; }
-    bool hasTree() const { return m_tree != nullptr; }
-    std::shared_ptr<const FolderInfo> tree() const { return m_tree; }
+    bool hasTree() const { return m_tree.has_value(); }
+    const SharedFolderTree& tree() const { return m_tree; }
 
     // Shows a tree built before, such as the one a stored result carries; a build under way is
     // called off.
-    void setTree(std::shared_ptr<const FolderInfo> tree);
+    Q_INVOKABLE void setTree(const tessarine::SharedFolderTree& tree);
 
     // Builds the tree of a scanned folder, replacing a build under way. A root that is not a
     // folder this process may list fails the build.
@@ -67,7 +69,7 @@ private:
     FolderTreeService m_service;
     State m_state = Idle;
     QString m_errorText;
-    std::shared_ptr<const FolderInfo> m_tree;
+    SharedFolderTree m_tree;
     // The current build; the outcome of any other is dropped.
     BuildId m_currentBuild = 0;
     CancelToken m_currentCancel;

@@ -53,6 +53,12 @@ struct FolderInfoForeign {
     QML_VALUE_TYPE(folderInfo)
 };
 
+struct SharedFolderTreeForeign {
+    Q_GADGET
+    QML_FOREIGN(tessarine::SharedFolderTree)
+    QML_VALUE_TYPE(folderTree)
+};
+
 struct ScanProgressForeign {
     Q_GADGET
     QML_FOREIGN(tessarine::ScanProgress)

@@ -16,6 +16,21 @@ struct CellBorder {
     bool operator==(const CellBorder&) const = default;
 };
 
+// The caption painted at a cell's top-left corner: an optional folder symbol, a title on one line
+// and a figure after it, white over a dark shadow so it reads on every palette colour. Sizes are
+// pixel sizes; an empty title paints nothing.
+struct TreemapLabel {
+    QString title;
+    QString detail;
+    bool showsSymbol = false;
+    qreal titleSize = 0;
+    qreal detailSize = 0;
+    // Extra room between the cell's edge and the caption.
+    qreal inset = 0;
+
+    bool operator==(const TreemapLabel&) const = default;
+};
+
 // One cell as TreemapCells draws it, in the item's coordinates, normally and while hovered: a
 // rounded rectangle filled with fill at opacity, its border drawn inside the same shape.
 struct TreemapCell {
@@ -26,6 +41,7 @@ struct TreemapCell {
     CellBorder border;
     qreal hoveredOpacity = 1;
     CellBorder hoveredBorder;
+    TreemapLabel label;
 
     bool operator==(const TreemapCell&) const = default;
 };

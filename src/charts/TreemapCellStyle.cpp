@@ -1,6 +1,7 @@
 #include "charts/TreemapCellStyle.h"
 
 #include "app/design/Palette.h"
+#include "model/Format.h"
 
 #include <algorithm>
 
@@ -15,6 +16,21 @@ QRectF inset(const QRectF& rect, double gap, double minimumSide) {
     return QRectF(rect.center().x() - width / 2, rect.center().y() - height / 2, width, height);
 }
 
+// A folder cell's caption: only in cells large enough to read it, with the symbol and the size
+// where there is room for them, in type that shrinks with the cell.
+TreemapLabel folderLabel(const NestedTreemapCell& cell) {
+    const QRectF& rect = cell.item.rect;
+    if (rect.width() <= 40 || rect.height() <= 25)
+        return {};
+    const bool showsSize = rect.width() > 70 && rect.height() > 40;
+    return {cell.item.folder->name,
+            showsSize ? format::byteCount(cell.item.folder->totalSize) : QString(),
+            !cell.item.isFiles && rect.width() > 60, std::clamp(rect.width() / 12, 8.0, 11.0),
+            std::clamp(rect.width() / 15, 7.0, 9.0),
+            // The cell's 1-point gap, and the padding of a cell that shows its contents.
+            cell.nests ? 4.0 : 1.0};
+}
+
 } // namespace
 
 QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects,
@@ -24,8 +40,14 @@ QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects,
     for (const TreeMapRect& rect : rects) {
         const CellBorder border =
             selected == rect.stat.category ? CellBorder{Qt::white, 3} : CellBorder{};
-        cells.append({inset(rect.rect, 1, 1), 4, paletteColor(colorName(rect.stat.category)), 0.7,
-                      border, 0.9, border});
+        cells.append({inset(rect.rect, 1, 1),
+                      4,
+                      paletteColor(colorName(rect.stat.category)),
+                      0.7,
+                      border,
+                      0.9,
+                      border,
+                      {}});
     }
     return cells;
 }
@@ -40,7 +62,7 @@ QList<TreemapCell> folderTreemapCells(const NestedTreemap& treemap) {
         // Corners tighten with each nesting so inner cells do not look swollen.
         const qreal radius = std::max(6.0 - 2.0 * static_cast<double>(cell.level), 2.0);
         cells.append({inset(cell.item.rect, 1, 0), radius, fill, cell.nests ? 0.85 : 0.75, outline,
-                      cell.nests ? 0.85 : 0.9, hoveredOutline});
+                      cell.nests ? 0.85 : 0.9, hoveredOutline, folderLabel(cell)});
     }
     return cells;
 }

@@ -1,5 +1,7 @@
 #include "charts/TreemapCells.h"
 
+#include "charts/TreemapLabelPainter.h"
+
 #include <QPainter>
 #include <QPainterPath>
 
@@ -55,6 +57,14 @@ void paintCell(QPainter& painter, const QRectF& rect, qreal radius, const QColor
     painter.setPen(QPen(border.color, width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), radius - half, radius - half);
+}
+
+// The cell with its label, in its hovered style or not.
+void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered) {
+    paintCell(painter, cell.rect, cell.radius, cell.fill,
+              hovered ? cell.hoveredOpacity : cell.opacity,
+              hovered ? cell.hoveredBorder : cell.border);
+    paintTreemapLabel(painter, cell.rect, cell.label);
 }
 
 } // namespace
@@ -131,7 +141,7 @@ void TreemapCells::paint(QPainter* painter) {
     for (qsizetype i = 0; i < cells.size(); ++i) {
         const TreemapCell& cell = cells[i];
         if (i != m_hoveredIndex && cell.rect.intersects(area) && !movesWithHovered(i))
-            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
+            paintCellWithLabel(*painter, cell, false);
     }
     if (!hovering)
         return;
@@ -140,12 +150,10 @@ void TreemapCells::paint(QPainter* painter) {
     painter->translate(hovered.rect.center());
     painter->scale(m_hoverScale, m_hoverScale);
     painter->translate(-hovered.rect.center());
-    paintCell(*painter, hovered.rect, hovered.radius, hovered.fill, hovered.hoveredOpacity,
-              hovered.hoveredBorder);
+    paintCellWithLabel(*painter, hovered, true);
     for (qsizetype i = m_hoveredIndex + 1; i < cells.size(); ++i) {
-        const TreemapCell& cell = cells[i];
         if (movesWithHovered(i))
-            paintCell(*painter, cell.rect, cell.radius, cell.fill, cell.opacity, cell.border);
+            paintCellWithLabel(*painter, cells[i], false);
     }
     painter->restore();
 }

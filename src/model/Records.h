@@ -165,8 +165,12 @@ public:
 
 // An optional folder tree that copies share instead of duplicating: a result is copied whenever a
 // view reads it, and a large tree holds tens of thousands of folders. The tree never changes once
-// made; equality compares contents.
+// made; equality compares contents. QML hands it from the view that builds it to those that draw
+// it.
 class SharedFolderTree {
+    Q_GADGET
+    Q_PROPERTY(bool hasValue READ has_value)
+
 public:
     SharedFolderTree() = default;
     SharedFolderTree(FolderInfo tree)
@@ -202,6 +206,7 @@ struct AnalysisResult {
     Q_PROPERTY(double scanDuration MEMBER scanDuration)
     Q_PROPERTY(QString formattedDuration READ formattedDuration)
     Q_PROPERTY(QString folderName READ folderName)
+    Q_PROPERTY(tessarine::SharedFolderTree folderTree MEMBER folderTree)
 
 public:
     QUuid id = makeRecordId();

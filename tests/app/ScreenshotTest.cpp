@@ -1,12 +1,17 @@
+#include "BuildHold.h"
+#include "FileTrees.h"
 #include "SampleHistory.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
+#include "app/FolderTreeController.h"
 #include "app/shell/ShellEngine.h"
+#include "charts/FolderTreemapModel.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
 #include <QQmlApplicationEngine>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -15,6 +20,19 @@
 using namespace tessarine;
 
 namespace {
+
+// The item named objectName among the items below root (in the item tree, which is not always
+// the object tree), or null.
+QQuickItem* itemNamed(QQuickItem* root, const QString& objectName) {
+    const QList<QQuickItem*> children = root->childItems();
+    for (QQuickItem* child : children) {
+        if (child->objectName() == objectName)
+            return child;
+        if (QQuickItem* found = itemNamed(child, objectName))
+            return found;
+    }
+    return nullptr;
+}
 
 // The main window over a history of its own, for one picture.
 class Scene {
@@ -45,6 +63,22 @@ public:
         const QImage image = window()->grabWindow();
         QVERIFY(!image.isNull());
         QVERIFY(image.save(folder + u'/' + name + QStringLiteral(".png")));
+    }
+
+    // Scrolls the dashboard so that the item named objectName is at the top.
+    QQuickItem* scrollTo(const QString& objectName) {
+        QQuickItem* item = itemNamed(window()->contentItem(), objectName);
+        if (!item)
+            return nullptr;
+        for (QQuickItem* flickable = item->parentItem(); flickable;
+             flickable = flickable->parentItem()) {
+            auto* content = flickable->property("contentItem").value<QQuickItem*>();
+            if (flickable->property("contentY").isValid() && content) {
+                flickable->setProperty("contentY", item->mapToItem(content, {0, 0}).y() - 16);
+                break;
+            }
+        }
+        return item;
     }
 
 private:
@@ -143,6 +177,47 @@ private slots:
                 longFolder, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC)));
             scene.save(QStringLiteral("dashboard") + suffix);
         }
+    }
+
+    void folderAnalysis() {
+        const QTemporaryDir folders = testing::makeFastTemporaryDir();
+        testing::generateTree(folders.path(), 6000, 7);
+        AnalysisResult result = dashboardResult();
+        result.rootPath = folders.path();
+        result.folderTree = {};
+        Scene scene(3);
+        scene.state().openResult(result);
+        QQuickItem* section = scene.scrollTo(QStringLiteral("folderAnalysis"));
+        QVERIFY(section);
+        auto* controller = section->property("controller").value<FolderTreeController*>();
+
+        testing::holdBuildInPhase(*controller->service(), FolderTreeProgress::Phase::building);
+        controller->build(result.rootPath);
+        QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
+        scene.save(QStringLiteral("folder-analysis-building"));
+        controller->cancel();
+
+        controller->build(result.rootPath);
+        QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
+        scene.scrollTo(QStringLiteral("folderAnalysis"));
+        scene.save(QStringLiteral("folder-analysis-tree"));
+
+        auto* treemap = itemNamed(section, QStringLiteral("folderTreemap"))
+                            ->property("treemap")
+                            .value<FolderTreemapModel*>();
+        for (int level = 0; level < 2; ++level) {
+            int drillable = 0;
+            while (treemap->folderAt(drillable) && !treemap->drillDown(drillable))
+                ++drillable;
+        }
+        QCOMPARE(treemap->pathNames().size(), 2);
+        scene.save(QStringLiteral("folder-treemap-drilled"));
+
+        QQuickItem* cells = itemNamed(section, QStringLiteral("treemapCells"));
+        const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
+        QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
+        QTRY_VERIFY(treemap->hoveredIndex() >= 0);
+        scene.save(QStringLiteral("folder-treemap-hover"));
     }
 
     void errorAlert() {

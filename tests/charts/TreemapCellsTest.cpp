@@ -25,10 +25,12 @@ public:
                               0.75,
                               {Qt::black, 1},
                               0.9,
-                              {Qt::white, 2}});
+                              {Qt::white, 2},
+                              {}});
             }
         }
-        cells.append({QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}});
+        cells.append(
+            {QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}, {}});
         return TreemapCellList(cells);
     }
 };

@@ -1,6 +1,7 @@
 pragma Singleton
 import QtQuick
-import Tessarine.App
+// Qualified: QtQuick has a Palette type of its own, which may win an unqualified lookup.
+import Tessarine.App as App
 
 // The one palette, type scale and set of measures that every screen shares, so that a card, a
 // caption or a fade looks and moves the same wherever it appears. Named colours come from

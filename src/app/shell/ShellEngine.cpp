@@ -10,6 +10,7 @@
 
 Q_IMPORT_QML_PLUGIN(TessarinePlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 namespace tessarine {

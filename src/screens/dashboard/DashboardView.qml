@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Charts
 
 // One finished result: its identity with Rescan, the summary cards, the charts and tables of the
 // result, and the insights, in one vertical scroll under the toolbar.
@@ -43,6 +44,8 @@ Rectangle {
 
                 // The category charts, the folder analysis, the largest files and the depth and
                 // extension charts come between the summary cards and the insights.
+
+                FolderAnalysisSection { Layout.fillWidth: true; result: dashboard.result }
 
                 InsightsSection {
                     Layout.fillWidth: true

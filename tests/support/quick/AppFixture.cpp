@@ -3,8 +3,12 @@
 #include "SampleHistory.h"
 #include "ScanFolders.h"
 
+#include "BuildHold.h"
+#include "FileTrees.h"
+
 #include "app/AppState.h"
 #include "storage/PersistenceService.h"
+#include "tree/FolderTreeService.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -34,6 +38,16 @@ PatternInsight insight(InsightType type, const char* title, qint64 affectedSize)
     insight.affectedSize = affectedSize;
     insight.affectedCount = 3;
     return insight;
+}
+
+FolderInfo folder(const QString& name, qint64 size, FolderInfoList children = {}) {
+    FolderInfo info;
+    info.location = FolderPath("/Users/ann/" + name);
+    info.name = name;
+    info.totalSize = size;
+    info.fileCount = size / 100;
+    info.childFolders = std::move(children);
+    return info;
 }
 
 } // namespace
@@ -134,6 +148,64 @@ QString AppFixture::makeFolder(const QString& name) {
 
 QString AppFixture::makeFile(const QString& name) {
     return testing::writeFile(m_files.filePath(QStringLiteral("made/") + name), 21);
+}
+
+QString AppFixture::makeTree(const QString& name) {
+    const QString root = m_files.filePath(QStringLiteral("trees/") + name);
+    testing::writeFiles(root, {{"top.bin", 1000},
+                               {"media/movie.mov", 60000},
+                               {"media/clips/a.mov", 20000},
+                               {"docs/report.pdf", 8000},
+                               {"code/main.cpp", 3000}});
+    return root;
+}
+
+QString AppFixture::missingFolder() const {
+    return m_files.filePath(QStringLiteral("missing"));
+}
+
+void AppFixture::createFolderAt(const QString& path) const {
+    QDir().mkpath(path);
+}
+
+AnalysisResult AppFixture::resultWithoutTree(const QString& root) const {
+    AnalysisResult result;
+    result.rootPath = root;
+    result.rootName = QDir(root).dirName();
+    result.totalSize = 92000;
+    result.folderCount = 4;
+    return result;
+}
+
+AnalysisResult AppFixture::resultWithTree() const {
+    AnalysisResult result = resultWithoutTree(QStringLiteral("/Users/ann"));
+    FolderInfoList alpha{
+        folder("alpha1", 400'000, {folder("deep", 300'000, {folder("deeper", 200'000)})}),
+        folder("alpha2", 150'000)};
+    FolderInfo root = folder("ann", 1'000'000,
+                             {folder("alpha", 600'000, std::move(alpha)),
+                              folder("beta", 300'000, {folder("beta1", 300'000)})});
+    result.totalSize = root.totalSize;
+    result.folderTree = SharedFolderTree(std::move(root));
+    return result;
+}
+
+AnalysisResult AppFixture::resultWithChain(int depth) const {
+    AnalysisResult result = resultWithoutTree(QStringLiteral("/Users/ann"));
+    FolderInfo chain = folder(QStringLiteral("bottom"), 100);
+    for (int level = depth; level > 0; --level) {
+        FolderInfo parent = folder(QString::number(level), 100);
+        parent.childFolders.push_back(std::move(chain));
+        chain = std::move(parent);
+    }
+    result.folderTree = SharedFolderTree(std::move(chain));
+    return result;
+}
+
+void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
+    testing::holdBuildInPhase(*service, phase == QLatin1String("building")
+                                            ? FolderTreeProgress::Phase::building
+                                            : FolderTreeProgress::Phase::enumerating);
 }
 
 QString AppFixture::screenshotPath(const QString& name) const {

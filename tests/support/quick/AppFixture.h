@@ -2,6 +2,8 @@
 
 #include "WindowDrag.h"
 
+#include "model/Records.h"
+
 #include <QObject>
 #include <QTemporaryDir>
 #include <QUrl>
@@ -13,6 +15,7 @@ class QQuickItem;
 namespace tessarine {
 
 class AppState;
+class FolderTreeService;
 class PersistenceService;
 
 // The world the QML tests run in, as the Fixture singleton of Tessarine.Testing: the one
@@ -61,6 +64,20 @@ public:
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
     // Where a test saves what it rendered, for a person to look at.
     Q_INVOKABLE QString screenshotPath(const QString& name) const;
+
+    // For the folder analysis: a folder of three sub-folders, one nested two deep, with files of
+    // its own; a path that does not exist yet, and the way to make it.
+    Q_INVOKABLE QString makeTree(const QString& name);
+    Q_INVOKABLE QString missingFolder() const;
+    Q_INVOKABLE void createFolderAt(const QString& path) const;
+    // What a scan of root would report, without its folder tree.
+    Q_INVOKABLE tessarine::AnalysisResult resultWithoutTree(const QString& root) const;
+    // A result that carries its tree: three levels under "ann", files beside the sub-folders.
+    Q_INVOKABLE tessarine::AnalysisResult resultWithTree() const;
+    // A result whose tree is a chain of depth folders, each inside the one before.
+    Q_INVOKABLE tessarine::AnalysisResult resultWithChain(int depth) const;
+    // Holds the service's next build in phase ("enumerating" or "building") until cancelled.
+    Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service, const QString& phase);
 
 private:
     QString m_screenshotFolder;
