@@ -1,6 +1,9 @@
 #include "ScreenFixtures.h"
 
+#include "DashboardResult.h"
+#include "FileTrees.h"
 #include "app/AppState.h"
+#include "screens/dashboard/FileActions.h"
 
 #include <QDir>
 #include <QFile>
@@ -36,7 +39,17 @@ PatternInsight insight(InsightType type, const char* title, qint64 affectedSize)
 
 ScreenFixtures::ScreenFixtures(AppState& state, QObject* parent)
     : QObject(parent)
-    , m_state(state) {}
+    , m_state(state) {
+    FileActions::setServices(&m_desktop);
+}
+
+ScreenFixtures::~ScreenFixtures() {
+    FileActions::setServices(nullptr);
+}
+
+QStringList ScreenFixtures::takeDesktopRequests() {
+    return std::exchange(m_desktop.requests, {});
+}
 
 void ScreenFixtures::fillHistory(int count) {
     QList<AnalysisResult> results;
@@ -69,6 +82,16 @@ void ScreenFixtures::showResult(const QString& rootPath, bool withInsights) {
     if (withInsights)
         result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000),
                            insight(InsightType::emptyFolders, "Empty folders", 0)};
+    m_state.setCurrentResult(result);
+}
+
+void ScreenFixtures::showFullResult(int categories, int extensions, bool withInsights) {
+    AnalysisResult result = testing::dashboardResult(m_folders.filePath(QStringLiteral("Projects")),
+                                                     categories, extensions, 20, 100);
+    for (const FileInfo& file : std::as_const(result.largestFiles))
+        testing::writeFile(file.path, 1);
+    if (withInsights)
+        result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000)};
     m_state.setCurrentResult(result);
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 using namespace tessarine;

@@ -11,6 +11,7 @@
 
 Q_IMPORT_QML_PLUGIN(TessarinePlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
+Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 namespace tessarine {

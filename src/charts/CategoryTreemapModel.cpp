@@ -1,0 +1,103 @@
+#include "charts/CategoryTreemapModel.h"
+
+#include "app/RoleNames.h"
+#include "charts/CategoryListModel.h"
+#include "charts/TreemapCellStyle.h"
+#include "model/Format.h"
+
+#include <cmath>
+
+namespace tessarine {
+
+int CategoryTreemapModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(m_rects.size());
+}
+
+QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const TreeMapRect& cell = m_rects.at(std::size_t(index.row()));
+    const CategoryStats& stats = cell.stat;
+    switch (Role(role)) {
+    case CategoryRole:
+        return int(stats.category);
+    case NameRole:
+        return rawValue(stats.category);
+    case SymbolRole:
+        return iconName(stats.category);
+    case ColorNameRole:
+        return colorName(stats.category);
+    case TotalSizeRole:
+        return stats.totalSize;
+    case FileCountRole:
+        return stats.fileCount;
+    case ShareRole:
+        return format::share(double(stats.totalSize), double(m_totalSize));
+    case AccessibleValueRole: {
+        const auto percent = qint64(
+            std::trunc(double(stats.totalSize) / double(std::max<qint64>(m_totalSize, 1)) * 100));
+        return QStringLiteral("%1, %2 percent")
+            .arg(format::byteCount(stats.totalSize))
+            .arg(percent);
+    }
+    case CellXRole:
+        return cell.rect.x();
+    case CellYRole:
+        return cell.rect.y();
+    case CellWidthRole:
+        return cell.rect.width();
+    case CellHeightRole:
+        return cell.rect.height();
+    }
+    return {};
+}
+
+QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
+    return roleNamesOf<Role>();
+}
+
+void CategoryTreemapModel::setResult(const AnalysisResult& result) {
+    m_categories = categoriesLargestFirst(result);
+    m_totalSize = result.totalSize;
+    relayout();
+}
+
+void CategoryTreemapModel::setAreaWidth(qreal width) {
+    if (width == m_area.width())
+        return;
+    m_area.setWidth(width);
+    relayout();
+}
+
+void CategoryTreemapModel::setAreaHeight(qreal height) {
+    if (height == m_area.height())
+        return;
+    m_area.setHeight(height);
+    relayout();
+}
+
+void CategoryTreemapModel::setSelectedCategory(int category) {
+    if (category == m_selected)
+        return;
+    m_selected = category;
+    emit cellsChanged();
+}
+
+TreemapCellList CategoryTreemapModel::cells() const {
+    const std::optional<FileCategory> selected =
+        m_selected < 0 ? std::nullopt : std::optional(FileCategory(m_selected));
+    return TreemapCellList(categoryTreemapCells(m_rects, selected));
+}
+
+int CategoryTreemapModel::categoryAt(int row) const {
+    return row >= 0 && row < rowCount() ? int(m_rects.at(std::size_t(row)).stat.category) : -1;
+}
+
+void CategoryTreemapModel::relayout() {
+    beginResetModel();
+    m_rects = calculateTreeMapRects(m_categories, m_totalSize, m_area);
+    endResetModel();
+    emit cellsChanged();
+}
+
+} // namespace tessarine
