@@ -159,4 +159,6 @@ ChartCard {
         ChartFact { symbol: "chart.line.uptrend.xyaxis"; text: "Peak at level " + levels.peakDepth }
         ChartFact { symbol: "doc.on.doc"; text: Format.count(levels.totalFiles) + " total files" }
     }
+
+    Item { Layout.fillHeight: true }
 }

@@ -63,68 +63,74 @@ ChartCard {
         }
     }
 
-    Rectangle {
-        objectName: "treemapDetailsBar"
-        visible: card.hoveredLabel !== null
+    // The bar's room is kept while nothing is hovered: if the treemap grew and shrank with it,
+    // every hover would lay the cells out again and lose the hovered cell.
+    Item {
         Layout.fillWidth: true
         implicitHeight: details.implicitHeight + 16
-        radius: Theme.radiusMedium
-        color: Theme.withOpacity(Theme.secondary, 0.1)
 
-        Row {
-            id: details
-
-            readonly property Item cell: card.hoveredLabel
-
-            anchors.verticalCenter: parent.verticalCenter
-            x: 12
-            spacing: Theme.spacingLarge
+        Rectangle {
+            objectName: "treemapDetailsBar"
+            visible: card.hoveredLabel !== null
+            anchors.fill: parent
+            radius: Theme.radiusMedium
+            color: Theme.withOpacity(Theme.secondary, 0.1)
 
             Row {
-                anchors.verticalCenter: parent.verticalCenter
-                spacing: Theme.spacingSmall
+                id: details
 
-                Icon {
+                readonly property Item cell: card.hoveredLabel
+
+                anchors.verticalCenter: parent.verticalCenter
+                x: 12
+                spacing: Theme.spacingLarge
+
+                Row {
                     anchors.verticalCenter: parent.verticalCenter
-                    symbol: details.cell ? details.cell.symbol : ""
-                    size: Theme.caption.pixelSize + 3
-                    color: Theme.named(details.cell ? details.cell.colorName : "")
+                    spacing: Theme.spacingSmall
+
+                    Icon {
+                        anchors.verticalCenter: parent.verticalCenter
+                        symbol: details.cell ? details.cell.symbol : ""
+                        size: Theme.caption.pixelSize + 3
+                        color: Theme.named(details.cell ? details.cell.colorName : "")
+                    }
+
+                    Text {
+                        text: details.cell ? details.cell.name : ""
+                        font: Theme.weighted(Theme.caption, Font.Medium)
+                        color: Theme.primary
+                    }
+                }
+
+                Rectangle {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 1
+                    height: 16
+                    color: Theme.separator
                 }
 
                 Text {
-                    text: details.cell ? details.cell.name : ""
-                    font: Theme.weighted(Theme.caption, Font.Medium)
+                    text: details.cell ? Format.byteCount(details.cell.totalSize) : ""
+                    font: Theme.monospaced(Theme.caption)
                     color: Theme.primary
                 }
-            }
 
-            Rectangle {
-                anchors.verticalCenter: parent.verticalCenter
-                width: 1
-                height: 16
-                color: Theme.separator
-            }
+                Text { text: "•"; font: Theme.caption; color: Theme.tertiary }
 
-            Text {
-                text: details.cell ? Format.byteCount(details.cell.totalSize) : ""
-                font: Theme.monospaced(Theme.caption)
-                color: Theme.primary
-            }
+                Text {
+                    text: details.cell ? Format.count(details.cell.fileCount) + " files" : ""
+                    font: Theme.caption
+                    color: Theme.primary
+                }
 
-            Text { text: "•"; font: Theme.caption; color: Theme.tertiary }
+                Text { text: "•"; font: Theme.caption; color: Theme.tertiary }
 
-            Text {
-                text: details.cell ? Format.count(details.cell.fileCount) + " files" : ""
-                font: Theme.caption
-                color: Theme.primary
-            }
-
-            Text { text: "•"; font: Theme.caption; color: Theme.tertiary }
-
-            Text {
-                text: details.cell ? details.cell.share : ""
-                font: Theme.caption
-                color: Theme.secondary
+                Text {
+                    text: details.cell ? details.cell.share : ""
+                    font: Theme.caption
+                    color: Theme.secondary
+                }
             }
         }
     }

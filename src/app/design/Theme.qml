@@ -1,6 +1,8 @@
 pragma Singleton
 import QtQuick
-import Tessarine.App
+// Qualified: QtQuick has a Palette type of its own, which otherwise wins when this module is
+// reached through another module's import.
+import Tessarine.App as App
 
 // The one palette, type scale and set of measures that every screen shares, so that a card, a
 // caption or a fade looks and moves the same wherever it appears. Named colours come from
@@ -9,26 +11,26 @@ QtObject {
     id: theme
 
     // Named colours, from the palette that C++ drawing reads too.
-    readonly property color blue: Palette.named("blue")
-    readonly property color green: Palette.named("green")
-    readonly property color teal: Palette.named("teal")
-    readonly property color orange: Palette.named("orange")
-    readonly property color pink: Palette.named("pink")
-    readonly property color purple: Palette.named("purple")
-    readonly property color red: Palette.named("red")
-    readonly property color yellow: Palette.named("yellow")
-    readonly property color brown: Palette.named("brown")
-    readonly property color indigo: Palette.named("indigo")
-    readonly property color mint: Palette.named("mint")
-    readonly property color cyan: Palette.named("cyan")
-    readonly property color gray: Palette.named("gray")
-    readonly property color accent: Palette.named("accent")
+    readonly property color blue: App.Palette.named("blue")
+    readonly property color green: App.Palette.named("green")
+    readonly property color teal: App.Palette.named("teal")
+    readonly property color orange: App.Palette.named("orange")
+    readonly property color pink: App.Palette.named("pink")
+    readonly property color purple: App.Palette.named("purple")
+    readonly property color red: App.Palette.named("red")
+    readonly property color yellow: App.Palette.named("yellow")
+    readonly property color brown: App.Palette.named("brown")
+    readonly property color indigo: App.Palette.named("indigo")
+    readonly property color mint: App.Palette.named("mint")
+    readonly property color cyan: App.Palette.named("cyan")
+    readonly property color gray: App.Palette.named("gray")
+    readonly property color accent: App.Palette.named("accent")
 
     // Label tiers.
-    readonly property color primary: Palette.named("primary")
-    readonly property color secondary: Palette.named("secondary")
-    readonly property color tertiary: Palette.named("tertiary")
-    readonly property color quaternary: Palette.named("quaternary")
+    readonly property color primary: App.Palette.named("primary")
+    readonly property color secondary: App.Palette.named("secondary")
+    readonly property color tertiary: App.Palette.named("tertiary")
+    readonly property color quaternary: App.Palette.named("quaternary")
 
     // Surfaces.
     readonly property color windowBackground: "#ECECEC"
@@ -46,7 +48,7 @@ QtObject {
     // A colour by its name, so that data carrying a colour name (a category, a folder colour) can
     // be painted. Unknown names give the secondary colour.
     function named(name) {
-        return Palette.named(name)
+        return App.Palette.named(name)
     }
 
     // The colour with its opacity multiplied, so that "secondary at 30%" stays fainter than
