@@ -201,7 +201,9 @@ private slots:
         QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(showAll));
         QQuickItem* depth = scrollTo(scene.window(), "depthHoverArea");
         QTest::qWait(100);
+        QTest::mouseMove(scene.window(), centerOf(depth, 0.25));
         QTest::mouseMove(scene.window(), centerOf(depth, 0.3));
+        QTRY_VERIFY(!findItem(scene.window(), "depthSummary")->isVisible());
         scene.save(QStringLiteral("dashboard-depth-hover-extensions-all"), Scene::Immediately);
 
         QQuickItem* search = scrollTo(scene.window(), "largestFilesSearch");
