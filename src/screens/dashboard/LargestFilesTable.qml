@@ -114,16 +114,21 @@ FocusScope {
 
         ScrollBar.vertical: ScrollBar {}
 
-        delegate: LargestFileCell {
-            onPressed: (row, modifiers) => {
-                root.forceActiveFocus()
-                root.rows.select(row, modifiers)
-            }
-            onDoubleClicked: row => root.revealRequested(root.rows.pathAt(row))
-            onContextMenuRequested: (row, x, y) => {
-                root.menuRow = row
-                menu.popup()
-            }
+        // What the cells report of the pointer.
+        signal rowPressed(int row, int modifiers)
+        signal rowDoubleClicked(int row)
+        signal contextMenuRequested(int row)
+
+        delegate: LargestFileCell {}
+
+        onRowPressed: (row, modifiers) => {
+            root.forceActiveFocus()
+            root.rows.select(row, modifiers)
+        }
+        onRowDoubleClicked: row => root.revealRequested(root.rows.pathAt(row))
+        onContextMenuRequested: row => {
+            root.menuRow = row
+            menu.popup()
         }
     }
 

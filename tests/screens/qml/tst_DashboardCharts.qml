@@ -147,8 +147,7 @@ ScreenTestCase {
         // earlier rows in its pool.
         const cells = () => {
             const shown = []
-            for (const cell of ViewSearch.visibleItems(view, item => item.hasOwnProperty("modifiedText")
-                                                                    && item.column === 0))
+            for (const cell of ViewSearch.visibleItems(view, item => item.hasOwnProperty("folder") && item.column === 0))
                 if (cell.row < rows.rowCount() && !shown[cell.row])
                     shown[cell.row] = cell
             return shown
