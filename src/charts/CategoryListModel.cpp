@@ -23,7 +23,10 @@ int CategoryListModel::rowCount(const QModelIndex& parent) const {
 QVariant CategoryListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const CategoryStats& stats = m_categories.at(index.row());
+    return categoryData(m_categories.at(index.row()), m_totalSize, role);
+}
+
+QVariant CategoryListModel::categoryData(const CategoryStats& stats, qint64 totalSize, int role) {
     switch (Role(role)) {
     case CategoryRole:
         return int(stats.category);
@@ -38,7 +41,7 @@ QVariant CategoryListModel::data(const QModelIndex& index, int role) const {
     case FileCountRole:
         return stats.fileCount;
     case ShareRole:
-        return format::share(double(stats.totalSize), double(m_totalSize));
+        return format::share(double(stats.totalSize), double(totalSize));
     }
     return {};
 }

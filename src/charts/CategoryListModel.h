@@ -36,6 +36,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+    // A category's value for one of the roles above, its share taken of totalSize; the treemap's
+    // cells say the same of their categories.
+    static QVariant categoryData(const CategoryStats& stats, qint64 totalSize, int role);
+
     void setResult(const AnalysisResult& result);
     QList<double> axisTicks() const;
     int count() const { return int(m_categories.size()); }

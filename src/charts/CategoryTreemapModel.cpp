@@ -1,7 +1,6 @@
 #include "charts/CategoryTreemapModel.h"
 
 #include "app/RoleNames.h"
-#include "charts/CategoryListModel.h"
 #include "charts/TreemapCellStyle.h"
 #include "model/Format.h"
 
@@ -18,21 +17,7 @@ QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
         return {};
     const TreeMapRect& cell = m_rects.at(std::size_t(index.row()));
     const CategoryStats& stats = cell.stat;
-    switch (Role(role)) {
-    case CategoryRole:
-        return int(stats.category);
-    case NameRole:
-        return rawValue(stats.category);
-    case SymbolRole:
-        return iconName(stats.category);
-    case ColorNameRole:
-        return colorName(stats.category);
-    case TotalSizeRole:
-        return stats.totalSize;
-    case FileCountRole:
-        return stats.fileCount;
-    case ShareRole:
-        return format::share(double(stats.totalSize), double(m_totalSize));
+    switch (role) {
     case AccessibleValueRole: {
         const auto percent = qint64(
             std::trunc(double(stats.totalSize) / double(std::max<qint64>(m_totalSize, 1)) * 100));
@@ -49,11 +34,13 @@ QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
     case CellHeightRole:
         return cell.rect.height();
     }
-    return {};
+    return CategoryListModel::categoryData(stats, m_totalSize, role);
 }
 
 QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
-    return roleNamesOf<Role>();
+    QHash<int, QByteArray> names = roleNamesOf<CategoryListModel::Role>();
+    names.insert(roleNamesOf<Role>());
+    return names;
 }
 
 void CategoryTreemapModel::setResult(const AnalysisResult& result) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "charts/CategoryListModel.h"
 #include "charts/CategoryTreemapLayout.h"
 #include "charts/TreemapCell.h"
 
@@ -23,15 +24,9 @@ class CategoryTreemapModel : public QAbstractListModel {
     Q_PROPERTY(tessarine::TreemapCellList cells READ cells NOTIFY cellsChanged)
 
 public:
+    // Besides CategoryListModel's roles, which every cell has too.
     enum Role {
-        CategoryRole = Qt::UserRole + 1,
-        NameRole,
-        SymbolRole,
-        ColorNameRole,
-        TotalSizeRole,
-        FileCountRole,
-        ShareRole,
-        AccessibleValueRole,
+        AccessibleValueRole = CategoryListModel::ShareRole + 1,
         CellXRole,
         CellYRole,
         CellWidthRole,

@@ -139,7 +139,7 @@ private slots:
         model.setResult(result);
         model.setAreaWidth(400);
         model.setAreaHeight(200);
-        QCOMPARE(column(model, CategoryTreemapModel::NameRole),
+        QCOMPARE(column(model, CategoryListModel::NameRole),
                  QStringList({"Images", "Videos", "Code", "Audio"}));
         QCOMPARE(column(model, CategoryTreemapModel::CellXRole),
                  QStringList({"0", "200", "320", "320"}));
