@@ -15,6 +15,7 @@ generator=$build/bench/generate-tree
 responsiveness=$build/bench/responsiveness/tessarine-responsiveness
 treemap=$build/bench/treemap/tessarine-treemap-bench
 folders=$build/bench/treemap/tessarine-folder-analysis-bench
+dashboard=$build/bench/dashboard/tessarine-dashboard-bench
 cache=/var/tmp/tessarine-bench
 tree=$cache/tree
 work=$(mktemp -d)
@@ -151,4 +152,8 @@ if [[ -x $folders ]]; then
     grep -v '^build-seconds' "$work/folders"
     section_vs_cli=$(ratio "$(awk '/^build-seconds/ { print $2 }' "$work/folders")" "$wall_tree")
     echo "$(verdict "$section_vs_cli" 1.1)  section build <= 1.1 x tessarine-cli tree ($section_vs_cli)"
+if [[ -x $dashboard ]]; then
+    echo
+    echo "Opening the dashboard (software renderer, offscreen):"
+    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$dashboard"
 fi

@@ -40,6 +40,7 @@ const QHash<QString, char16_t>& table() {
         {QStringLiteral("chevron.left"), 0xe5cb},                       // chevron_left
         {QStringLiteral("chevron.left.forwardslash.chevron.right"), 0xe86f}, // code
         {QStringLiteral("chevron.right"), 0xe5cc},                           // chevron_right
+        {QStringLiteral("chevron.up"), 0xe5ce},                              // expand_less
         {QStringLiteral("circle"), 0xe836},                        // radio_button_unchecked
         {QStringLiteral("clock"), 0xe8b5},                         // schedule
         {QStringLiteral("clock.arrow.circlepath"), 0xe889},        // history

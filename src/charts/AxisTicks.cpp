@@ -35,4 +35,11 @@ std::vector<qint64> niceAxisTicks(qint64 maxValue, int intervals) {
     return ticks;
 }
 
+QList<double> niceAxisTickValues(qint64 maxValue) {
+    QList<double> values;
+    for (const qint64 tick : niceAxisTicks(maxValue))
+        values.append(double(tick));
+    return values;
+}
+
 } // namespace tessarine

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QtGlobal>
 
 #include <vector>
@@ -12,5 +13,8 @@ namespace tessarine {
 // tick is the axis end and is at least maxValue (a range of 0 or less is drawn as 0 to 1), unless
 // maxValue lies within one step of the largest 64-bit value.
 std::vector<qint64> niceAxisTicks(qint64 maxValue, int intervals = 4);
+
+// The same ticks as numbers QML can place along an axis.
+QList<double> niceAxisTickValues(qint64 maxValue);
 
 } // namespace tessarine

@@ -1,6 +1,7 @@
 pragma Singleton
 import QtQuick
-// Qualified: QtQuick has a Palette type of its own, which may win an unqualified lookup.
+// Qualified: QtQuick has a Palette type of its own and Tessarine.App may be reached through
+// another module's import, so the named colours are looked up in this module explicitly.
 import Tessarine.App as App
 
 // The one palette, type scale and set of measures that every screen shares, so that a card, a
@@ -10,26 +11,26 @@ QtObject {
     id: theme
 
     // Named colours, from the palette that C++ drawing reads too.
-    readonly property color blue: NamedColors.named("blue")
-    readonly property color green: NamedColors.named("green")
-    readonly property color teal: NamedColors.named("teal")
-    readonly property color orange: NamedColors.named("orange")
-    readonly property color pink: NamedColors.named("pink")
-    readonly property color purple: NamedColors.named("purple")
-    readonly property color red: NamedColors.named("red")
-    readonly property color yellow: NamedColors.named("yellow")
-    readonly property color brown: NamedColors.named("brown")
-    readonly property color indigo: NamedColors.named("indigo")
-    readonly property color mint: NamedColors.named("mint")
-    readonly property color cyan: NamedColors.named("cyan")
-    readonly property color gray: NamedColors.named("gray")
-    readonly property color accent: NamedColors.named("accent")
+    readonly property color blue: App.NamedColors.named("blue")
+    readonly property color green: App.NamedColors.named("green")
+    readonly property color teal: App.NamedColors.named("teal")
+    readonly property color orange: App.NamedColors.named("orange")
+    readonly property color pink: App.NamedColors.named("pink")
+    readonly property color purple: App.NamedColors.named("purple")
+    readonly property color red: App.NamedColors.named("red")
+    readonly property color yellow: App.NamedColors.named("yellow")
+    readonly property color brown: App.NamedColors.named("brown")
+    readonly property color indigo: App.NamedColors.named("indigo")
+    readonly property color mint: App.NamedColors.named("mint")
+    readonly property color cyan: App.NamedColors.named("cyan")
+    readonly property color gray: App.NamedColors.named("gray")
+    readonly property color accent: App.NamedColors.named("accent")
 
     // Label tiers.
-    readonly property color primary: NamedColors.named("primary")
-    readonly property color secondary: NamedColors.named("secondary")
-    readonly property color tertiary: NamedColors.named("tertiary")
-    readonly property color quaternary: NamedColors.named("quaternary")
+    readonly property color primary: App.NamedColors.named("primary")
+    readonly property color secondary: App.NamedColors.named("secondary")
+    readonly property color tertiary: App.NamedColors.named("tertiary")
+    readonly property color quaternary: App.NamedColors.named("quaternary")
 
     // Surfaces.
     readonly property color windowBackground: "#ECECEC"
@@ -47,7 +48,7 @@ QtObject {
     // A colour by its name, so that data carrying a colour name (a category, a folder colour) can
     // be painted. Unknown names give the secondary colour.
     function named(name) {
-        return NamedColors.named(name)
+        return App.NamedColors.named(name)
     }
 
     // The colour with its opacity multiplied, so that "secondary at 30%" stays fainter than

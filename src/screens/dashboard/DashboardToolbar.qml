@@ -4,6 +4,10 @@ import Tessarine.App
 
 // The dashboard's actions, at the trailing end of the bar above its content.
 Rectangle {
+    id: toolbar
+
+    signal exportRequested
+
     implicitHeight: 48
     color: Theme.controlBackground
 
@@ -21,6 +25,13 @@ Rectangle {
         spacing: Theme.spacingSmall
 
         Item { Layout.fillWidth: true }
+
+        BorderedButton {
+            objectName: "exportToolbarButton"
+            text: "Export"
+            symbol: "square.and.arrow.up"
+            onClicked: toolbar.exportRequested()
+        }
 
         BorderedButton {
             objectName: "newScanButton"

@@ -3,6 +3,7 @@ import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
 import Tessarine.Charts
+import Tessarine.Screens
 
 // One finished result: its identity with Rescan, the summary cards, the charts and tables of the
 // result, and the insights, in one vertical scroll under the toolbar.
@@ -10,23 +11,36 @@ Rectangle {
     id: dashboard
 
     readonly property analysisResult result: AppState.currentResult
+    // Two cards side by side need this much room; below it every row becomes one column.
+    readonly property real twoCardWidth: 2 * 400 + Theme.spacingLarge
+    readonly property bool twoColumns: content.width >= twoCardWidth
+    readonly property alias categorySelection: categorySelection
+    readonly property alias exportSheet: exportSheet
 
     color: Theme.contentBackground
+
+    CategorySelection { id: categorySelection }
 
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
 
-        DashboardToolbar { Layout.fillWidth: true }
+        DashboardToolbar {
+            Layout.fillWidth: true
+            onExportRequested: exportSheet.open()
+        }
 
         ScrollView {
             id: scroller
 
+            objectName: "dashboardScroller"
             Layout.fillWidth: true
             Layout.fillHeight: true
             contentWidth: availableWidth
 
             ColumnLayout {
+                id: content
+
                 x: Theme.spacingSection
                 width: scroller.availableWidth - 2 * Theme.spacingSection
                 spacing: Theme.spacingSection
@@ -42,8 +56,62 @@ Rectangle {
                     result: dashboard.result
                 }
 
-                // The category charts, the folder analysis, the largest files and the depth and
-                // extension charts come between the summary cards and the insights.
+                GridLayout {
+                    Layout.fillWidth: true
+                    columns: dashboard.twoColumns ? 2 : 1
+                    columnSpacing: Theme.spacingLarge
+                    rowSpacing: Theme.spacingLarge
+
+                    CategoryChart {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        Layout.preferredWidth: 1
+                        Layout.minimumWidth: 400
+                        result: dashboard.result
+                        selection: categorySelection
+                    }
+
+                    TreeMapView {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        Layout.preferredWidth: 1
+                        Layout.minimumWidth: 400
+                        Layout.minimumHeight: 350
+                        result: dashboard.result
+                        selection: categorySelection
+                    }
+                }
+
+                // The folder analysis section goes here, between the category row and the largest
+                // files.
+
+                LargestFilesSection {
+                    Layout.fillWidth: true
+                    result: dashboard.result
+                }
+
+                GridLayout {
+                    Layout.fillWidth: true
+                    columns: dashboard.twoColumns ? 2 : 1
+                    columnSpacing: Theme.spacingLarge
+                    rowSpacing: Theme.spacingLarge
+
+                    DepthChart {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        Layout.preferredWidth: 1
+                        Layout.minimumWidth: 350
+                        result: dashboard.result
+                    }
+
+                    ExtensionBreakdownView {
+                        Layout.fillWidth: true
+                        Layout.fillHeight: true
+                        Layout.preferredWidth: 1
+                        Layout.minimumWidth: 350
+                        result: dashboard.result
+                    }
+                }
 
                 FolderAnalysisSection { Layout.fillWidth: true; result: dashboard.result }
 
@@ -54,5 +122,12 @@ Rectangle {
                 }
             }
         }
+    }
+
+    ExportSheet {
+        id: exportSheet
+
+        objectName: "exportSheet"
+        result: dashboard.result
     }
 }

@@ -25,7 +25,7 @@ ScreenTestCase {
     }
 
     function summaryCards(view) {
-        return ViewSearch.withProperty(view, "isAnimated")
+        return ViewSearch.withProperty(view, "isAnimated").filter(item => item.hasOwnProperty("subtitle"))
     }
 
     function test_headerAndSummaryCards() {

@@ -4,9 +4,11 @@
 #include "ScanFolders.h"
 
 #include "BuildHold.h"
+#include "DashboardResult.h"
 #include "FileTrees.h"
 
 #include "app/AppState.h"
+#include "screens/dashboard/FileActions.h"
 #include "storage/PersistenceService.h"
 #include "tree/FolderTreeService.h"
 
@@ -61,9 +63,26 @@ AppFixture::AppFixture(const QString& screenshotFolder, QObject* parent)
     testing::storeSampleHistory(*m_store, storedScanCount());
     m_state = std::make_unique<AppState>(*m_store);
     AppState::setSharedInstance(m_state.get());
+    FileActions::setServices(&m_desktop);
 }
 
-AppFixture::~AppFixture() = default;
+AppFixture::~AppFixture() {
+    FileActions::setServices(nullptr);
+}
+
+QStringList AppFixture::takeDesktopRequests() {
+    return std::exchange(m_desktop.requests, {});
+}
+
+void AppFixture::showFullResult(int categories, int extensions, bool withInsights) {
+    AnalysisResult result = testing::dashboardResult(m_files.filePath(QStringLiteral("Projects")),
+                                                     categories, extensions, 20, 100);
+    for (const FileInfo& file : std::as_const(result.largestFiles))
+        testing::writeFile(file.path, 1);
+    if (withInsights)
+        result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000)};
+    m_state->setCurrentResult(result);
+}
 
 QString AppFixture::folderPath() const {
     return m_files.filePath(QStringLiteral("folder"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "RecordedDesktop.h"
 #include "WindowDrag.h"
 
 #include "model/Records.h"
@@ -58,6 +59,12 @@ public:
     Q_INVOKABLE void clearProgress();
     // A finished result of the folder, with insights unless told otherwise.
     Q_INVOKABLE void showResult(const QString& rootPath, bool withInsights = true);
+    // A full result for the charts and the table: 12 categories, 40 extensions, 20 depth levels
+    // and 100 largest files by default, below a real folder so that its files can be revealed.
+    Q_INVOKABLE void showFullResult(int categories = 12, int extensions = 40,
+                                    bool withInsights = true);
+    // What reached the desktop (reveal, open, copy) since the last call, oldest first.
+    Q_INVOKABLE QStringList takeDesktopRequests();
     // A new folder holding one small file, so a scan of it succeeds; a new plain file.
     Q_INVOKABLE QString makeFolder(const QString& name);
     Q_INVOKABLE QString makeFile(const QString& name);
@@ -86,6 +93,7 @@ private:
     std::unique_ptr<PersistenceService> m_store;
     std::unique_ptr<AppState> m_state;
     std::unique_ptr<testing::WindowDrag> m_drag;
+    RecordedDesktop m_desktop;
 };
 
 } // namespace tessarine

@@ -1,0 +1,90 @@
+#include "charts/CategoryTreemapModel.h"
+
+#include "app/RoleNames.h"
+#include "charts/TreemapCellStyle.h"
+#include "model/Format.h"
+
+#include <cmath>
+
+namespace tessarine {
+
+int CategoryTreemapModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : int(m_rects.size());
+}
+
+QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const TreeMapRect& cell = m_rects.at(std::size_t(index.row()));
+    const CategoryStats& stats = cell.stat;
+    switch (role) {
+    case AccessibleValueRole: {
+        const auto percent = qint64(
+            std::trunc(double(stats.totalSize) / double(std::max<qint64>(m_totalSize, 1)) * 100));
+        return QStringLiteral("%1, %2 percent")
+            .arg(format::byteCount(stats.totalSize))
+            .arg(percent);
+    }
+    case CellXRole:
+        return cell.rect.x();
+    case CellYRole:
+        return cell.rect.y();
+    case CellWidthRole:
+        return cell.rect.width();
+    case CellHeightRole:
+        return cell.rect.height();
+    }
+    return CategoryListModel::categoryData(stats, m_totalSize, role);
+}
+
+QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
+    QHash<int, QByteArray> names = roleNamesOf<CategoryListModel::Role>();
+    names.insert(roleNamesOf<Role>());
+    return names;
+}
+
+void CategoryTreemapModel::setResult(const AnalysisResult& result) {
+    m_categories = categoriesLargestFirst(result);
+    m_totalSize = result.totalSize;
+    relayout();
+}
+
+void CategoryTreemapModel::setAreaWidth(qreal width) {
+    if (width == m_area.width())
+        return;
+    m_area.setWidth(width);
+    relayout();
+}
+
+void CategoryTreemapModel::setAreaHeight(qreal height) {
+    if (height == m_area.height())
+        return;
+    m_area.setHeight(height);
+    relayout();
+}
+
+void CategoryTreemapModel::setSelectedCategory(int category) {
+    if (category == m_selected)
+        return;
+    m_selected = category;
+    emit cellsChanged();
+}
+
+TreemapCellList CategoryTreemapModel::cells() const {
+    const std::optional<FileCategory> selected =
+        m_selected < 0 ? std::nullopt : std::optional(FileCategory(m_selected));
+    return TreemapCellList(categoryTreemapCells(m_rects, selected));
+}
+
+int CategoryTreemapModel::categoryAt(int row) const {
+    return row >= 0 && row < rowCount() ? int(m_rects.at(std::size_t(row)).stat.category) : -1;
+}
+
+void CategoryTreemapModel::relayout() {
+    beginResetModel();
+    m_rects = calculateTreeMapRects(m_categories, m_totalSize, m_area);
+    endResetModel();
+    emit cellsChanged();
+}
+
+} // namespace tessarine

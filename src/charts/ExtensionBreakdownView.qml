@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Charts
+
+// "File Extensions": the largest extensions with bars proportional to their share, ten at first
+// and up to fifteen on request, with a footer for those not shown.
+ChartCard {
+    id: card
+
+    required property analysisResult result
+
+    ExtensionListModel {
+        id: extensions
+
+        result: card.result
+    }
+
+    ChartHeader {
+        title: "File Extensions"
+        symbol: "doc.badge.ellipsis"
+        symbolColor: Theme.cyan
+
+        PlainButton {
+            objectName: "showAllExtensionsButton"
+            text: extensions.showAll ? "Show Less" : "Show All"
+            font: Theme.caption
+            tint: Theme.blue
+            padding: 2
+            onClicked: extensions.showAll = !extensions.showAll
+        }
+    }
+
+    Column {
+        Layout.fillWidth: true
+        spacing: 8
+
+        Repeater {
+            model: extensions
+
+            ExtensionRow { width: parent.width }
+        }
+    }
+
+    RowLayout {
+        objectName: "moreExtensionsFooter"
+        visible: extensions.hiddenCount > 0
+        Layout.fillWidth: true
+        Layout.topMargin: 4 - Theme.spacingLarge + 8
+
+        Text {
+            text: "+ " + extensions.hiddenCount + " more extensions"
+            font: Theme.caption
+            color: Theme.secondary
+        }
+
+        Item { Layout.fillWidth: true }
+
+        Text {
+            text: Format.byteCount(extensions.hiddenSize)
+            font: Theme.caption
+            color: Theme.tertiary
+        }
+    }
+
+    Item { Layout.fillHeight: true }
+}

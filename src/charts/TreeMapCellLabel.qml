@@ -1,0 +1,73 @@
+import QtQuick
+import Tessarine.App
+
+// What a treemap cell says over its colour: its symbol once the cell is large enough to read,
+// then its name and size once there is room; and, whatever its size, its accessible name and
+// value. Grows with the cell under the pointer.
+Item {
+    id: label
+
+    required property int index
+    required property string name
+    required property string symbol
+    required property string colorName
+    required property double totalSize
+    required property double fileCount
+    required property string share
+    required property string accessibleValue
+    required property real cellX
+    required property real cellY
+    required property real cellWidth
+    required property real cellHeight
+    property bool hovered: false
+
+    readonly property bool showsSymbol: cellWidth > 60 && cellHeight > 40
+    readonly property bool showsDetails: cellWidth > 100 && cellHeight > 60
+
+    x: cellX
+    y: cellY
+    width: cellWidth
+    height: cellHeight
+    scale: hovered ? 1.02 : 1
+
+    Behavior on scale { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
+
+    Accessible.role: Accessible.Button
+    Accessible.name: name + " category"
+    Accessible.description: accessibleValue
+
+    Column {
+        anchors.centerIn: parent
+        visible: label.showsSymbol
+        spacing: 2
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            symbol: label.symbol
+            size: (label.showsDetails ? Theme.title3 : Theme.caption).pixelSize + 3
+            color: "white"
+            style: Text.Raised
+            styleColor: Qt.rgba(0, 0, 0, 0.3)
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: label.showsDetails
+            text: label.name
+            font: Theme.weighted(Theme.caption, Font.Medium)
+            color: "white"
+            style: Text.Raised
+            styleColor: Qt.rgba(0, 0, 0, 0.3)
+        }
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: label.showsDetails
+            text: Format.byteCount(label.totalSize)
+            font: Theme.extraSmall
+            color: Qt.rgba(1, 1, 1, 0.9)
+            style: Text.Raised
+            styleColor: Qt.rgba(0, 0, 0, 0.3)
+        }
+    }
+}

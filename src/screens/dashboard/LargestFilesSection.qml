@@ -1,0 +1,160 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// "Largest Files": the result's largest files in a table sorted by its headers and searched by
+// name, folder or extension, with several rows selectable to reveal together. Collapsing hides the
+// search and the table but keeps what was searched, sorted and selected.
+Rectangle {
+    id: section
+
+    required property analysisResult result
+    property bool isExpanded: true
+    readonly property alias rows: rows
+    readonly property alias table: table
+
+    implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge
+    radius: Theme.radiusCard
+    color: Theme.controlBackground
+    border.width: 1
+    border.color: Theme.withOpacity(Theme.separator, 0.8)
+
+    LargestFilesRows {
+        id: rows
+
+        result: section.result
+    }
+
+    // Reveals or opens one file, or raises the alert when it has gone since the scan.
+    function reveal(path) {
+        if (!FileActions.reveal(path))
+            AppState.error = AppError.invalidPath(path)
+    }
+
+    function open(path) {
+        if (!FileActions.open(path))
+            AppState.error = AppError.invalidPath(path)
+    }
+
+    function revealSelected() {
+        for (const path of rows.selectedPaths)
+            reveal(path)
+    }
+
+    ColumnLayout {
+        id: column
+
+        anchors.fill: parent
+        anchors.margins: Theme.spacingLarge
+        spacing: Theme.spacingMedium
+
+        RowLayout {
+            Layout.fillWidth: true
+
+            Item {
+                objectName: "largestFilesDisclosure"
+                implicitWidth: disclosure.implicitWidth
+                implicitHeight: disclosure.implicitHeight
+
+                Row {
+                    id: disclosure
+
+                    spacing: Theme.spacingSmall
+
+                    Icon {
+                        anchors.verticalCenter: parent.verticalCenter
+                        symbol: section.isExpanded ? "chevron.down" : "chevron.right"
+                        size: Theme.caption.pixelSize + 3
+                        color: Theme.secondary
+                    }
+
+                    SectionHeader {
+                        anchors.verticalCenter: parent.verticalCenter
+                        title: "Largest Files"
+                        symbol: "doc.text.magnifyingglass"
+                        symbolColor: Theme.green
+                    }
+
+                    Text {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: "(" + rows.fileCount + ")"
+                        font: Theme.subheadline
+                        color: Theme.secondary
+                    }
+                }
+
+                TapHandler { onTapped: section.isExpanded = !section.isExpanded }
+                HoverHandler { cursorShape: Qt.PointingHandCursor }
+            }
+
+            Item { Layout.fillWidth: true }
+
+            BorderedButton {
+                objectName: "revealSelectedButton"
+                visible: rows.selectedCount > 0
+                text: "Reveal in File Manager"
+                symbol: "folder"
+                font: Theme.caption
+                // The table keeps the keyboard, so Ctrl+C still copies what is selected.
+                focusPolicy: Qt.NoFocus
+                onClicked: section.revealSelected()
+            }
+        }
+
+        Rectangle {
+            visible: section.isExpanded
+            Layout.fillWidth: true
+            implicitHeight: 30
+            radius: Theme.radiusSmall
+            color: Theme.withOpacity(Theme.secondary, 0.08)
+
+            RowLayout {
+                anchors.fill: parent
+                anchors.leftMargin: 8
+                anchors.rightMargin: 8
+                spacing: 6
+
+                Icon {
+                    symbol: "magnifyingglass"
+                    size: 14
+                    color: Theme.secondary
+                }
+
+                TextField {
+                    id: search
+
+                    objectName: "largestFilesSearch"
+                    Layout.fillWidth: true
+                    placeholderText: "Search files..."
+                    font: Theme.body
+                    background: null
+                    text: rows.searchText
+                    onTextEdited: rows.searchText = text
+                }
+
+                Icon {
+                    objectName: "clearSearchButton"
+                    visible: rows.searchText !== ""
+                    symbol: "xmark.circle.fill"
+                    size: 14
+                    color: Theme.secondary
+
+                    TapHandler { onTapped: rows.searchText = "" }
+                }
+            }
+        }
+
+        LargestFilesTable {
+            id: table
+
+            visible: section.isExpanded
+            Layout.fillWidth: true
+            Layout.preferredHeight: 360
+            rows: rows
+            onRevealRequested: path => section.reveal(path)
+            onOpenRequested: path => section.open(path)
+        }
+    }
+}

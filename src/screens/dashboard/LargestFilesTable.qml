@@ -1,0 +1,157 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+import Tessarine.Screens
+
+// The table of the largest files: headers that sort, alternating rows, clicks that select with
+// Shift and Ctrl, a double-click or Enter that reveals, a context menu on one file, and Ctrl+C
+// that copies the selected paths one per line.
+FocusScope {
+    id: root
+
+    required property LargestFilesRows rows
+    // The row the context menu was opened on.
+    property int menuRow: -1
+
+    signal revealRequested(string path)
+    signal openRequested(string path)
+
+    readonly property var columnWidths: [0, 100, 80, 100, 50]
+
+    function columnWidth(column) {
+        const fixed = columnWidths.reduce((sum, width) => sum + width, 0)
+        return column === 0 ? Math.max(200, view.width - fixed) : columnWidths[column]
+    }
+
+    function moveTo(row) {
+        if (row < 0 || row >= rows.rowCount())
+            return
+        rows.select(row)
+        view.positionViewAtRow(row, TableView.Contain)
+    }
+
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Down) {
+            moveTo(rows.currentRow + 1)
+        } else if (event.key === Qt.Key_Up) {
+            moveTo(Math.max(rows.currentRow - 1, 0))
+        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+            if (rows.currentRow >= 0)
+                revealRequested(rows.pathAt(rows.currentRow))
+        } else if (event.matches(StandardKey.Copy)) {
+            FileActions.copyPaths(rows.selectedPaths)
+        } else {
+            return
+        }
+        event.accepted = true
+    }
+
+    HorizontalHeaderView {
+        id: header
+
+        objectName: "largestFilesHeader"
+        syncView: view
+        width: parent.width
+        clip: true
+
+        delegate: Rectangle {
+            id: headerCell
+
+            required property int column
+            required property string display
+            readonly property bool sorted: root.rows.sortColumn === column
+            readonly property bool sortable: column === 0 || column === 1 || column === 3
+
+            implicitHeight: 26
+            color: Theme.controlBackground
+
+            Row {
+                anchors.verticalCenter: parent.verticalCenter
+                x: 8
+                spacing: 4
+
+                Text {
+                    text: headerCell.display
+                    font: Theme.weighted(Theme.caption, headerCell.sorted ? Font.DemiBold : Font.Normal)
+                    color: Theme.secondary
+                }
+
+                Icon {
+                    visible: headerCell.sorted
+                    symbol: root.rows.sortOrder === Qt.AscendingOrder ? "chevron.up" : "chevron.down"
+                    size: 11
+                    color: Theme.secondary
+                }
+            }
+
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: 1
+                color: Theme.separator
+            }
+
+            TapHandler {
+                enabled: headerCell.sortable
+                onTapped: root.rows.sortBy(headerCell.column)
+            }
+        }
+    }
+
+    TableView {
+        id: view
+
+        objectName: "largestFilesTableView"
+        anchors.top: header.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        clip: true
+        model: root.rows
+        boundsBehavior: Flickable.StopAtBounds
+        columnWidthProvider: column => root.columnWidth(column)
+        rowHeightProvider: () => 40
+        onWidthChanged: forceLayout()
+
+        ScrollBar.vertical: ScrollBar {}
+
+        // What the cells report of the pointer.
+        signal rowPressed(int row, int modifiers)
+        signal rowDoubleClicked(int row)
+        signal contextMenuRequested(int row)
+
+        delegate: LargestFileCell {}
+
+        onRowPressed: (row, modifiers) => {
+            root.forceActiveFocus()
+            root.rows.select(row, modifiers)
+        }
+        onRowDoubleClicked: row => root.revealRequested(root.rows.pathAt(row))
+        onContextMenuRequested: row => {
+            root.menuRow = row
+            menu.popup()
+        }
+    }
+
+    Menu {
+        id: menu
+
+        objectName: "largestFilesMenu"
+
+        MenuItem {
+            objectName: "revealMenuItem"
+            text: "Reveal in File Manager"
+            onTriggered: root.revealRequested(root.rows.pathAt(root.menuRow))
+        }
+        MenuItem {
+            objectName: "copyPathMenuItem"
+            text: "Copy Path"
+            onTriggered: FileActions.copyPaths([root.rows.pathAt(root.menuRow)])
+        }
+        MenuSeparator {}
+        MenuItem {
+            objectName: "openMenuItem"
+            text: "Open"
+            onTriggered: root.openRequested(root.rows.pathAt(root.menuRow))
+        }
+    }
+}

@@ -1,0 +1,32 @@
+#include "screens/dashboard/ResultExport.h"
+
+#include "model/Json.h"
+#include "storage/CsvExport.h"
+#include "storage/ExportWriter.h"
+
+#include <QDir>
+
+namespace tessarine {
+
+QUrl ResultExport::proposedFile(const AnalysisResult& result, Format format) const {
+    const QString name = QStringLiteral("analysis_") + result.rootName +
+                         (format == Csv ? QStringLiteral(".csv") : QStringLiteral(".json"));
+    return QUrl::fromLocalFile(QDir::home().filePath(name));
+}
+
+QString ResultExport::write(const AnalysisResult& result, Format format,
+                            const QUrl& destination) const {
+    QByteArray bytes;
+    if (format == Csv) {
+        auto csv = csv::exportLargestFiles(result);
+        if (const auto* error = std::get_if<StorageError>(&csv))
+            return error->errorDescription();
+        bytes = std::get<QByteArray>(std::move(csv));
+    } else {
+        bytes = json::encode(result);
+    }
+    const std::optional<StorageError> error = writeExport(destination.toLocalFile(), bytes);
+    return error ? error->errorDescription() : QString();
+}
+
+} // namespace tessarine

@@ -1,0 +1,159 @@
+#include "charts/CategoryListModel.h"
+#include "charts/CategoryTreemapModel.h"
+#include "charts/DepthListModel.h"
+#include "charts/ExtensionListModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QLocale>
+#include <QTest>
+
+using namespace tessarine;
+
+namespace {
+
+QVariant at(const QAbstractItemModel& model, int row, int role) {
+    return model.data(model.index(row, 0), role);
+}
+
+QStringList column(const QAbstractItemModel& model, int role) {
+    QStringList values;
+    for (int row = 0; row < model.rowCount(); ++row)
+        values.append(at(model, row, role).toString());
+    return values;
+}
+
+CategoryStats category(FileCategory kind, qint64 size) {
+    CategoryStats stats;
+    stats.category = kind;
+    stats.totalSize = size;
+    stats.fileCount = size / 10;
+    return stats;
+}
+
+// Extensions "e0".."e<count-1>" of sizes count, count-1, ... 1, summing to the total.
+AnalysisResult resultWithExtensions(int count) {
+    AnalysisResult result;
+    for (int i = 0; i < count; ++i) {
+        ExtensionStats stats;
+        stats.ext = QStringLiteral("e%1").arg(i);
+        stats.totalSize = count - i;
+        result.extensionStats.insert(stats.ext, stats);
+        result.totalSize += stats.totalSize;
+    }
+    return result;
+}
+
+} // namespace
+
+class ChartListModelsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    void categoriesLargestFirstKeepingTies() {
+        AnalysisResult result;
+        result.totalSize = 200;
+        result.categoryBreakdown = {
+            category(FileCategory::code, 20), category(FileCategory::images, 100),
+            category(FileCategory::audio, 20), category(FileCategory::other, 0)};
+        CategoryListModel model;
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setResult(result);
+        QCOMPARE(column(model, CategoryListModel::NameRole),
+                 QStringList({"Images", "Code", "Audio", "Other"}));
+        QCOMPARE(column(model, CategoryListModel::ShareRole),
+                 QStringList({"50.0%", "10.0%", "10.0%", "0.0%"}));
+        QCOMPARE(model.largestSize(), 100);
+        QCOMPARE(model.rowOf(int(FileCategory::audio)), 2);
+        QCOMPARE(model.rowOf(int(FileCategory::videos)), -1);
+
+        result.totalSize = 0;
+        model.setResult(result);
+        QCOMPARE(column(model, CategoryListModel::ShareRole),
+                 QStringList({"0.0%", "0.0%", "0.0%", "0.0%"}));
+    }
+
+    void extensionsFirstTenThenFifteen_data() {
+        QTest::addColumn<int>("extensions");
+        QTest::addColumn<bool>("showAll");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("hiddenCount");
+        QTest::addColumn<qint64>("hiddenSize");
+        // Sizes run count..1, so the hidden ones of 15 shown 10 are 5..1.
+        QTest::newRow("40 shown 10") << 40 << false << 10 << 5 << qint64(30 + 29 + 28 + 27 + 26);
+        QTest::newRow("40 all") << 40 << true << 15 << 0 << qint64(0);
+        QTest::newRow("15 shown 10") << 15 << false << 10 << 5 << qint64(5 + 4 + 3 + 2 + 1);
+        QTest::newRow("10") << 10 << false << 10 << 0 << qint64(0);
+        QTest::newRow("3 all") << 3 << true << 3 << 0 << qint64(0);
+        QTest::newRow("none") << 0 << false << 0 << 0 << qint64(0);
+    }
+
+    void extensionsFirstTenThenFifteen() {
+        QFETCH(int, extensions);
+        QFETCH(bool, showAll);
+        ExtensionListModel model;
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setResult(resultWithExtensions(extensions));
+        // Toggling there and back must leave the rows as they were, with every change announced.
+        model.setShowAll(!showAll);
+        model.setShowAll(showAll);
+        QTEST(model.rowCount(), "rows");
+        QTEST(model.hiddenCount(), "hiddenCount");
+        QTEST(model.hiddenSize(), "hiddenSize");
+        if (extensions > 0)
+            QCOMPARE(at(model, 0, ExtensionListModel::DisplayNameRole).toString(), ".e0");
+    }
+
+    void depthLevelsAndPeak() {
+        AnalysisResult result;
+        result.depthDistribution = {
+            {2, {9, 1, 90}}, {0, {5, 1, 50}}, {1, {9, 2, 90}}, {10, {1, 0, 1}}};
+        DepthListModel model;
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QCOMPARE(model.peakDepth(), 0);
+        QCOMPARE(model.totalFiles(), 0);
+        model.setResult(result);
+        QCOMPARE(column(model, DepthListModel::LabelRole),
+                 QStringList({"Level 0", "Level 1", "Level 2", "Level 10"}));
+        QCOMPARE(model.peakDepth(), 1);
+        QCOMPARE(model.totalFiles(), 24);
+        QCOMPARE(model.largestFileCount(), 9);
+        QCOMPARE(model.rowAt(0, 400), 0);
+        QCOMPARE(model.rowAt(399, 400), 3);
+        QCOMPARE(model.rowAt(400, 400), -1);
+    }
+
+    void treemapFollowsSizeAndSelection() {
+        AnalysisResult result;
+        result.totalSize = 100;
+        result.categoryBreakdown = {
+            category(FileCategory::audio, 5), category(FileCategory::images, 50),
+            category(FileCategory::code, 15), category(FileCategory::videos, 30)};
+        CategoryTreemapModel model;
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        model.setResult(result);
+        model.setAreaWidth(400);
+        model.setAreaHeight(200);
+        QCOMPARE(column(model, CategoryListModel::NameRole),
+                 QStringList({"Images", "Videos", "Code", "Audio"}));
+        QCOMPARE(column(model, CategoryTreemapModel::CellXRole),
+                 QStringList({"0", "200", "320", "320"}));
+        QCOMPARE(at(model, 3, CategoryTreemapModel::CellYRole).toDouble(), 150.0);
+        QCOMPARE(at(model, 0, CategoryTreemapModel::AccessibleValueRole).toString(),
+                 "50 bytes, 50 percent");
+
+        QCOMPARE(model.cells().count(), 4);
+        QCOMPARE(model.cells().cells().at(1).border.width, 0);
+        model.setSelectedCategory(int(FileCategory::videos));
+        QCOMPARE(model.cells().cells().at(1).border.width, 3);
+    }
+};
+
+QTEST_GUILESS_MAIN(ChartListModelsTest)
+
+#include "ChartListModelsTest.moc"

@@ -1,0 +1,230 @@
+import QtQuick
+import QtTest
+import Tessarine.App
+import Tessarine.Testing
+import Tessarine.Screens
+import "ViewSearch.js" as ViewSearch
+
+// The charts, the largest-files table and the export sheet of a full result, driven with the
+// pointer and the keyboard. The view is as tall as its content so that every card can be reached.
+ScreenTestCase {
+    id: testCase
+
+    name: "DashboardCharts"
+    height: 3200
+
+    Component {
+        id: dashboardComponent
+
+        DashboardView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    function init() {
+        AppState.clearError()
+        Fixture.takeDesktopRequests()
+    }
+
+    function dashboard(categories, extensions) {
+        Fixture.showFullResult(categories === undefined ? 12 : categories,
+                                extensions === undefined ? 40 : extensions)
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        waitForRendering(view)
+        return view
+    }
+
+    function cellLabels(view) {
+        return ViewSearch.withProperty(view, "accessibleValue")
+    }
+
+    function clickCenter(item, modifiers) {
+        mouseClick(item, item.width / 2, item.height / 2, Qt.LeftButton, modifiers)
+    }
+
+    function test_oneSelectionForLegendTreemapAndClearButton() {
+        const view = dashboard()
+        const legend = ViewSearch.visibleItems(view, item => item.objectName === "legendEntry")
+        compare(legend.length, 8)
+        const treemap = ViewSearch.named(view, "categoryTreemapCells")
+        compare(cellLabels(view).length, 12)
+        // Cells are laid out again whenever the card's size changes, so they are looked up anew.
+        const clickCell = row => {
+            const label = cellLabels(view).find(item => item.index === row)
+            mouseClick(treemap, label.x + label.width / 2, label.y + label.height / 2)
+        }
+
+        clickCenter(legend[1])
+        compare(view.categorySelection.category, legend[1].category)
+        verify(ViewSearch.named(view, "clearCategoryButton"))
+        const dimmed = () => ViewSearch.visibleItems(view, item => item.objectName === "categoryBar")
+                       .filter(bar => bar.opacity < 0.5)
+        tryVerify(() => dimmed().length === 11)
+
+        // A click on another cell moves the selection, on the selected one clears it.
+        clickCell(0)
+        compare(view.categorySelection.category, legend[0].category)
+        compare(treemap.cells.count, 12)
+        clickCell(0)
+        compare(view.categorySelection.category, -1)
+        verify(!ViewSearch.named(view, "clearCategoryButton"))
+
+        clickCenter(legend[2])
+        clickCenter(ViewSearch.named(view, "clearCategoryButton"))
+        compare(view.categorySelection.category, -1)
+    }
+
+    function test_hoveringACellShowsItsDetails() {
+        const view = dashboard()
+        const treemap = ViewSearch.named(view, "categoryTreemapCells")
+        const label = cellLabels(view)[0]
+        verify(!ViewSearch.named(view, "treemapDetailsBar"))
+        mouseMove(treemap, label.x + label.width / 2, label.y + label.height / 2)
+        tryVerify(() => ViewSearch.named(view, "treemapDetailsBar") !== null)
+        const texts = ViewSearch.texts(ViewSearch.named(view, "treemapDetailsBar"))
+        verify(texts.indexOf(label.name) >= 0)
+        verify(texts.indexOf(label.share) >= 0)
+        compare(label.Accessible.name, label.name + " category")
+        saveScreenshot(view, "dashboard-treemap-hover")
+        mouseMove(treemap, -5, -5)
+    }
+
+    function test_extensionsShowAllAndLess() {
+        const view = dashboard()
+        const extensionRows = () => ViewSearch.withProperty(view, "fraction").length
+        compare(extensionRows(), 10)
+        verify(ViewSearch.shows(view, "+ 5 more extensions"))
+        const button = ViewSearch.named(view, "showAllExtensionsButton")
+        compare(button.text, "Show All")
+        clickCenter(button)
+        compare(extensionRows(), 15)
+        verify(!ViewSearch.named(view, "moreExtensionsFooter"))
+        compare(button.text, "Show Less")
+        saveScreenshot(view, "dashboard-extensions-all")
+        clickCenter(button)
+        compare(extensionRows(), 10)
+    }
+
+    function test_depthChartPicksBySlices() {
+        const view = dashboard()
+        const area = ViewSearch.named(view, "depthHoverArea")
+        verify(ViewSearch.shows(view, "20 levels"))
+        verify(ViewSearch.shows(view, "Peak at level 4"))
+        mouseMove(area, 0, area.height / 2)
+        tryVerify(() => ViewSearch.shows(view, "Level 0"))
+        mouseMove(area, area.width * 5.5 / 20, area.height / 2)
+        tryVerify(() => ViewSearch.shows(view, "Level 5"))
+        verify(!ViewSearch.named(view, "depthSummary"))
+        saveScreenshot(view, "dashboard-depth-hover")
+        mouseMove(area, -10, -10)
+        tryVerify(() => ViewSearch.named(view, "depthSummary") !== null)
+    }
+
+    function test_tableSortsSearchesSelectsAndActs() {
+        const view = dashboard()
+        const section = ViewSearch.withProperty(view, "isExpanded")[0]
+        const rows = section.rows
+        compare(rows.sortColumn, 1)
+        compare(rows.rowCount(), 100)
+
+        const headerCells = ViewSearch.withProperty(view, "sortable")
+        clickCenter(headerCells.find(cell => cell.display === "Name"))
+        compare(rows.sortColumn, 0)
+        clickCenter(headerCells.find(cell => cell.display === "Size"))
+        compare(rows.sortColumn, 1)
+        compare(rows.sortOrder, Qt.DescendingOrder)
+
+        const search = ViewSearch.named(view, "largestFilesSearch")
+        search.forceActiveFocus()
+        keyClick(Qt.Key_M)
+        keyClick(Qt.Key_P)
+        keyClick(Qt.Key_3)
+        compare(rows.searchText, "mp3")
+        verify(rows.rowCount() > 0 && rows.rowCount() < 100)
+
+        // The first column's cells of the rows shown, in row order; the table keeps cells of
+        // earlier rows in its pool.
+        const cells = () => {
+            const shown = []
+            for (const cell of ViewSearch.visibleItems(view, item => item.hasOwnProperty("folder") && item.column === 0))
+                if (cell.row < rows.rowCount() && !shown[cell.row])
+                    shown[cell.row] = cell
+            return shown
+        }
+        clickCenter(cells()[0])
+        clickCenter(cells()[1], Qt.ControlModifier)
+        compare(rows.selectedCount, 2)
+        verify(ViewSearch.named(view, "revealSelectedButton"))
+        saveScreenshot(view, "dashboard-table-search-selection")
+
+        // Collapsing keeps the search and the selection.
+        clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
+        verify(!ViewSearch.named(view, "largestFilesSearch"))
+        clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
+        compare(rows.searchText, "mp3")
+        compare(rows.selectedCount, 2)
+
+        clickCenter(ViewSearch.named(view, "revealSelectedButton"))
+        const selected = rows.selectedPaths
+        compare(Fixture.takeDesktopRequests(), selected.map(path => "reveal " + path))
+
+        keyClick(Qt.Key_C, Qt.ControlModifier)
+        compare(Fixture.takeDesktopRequests(), ["copy " + selected.join("\n")])
+
+        // Arrows move the selection, Enter reveals; a double-click reveals the row clicked.
+        keyClick(Qt.Key_Down)
+        compare(rows.selectedCount, 1)
+        keyClick(Qt.Key_Return)
+        compare(Fixture.takeDesktopRequests(), ["reveal " + rows.selectedPaths[0]])
+        mouseDoubleClickSequence(cells()[0])
+        compare(Fixture.takeDesktopRequests(), ["reveal " + rows.pathAt(0)])
+
+        // The context menu acts on the row it opened on.
+        const menu = ViewSearch.withProperty(view, "menuRow")[0]
+        for (const [itemName, verb] of [["revealMenuItem", "reveal"], ["copyPathMenuItem", "copy"],
+                                        ["openMenuItem", "open"]]) {
+            mouseClick(cells()[1], 10, 10, Qt.RightButton)
+            compare(menu.menuRow, 1)
+            const item = findChild(menu, itemName)
+            tryVerify(() => item.visible)
+            item.triggered()
+            item.menu.close()
+            compare(Fixture.takeDesktopRequests(), [verb + " " + rows.pathAt(1)])
+        }
+    }
+
+    function test_exportSheetResetsAndKeepsOpenOnFailure() {
+        const view = dashboard()
+        const sheet = view.exportSheet
+        clickCenter(ViewSearch.named(view, "exportToolbarButton"))
+        tryVerify(() => sheet.opened)
+        compare(sheet.exportFormat, 0)
+        sheet.exportFormat = 1
+        saveScreenshot(view, "dashboard-export-sheet")
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !sheet.visible)
+        sheet.open()
+        tryVerify(() => sheet.opened)
+        compare(sheet.exportFormat, 0)
+
+        // The parent of the destination is a file: the write fails even for root.
+        sheet.exportTo(Fixture.urlOf(Fixture.makeFile("not a folder") + "/analysis.json"))
+        verify(AppState.hasError)
+        verify(AppState.error.errorDescription.startsWith("Export failed: "))
+        compare(AppState.error.recoverySuggestion,
+                "Check if you have write permission to the selected location.")
+        verify(sheet.visible)
+        sheet.close()
+    }
+
+    function test_narrowWindowStacksTheCards() {
+        const view = dashboard()
+        view.width = 700
+        const grids = ViewSearch.withProperty(view, "columnSpacing")
+                      .filter(grid => grid.columns !== undefined && grid.rowSpacing === 16)
+        verify(grids.length >= 2)
+        for (const grid of grids)
+            compare(grid.columns, 1)
+    }
+}
