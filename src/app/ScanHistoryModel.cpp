@@ -2,6 +2,8 @@
 
 #include "RoleNames.h"
 
+#include <QSet>
+
 namespace tessarine {
 
 int ScanHistoryModel::rowCount(const QModelIndex& parent) const {
@@ -58,6 +60,28 @@ void ScanHistoryModel::removeAll(const QUuid& id) {
         endRemoveRows();
         emit countChanged();
     }
+}
+
+void ScanHistoryModel::sync(const QList<AnalysisResult>& latest) {
+    QSet<QUuid> latestIds;
+    for (const AnalysisResult& result : latest)
+        latestIds.insert(result.id);
+    for (int row = count() - 1; row >= 0; --row) {
+        if (!latestIds.contains(m_results.at(row).id))
+            removeAll(m_results.at(row).id);
+    }
+    for (int row = 0; row < latest.size(); ++row) {
+        if (row < count() && m_results.at(row).id == latest.at(row).id)
+            continue;
+        beginInsertRows({}, row, row);
+        m_results.insert(row, latest.at(row));
+        endInsertRows();
+        emit countChanged();
+    }
+    // Rows the two lists order differently (a scan whose date was edited) are left over at the
+    // end; only then is the whole list replaced.
+    if (count() != latest.size())
+        reset(latest);
 }
 
 } // namespace tessarine

@@ -41,6 +41,9 @@ public:
     void prepend(const AnalysisResult& result);
     // Removes every row showing the record with this id; the others keep their order.
     void removeAll(const QUuid& id);
+    // Becomes the given list (newest first) by removing and inserting rows, so that the rows
+    // both lists hold stay where they are and a view keeps its place.
+    void sync(const QList<AnalysisResult>& latest);
 
 signals:
     void countChanged();
