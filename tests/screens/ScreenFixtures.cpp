@@ -1,9 +1,11 @@
 #include "ScreenFixtures.h"
 
 #include "app/AppState.h"
+#include "storage/PersistenceService.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace tessarine {
 
@@ -34,9 +36,10 @@ PatternInsight insight(InsightType type, const char* title, qint64 affectedSize)
 
 } // namespace
 
-ScreenFixtures::ScreenFixtures(AppState& state, QObject* parent)
+ScreenFixtures::ScreenFixtures(AppState& state, PersistenceService& store, QObject* parent)
     : QObject(parent)
-    , m_state(state) {}
+    , m_state(state)
+    , m_store(store) {}
 
 void ScreenFixtures::fillHistory(int count) {
     QList<AnalysisResult> results;
@@ -45,7 +48,21 @@ void ScreenFixtures::fillHistory(int count) {
         result.scanDate = QDateTime::currentDateTimeUtc().addDays(n - count);
         results.append(std::move(result));
     }
+    // Disk and list agree, so that the application's reload after a change on disk keeps them.
+    const auto stored = m_store.loadAll();
+    if (const auto* results = std::get_if<QList<AnalysisResult>>(&stored))
+        for (const AnalysisResult& result : *results)
+            m_store.deleteResult(result);
+    for (const AnalysisResult& result : results)
+        m_store.save(result);
     m_state.scanHistory()->reset(results);
+}
+
+void ScreenFixtures::saveElsewhere(const QString& rootPath, double hoursAgo) {
+    AnalysisResult result = resultOf(rootPath);
+    result.scanDate = QDateTime::currentDateTimeUtc().addSecs(qint64(-hoursAgo * 3600));
+    result.totalSize += 400'000'000;
+    PersistenceService(QFileInfo(m_store.storagePath()).path()).save(result);
 }
 
 void ScreenFixtures::showProgress(const QString& currentPath) {

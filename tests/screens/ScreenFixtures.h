@@ -7,6 +7,7 @@
 namespace tessarine {
 
 class AppState;
+class PersistenceService;
 
 // Fixed data for the screens' QML tests: history entries, a progress snapshot, a result, and
 // real folders to scan, all put into the one application state the views read.
@@ -14,10 +15,14 @@ class ScreenFixtures : public QObject {
     Q_OBJECT
 
 public:
-    explicit ScreenFixtures(AppState& state, QObject* parent = nullptr);
+    ScreenFixtures(AppState& state, PersistenceService& store, QObject* parent = nullptr);
 
-    // Replaces the history with this many results, "Scan <n>" newest first.
+    // Replaces the history, on disk too, with this many results, "Scan <n>" newest first, a day
+    // apart.
     Q_INVOKABLE void fillHistory(int count);
+    // Saves a scan of the folder through a store of its own, as the command-line tool does while
+    // the application is open.
+    Q_INVOKABLE void saveElsewhere(const QString& rootPath, double hoursAgo);
     // A snapshot of a scan half done and 30 seconds old, at the given path.
     Q_INVOKABLE void showProgress(const QString& currentPath);
     Q_INVOKABLE void clearProgress();
@@ -32,6 +37,7 @@ public:
 
 private:
     AppState& m_state;
+    PersistenceService& m_store;
     QTemporaryDir m_folders;
 };
 

@@ -34,7 +34,7 @@ public slots:
         m_store = std::make_unique<PersistenceService>(m_history.path());
         m_state = std::make_unique<AppState>(*m_store);
         AppState::setSharedInstance(m_state.get());
-        m_fixtures = std::make_unique<ScreenFixtures>(*m_state);
+        m_fixtures = std::make_unique<ScreenFixtures>(*m_state, *m_store);
         qmlRegisterSingletonInstance("Tessarine.Fixtures", 1, 0, "Fixtures", m_fixtures.get());
     }
 
