@@ -194,13 +194,16 @@ private slots:
         list.setHistory(&history);
         QVERIFY(list.showsTrend());
         QCOMPARE(list.trend().folderPath, QString("/x/a"));
-        // The search narrows the chart, not whether the section shows.
+        // The search narrows the chart, not whether the section shows; the rows it keeps stay.
+        QSignalSpy resets(&list, &QAbstractItemModel::modelReset);
         list.setSearchText("b");
+        QCOMPARE(list.count(), 1);
+        QCOMPARE(resets.count(), 0);
         QVERIFY(list.showsTrend());
         QVERIFY(list.trend().isEmpty());
         list.setSearchText({});
 
-        const AnalysisResult first = list.rows().at(0), second = list.rows().at(1);
+        const AnalysisResult first = list.results().at(0), second = list.results().at(1);
         list.toggleSelection(first);
         list.toggleSelection(second);
         QVERIFY(list.canCompare());

@@ -36,7 +36,6 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    const std::vector<ChangeRow>& rows() const { return m_rows; }
     void setRows(std::vector<ChangeRow> rows);
 
 signals:

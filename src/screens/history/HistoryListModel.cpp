@@ -6,14 +6,10 @@
 
 namespace tessarine {
 
-int HistoryListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
 QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const AnalysisResult& result = m_rows.at(index.row());
+    const AnalysisResult& result = m_results.at(index.row());
     switch (static_cast<Role>(role)) {
     case ResultRole:
         return QVariant::fromValue(result);
@@ -116,20 +112,17 @@ QList<AnalysisResult> HistoryListModel::allScans() const {
 
 void HistoryListModel::refresh() {
     const QList<AnalysisResult> scans = allScans();
-    beginResetModel();
-    m_rows = filteredHistory(scans, m_searchText, m_sortOrder);
-    endResetModel();
-    emit countChanged();
+    syncRows(filteredHistory(scans, m_searchText, m_sortOrder));
     if (m_selection.keepOnly(scans))
         emit selectionChanged();
     m_showsTrend = historyHasTrend(scans);
-    m_trend = storageTrend(m_rows);
+    m_trend = storageTrend(m_results);
     emit trendChanged();
 }
 
 void HistoryListModel::refreshSelectedRoles() {
-    if (!m_rows.isEmpty())
-        emit dataChanged(index(0), index(rowCount() - 1), {SelectedRole});
+    if (count() > 0)
+        emit dataChanged(index(0), index(count() - 1), {SelectedRole});
 }
 
 } // namespace tessarine

@@ -5,7 +5,6 @@
 #include "StorageTrend.h"
 #include "app/ScanHistoryModel.h"
 
-#include <QAbstractListModel>
 #include <QPointer>
 #include <QtQml/qqmlregistration.h>
 
@@ -13,7 +12,7 @@ namespace tessarine {
 
 // The history screen's list: the application's history searched, sorted and with its selection,
 // and what the trend section charts. Follows the history as scans are added and deleted.
-class HistoryListModel : public QAbstractListModel {
+class HistoryListModel : public ResultListModel {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(
@@ -22,7 +21,6 @@ class HistoryListModel : public QAbstractListModel {
     Q_PROPERTY(tessarine::HistoryOrder::SortOrder sortOrder READ sortOrder WRITE setSortOrder NOTIFY
                    sortOrderChanged)
     Q_PROPERTY(QStringList sortOrderLabels READ sortOrderLabels CONSTANT)
-    Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(bool canCompare READ canCompare NOTIFY selectionChanged)
     Q_PROPERTY(tessarine::AnalysisResult comparedFirst READ comparedFirst NOTIFY selectionChanged)
@@ -42,9 +40,8 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using ResultListModel::ResultListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
@@ -61,7 +58,6 @@ public:
     AnalysisResult comparedSecond() const;
     bool showsTrend() const { return m_showsTrend; }
     const TrendSeries& trend() const { return m_trend; }
-    const QList<AnalysisResult>& rows() const { return m_rows; }
 
     Q_INVOKABLE void toggleSelection(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearSelection();
@@ -72,7 +68,6 @@ signals:
     void historyChanged();
     void searchTextChanged();
     void sortOrderChanged();
-    void countChanged();
     void selectionChanged();
     void trendChanged();
 
@@ -85,7 +80,6 @@ private:
     QString m_searchText;
     HistorySortOrder m_sortOrder = HistoryOrder::DateDescending;
     ScanSelection m_selection;
-    QList<AnalysisResult> m_rows;
     bool m_showsTrend = false;
     TrendSeries m_trend;
 };

@@ -17,6 +17,10 @@ Rectangle {
     required property date scanDate
     required property bool selected
 
+    // Asks for the context menu, which the list shares among its cards: one menu per card would
+    // make every card several times as costly to create.
+    signal menuRequested(analysisResult result, bool selected)
+
     implicitHeight: 72
     radius: Theme.radiusCard
     color: area.containsMouse ? "#FAFAFC" : Theme.controlBackground
@@ -30,7 +34,7 @@ Rectangle {
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                menu.popup()
+                card.menuRequested(card.result, card.selected)
             else
                 AppState.openResult(card.result)
         }
@@ -140,28 +144,5 @@ Rectangle {
         symbol: "chevron.right"
         size: 14
         color: Theme.tertiary
-    }
-
-    Menu {
-        id: menu
-        objectName: "scanMenu"
-
-        SymbolMenuItem {
-            text: "View Details"
-            symbol: "eye"
-            onTriggered: AppState.openResult(card.result)
-        }
-        SymbolMenuItem {
-            text: card.selected ? "Deselect" : "Select"
-            symbol: card.selected ? "checkmark.circle" : "circle"
-            onTriggered: card.scans.toggleSelection(card.result)
-        }
-        MenuSeparator {}
-        SymbolMenuItem {
-            text: "Delete"
-            symbol: "trash"
-            destructive: true
-            onTriggered: AppState.deleteScan(card.result)
-        }
     }
 }

@@ -50,7 +50,6 @@ Rectangle {
             spacing: Theme.spacingMedium
             model: historyScans
             boundsBehavior: Flickable.StopAtBounds
-            reuseItems: true
             ScrollBar.vertical: ScrollBar {}
 
             header: Item {
@@ -67,7 +66,23 @@ Rectangle {
             delegate: HistoryScanCard {
                 width: list.width
                 scans: historyScans
+                onMenuRequested: (result, selected) => scanMenu.openFor(result, selected)
             }
+        }
+    }
+
+    // Made on the first right-click: a menu costs more to create than the rest of the screen.
+    Loader {
+        id: scanMenu
+
+        function openFor(result, selected) {
+            active = true
+            item.openFor(result, selected)
+        }
+
+        active: false
+        sourceComponent: ScanContextMenu {
+            scans: historyScans
         }
     }
 
