@@ -13,6 +13,7 @@ cli=$build/tools/tessarine-cli
 generator=$build/bench/generate-tree
 responsiveness=$build/bench/responsiveness/tessarine-responsiveness
 treemap=$build/bench/treemap/tessarine-treemap-bench
+history=$build/bench/history/tessarine-history-bench
 cache=/var/tmp/tessarine-bench
 tree=$cache/tree
 work=$(mktemp -d)
@@ -140,4 +141,10 @@ if [[ -x $treemap ]]; then
     echo
     echo "Drawing a folder treemap level of 5,000 folders (software renderer, offscreen):"
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$treemap"
+fi
+
+if [[ -x $history ]]; then
+    echo
+    echo "Starting over a history of 1,000 scans, scrolling and searching it (software renderer, offscreen):"
+    "$history"
 fi

@@ -1,15 +1,14 @@
 #include "charts/NestedTreemap.h"
 #include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
+#include "frames/FrameCost.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QQuickWindow>
 #include <QTextStream>
-#include <QTimer>
 
 #include <algorithm>
 #include <cmath>
@@ -44,32 +43,6 @@ FolderInfo sampleLevel() {
         root.childFolders.push_back(std::move(child));
     }
     return root;
-}
-
-// The milliseconds the window spends on its next frame after change: handling the change, then
-// synchronising the scene (where the item paints) and rendering it. Waiting for the render loop's
-// next tick is left out, as it is no work.
-double nextFrameCost(QQuickWindow& window, const std::function<void()>& change) {
-    QElapsedTimer clock;
-    qint64 frameStart = 0;
-    qint64 frameEnd = 0;
-    QEventLoop loop;
-    const auto started = QObject::connect(
-        &window, &QQuickWindow::beforeSynchronizing, &window,
-        [&] { frameStart = clock.nsecsElapsed(); }, Qt::DirectConnection);
-    const auto swapped = QObject::connect(&window, &QQuickWindow::frameSwapped, &loop, [&] {
-        frameEnd = clock.nsecsElapsed();
-        loop.quit();
-    });
-    QTimer::singleShot(5'000, &loop, &QEventLoop::quit);
-    clock.start();
-    change();
-    const qint64 handled = clock.nsecsElapsed();
-    window.update();
-    loop.exec();
-    QObject::disconnect(started);
-    QObject::disconnect(swapped);
-    return static_cast<double>(handled + frameEnd - frameStart) / 1e6;
 }
 
 } // namespace
