@@ -1,11 +1,40 @@
 #include "ResultListModel.h"
 
+#include "RoleNames.h"
+
 #include <QSet>
 
 namespace tessarine {
 
 int ResultListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : count();
+}
+
+QVariant ResultListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const AnalysisResult& result = m_results.at(index.row());
+    switch (static_cast<Role>(role)) {
+    case ResultRole:
+        return QVariant::fromValue(result);
+    case RootNameRole:
+        return result.rootName;
+    case RootPathRole:
+        return result.rootPath;
+    case FolderNameRole:
+        return result.folderName();
+    case TotalSizeRole:
+        return result.totalSize;
+    case FileCountRole:
+        return result.fileCount;
+    case ScanDateRole:
+        return result.scanDate;
+    }
+    return {};
+}
+
+QHash<int, QByteArray> ResultListModel::roleNames() const {
+    return roleNamesOf<Role>();
 }
 
 void ResultListModel::resetRows(QList<AnalysisResult> results) {

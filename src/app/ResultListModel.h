@@ -17,9 +17,22 @@ class ResultListModel : public QAbstractListModel {
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
+    enum Role {
+        ResultRole = Qt::UserRole + 1,
+        RootNameRole,
+        RootPathRole,
+        FolderNameRole,
+        TotalSizeRole,
+        FileCountRole,
+        ScanDateRole, // a list's roles of its own follow this one
+    };
+    Q_ENUM(Role)
+
     using QAbstractListModel::QAbstractListModel;
 
     int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
     int count() const { return static_cast<int>(m_results.size()); }
     const QList<AnalysisResult>& results() const { return m_results; }
 

@@ -14,21 +14,7 @@ class ScanHistoryModel : public ResultListModel {
     QML_UNCREATABLE("The scan history belongs to AppState")
 
 public:
-    enum Role {
-        ResultRole = Qt::UserRole + 1,
-        RootNameRole,
-        RootPathRole,
-        FolderNameRole,
-        TotalSizeRole,
-        FileCountRole,
-        ScanDateRole,
-    };
-    Q_ENUM(Role)
-
     using ResultListModel::ResultListModel;
-
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
     void reset(QList<AnalysisResult> results);
     void prepend(const AnalysisResult& result);

@@ -7,30 +7,17 @@
 namespace tessarine {
 
 QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
+    if (role != SelectedRole)
+        return ResultListModel::data(index, role);
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const AnalysisResult& result = m_results.at(index.row());
-    switch (static_cast<Role>(role)) {
-    case ResultRole:
-        return QVariant::fromValue(result);
-    case RootNameRole:
-        return result.rootName;
-    case RootPathRole:
-        return result.rootPath;
-    case TotalSizeRole:
-        return result.totalSize;
-    case FileCountRole:
-        return result.fileCount;
-    case ScanDateRole:
-        return result.scanDate;
-    case SelectedRole:
-        return m_selection.contains(result.id);
-    }
-    return {};
+    return m_selection.contains(m_results.at(index.row()).id);
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
-    return roleNamesOf<Role>();
+    QHash<int, QByteArray> names = ResultListModel::roleNames();
+    names.insert(roleNamesOf<OwnRole>());
+    return names;
 }
 
 void HistoryListModel::setHistory(ScanHistoryModel* history) {

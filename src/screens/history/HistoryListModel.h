@@ -29,16 +29,8 @@ class HistoryListModel : public ResultListModel {
     Q_PROPERTY(tessarine::TrendSeries trend READ trend NOTIFY trendChanged)
 
 public:
-    enum Role {
-        ResultRole = Qt::UserRole + 1,
-        RootNameRole,
-        RootPathRole,
-        TotalSizeRole,
-        FileCountRole,
-        ScanDateRole,
-        SelectedRole,
-    };
-    Q_ENUM(Role)
+    enum OwnRole { SelectedRole = ScanDateRole + 1 };
+    Q_ENUM(OwnRole)
 
     using ResultListModel::ResultListModel;
 
