@@ -25,6 +25,14 @@ RowLayout {
         currentIndex: bar.scans.sortOrder
         font: Theme.body
         onActivated: index => bar.scans.sortOrder = index
+        // A quiet control like the buttons beside it, not a grey slab.
+        background: Rectangle {
+            implicitHeight: 28
+            radius: Theme.radiusSmall
+            color: Theme.controlBackground
+            border.width: 1
+            border.color: Theme.withOpacity(Theme.primary, 0.16)
+        }
     }
 
     Item {
