@@ -31,9 +31,13 @@ Dialog {
         contentHeight: content.implicitHeight
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        focus: true
-        Keys.onReturnPressed: sheet.close()
-        Keys.onEnterPressed: sheet.close()
+
+        // "Done" is the default action: Return dismisses the sheet wherever the focus is.
+        Shortcut {
+            sequences: ["Return", "Enter"]
+            enabled: sheet.opened
+            onActivated: sheet.close()
+        }
         ScrollBar.vertical: ScrollBar {}
 
         ColumnLayout {

@@ -77,4 +77,23 @@ ScreenTestCase {
         tryVerify(() => cards(view).length === 1)
         verify(!ViewSearch.named(view, "deleteButton"))
     }
+
+    // Picked newest first, the older scan is still "Before"; Return dismisses the sheet.
+    function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
+        Fixtures.fillHistory(2)
+        const view = createTemporaryObject(historyComponent, testCase)
+        tryVerify(() => cards(view).length === 2)
+        for (const circle of ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle"))
+            mouseClick(circle)
+        tryVerify(() => ViewSearch.named(view, "compareButton"))
+        waitForRendering(view)
+        mouseClick(ViewSearch.named(view, "compareButton"))
+        const sheet = findChild(view, "comparisonSheet")
+        tryVerify(() => sheet.opened)
+        const texts = ViewSearch.texts(sheet.contentItem)
+        verify(texts.indexOf("Scan 1") < texts.indexOf("Scan 2"))
+        compare(texts[texts.indexOf("Before") + 1], "Scan 1")
+        keyClick(Qt.Key_Return)
+        tryVerify(() => !sheet.visible)
+    }
 }
