@@ -16,6 +16,7 @@ responsiveness=$build/bench/responsiveness/tessarine-responsiveness
 treemap=$build/bench/treemap/tessarine-treemap-bench
 folders=$build/bench/treemap/tessarine-folder-analysis-bench
 dashboard=$build/bench/dashboard/tessarine-dashboard-bench
+history=$build/bench/history/tessarine-history-bench
 cache=/var/tmp/tessarine-bench
 tree=$cache/tree
 work=$(mktemp -d)
@@ -152,8 +153,16 @@ if [[ -x $folders ]]; then
     grep -v '^build-seconds' "$work/folders"
     section_vs_cli=$(ratio "$(awk '/^build-seconds/ { print $2 }' "$work/folders")" "$wall_tree")
     echo "$(verdict "$section_vs_cli" 1.1)  section build <= 1.1 x tessarine-cli tree ($section_vs_cli)"
+fi
+
 if [[ -x $dashboard ]]; then
     echo
     echo "Opening the dashboard (software renderer, offscreen):"
     QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$dashboard"
+fi
+
+if [[ -x $history ]]; then
+    echo
+    echo "Starting over a history of 1,000 scans, scrolling and searching it (software renderer, offscreen):"
+    "$history"
 fi

@@ -1,7 +1,7 @@
-#include "FrameCost.h"
 #include "app/FolderTreeController.h"
 #include "charts/FolderTreemapModel.h"
 #include "charts/TreemapCells.h"
+#include "frames/FrameCost.h"
 
 #include <QDir>
 #include <QElapsedTimer>

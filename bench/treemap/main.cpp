@@ -1,7 +1,7 @@
-#include "FrameCost.h"
 #include "charts/NestedTreemap.h"
 #include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
+#include "frames/FrameCost.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>

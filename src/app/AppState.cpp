@@ -19,6 +19,10 @@ namespace {
 // would flood the interface thread.
 constexpr auto progressWatchInterval = std::chrono::milliseconds(120);
 
+// Long enough for a save's temporary file and rename to arrive as one change, short enough that
+// a scan saved by the command-line tool appears while the user still looks.
+constexpr auto historySettleInterval = std::chrono::milliseconds(150);
+
 AppState* sharedInstance = nullptr;
 
 // Assigns the value when it differs, and says whether it did: assigning an equal value must not
@@ -43,6 +47,13 @@ AppState::AppState(PersistenceService& store, QObject* parent)
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
     loadHistory();
+    m_historyReload.setSingleShot(true);
+    m_historyReload.setInterval(historySettleInterval);
+    connect(&m_historyReload, &QTimer::timeout, this, &AppState::reloadHistory);
+    connect(&m_historyWatcher, &QFileSystemWatcher::directoryChanged, &m_historyReload,
+            qOverload<>(&QTimer::start));
+    if (!m_store.directoryError())
+        m_historyWatcher.addPath(m_store.storagePath());
 }
 
 AppState::~AppState() {
@@ -105,13 +116,23 @@ void AppState::waitForWorkers() {
 }
 
 void AppState::loadHistory() {
+    m_scanHistory.reset(loadStoredResults().value_or(QList<AnalysisResult>{}));
+}
+
+void AppState::reloadHistory() {
+    if (auto latest = loadStoredResults())
+        m_scanHistory.sync(*latest);
+}
+
+std::optional<QList<AnalysisResult>> AppState::loadStoredResults() {
     auto loaded = m_store.loadAll();
     if (const auto* failure = std::get_if<StorageError>(&loaded)) {
-        setError(AppError::loadFailed(failure->errorDescription()));
-        m_scanHistory.reset({});
-        return;
+        if (!std::exchange(m_loadFailureShown, true))
+            setError(AppError::loadFailed(failure->errorDescription()));
+        return std::nullopt;
     }
-    m_scanHistory.reset(std::move(std::get<QList<AnalysisResult>>(loaded)));
+    m_loadFailureShown = false;
+    return std::move(std::get<QList<AnalysisResult>>(loaded));
 }
 
 void AppState::startScan(const QUrl& folder) {

@@ -7,6 +7,7 @@
 
 #include "model/CancelToken.h"
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -119,6 +120,12 @@ private:
     using TaskId = quint64;
 
     void loadHistory();
+    // Takes in what changed on disk since the last load: scans saved by the command-line tool,
+    // history files deleted outside the application.
+    void reloadHistory();
+    // The stored results, or nothing after raising the load alert; the alert is raised once for
+    // a folder that stays unreadable, not at every change the watcher reports.
+    std::optional<QList<AnalysisResult>> loadStoredResults();
     void saveResult(const AnalysisResult& result);
     void setIsScanning(bool scanning);
     void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath);
@@ -152,6 +159,12 @@ private:
     QTimer m_progressWatcher;
     std::shared_ptr<FileSystemScanner> m_watchedScanner;
     QThreadPool m_workers;
+
+    // A save makes a few changes in a row (a temporary file, then its rename): they are taken in
+    // with one reload once they settle.
+    QFileSystemWatcher m_historyWatcher;
+    QTimer m_historyReload;
+    bool m_loadFailureShown = false;
 };
 
 } // namespace tessarine

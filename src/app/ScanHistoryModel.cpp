@@ -1,62 +1,19 @@
 #include "ScanHistoryModel.h"
 
-#include "RoleNames.h"
-
 namespace tessarine {
 
-int ScanHistoryModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant ScanHistoryModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const AnalysisResult& result = m_results.at(index.row());
-    switch (static_cast<Role>(role)) {
-    case ResultRole:
-        return QVariant::fromValue(result);
-    case RootNameRole:
-        return result.rootName;
-    case RootPathRole:
-        return result.rootPath;
-    case FolderNameRole:
-        return result.folderName();
-    case TotalSizeRole:
-        return result.totalSize;
-    case FileCountRole:
-        return result.fileCount;
-    case ScanDateRole:
-        return result.scanDate;
-    }
-    return {};
-}
-
-QHash<int, QByteArray> ScanHistoryModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void ScanHistoryModel::reset(QList<AnalysisResult> results) {
-    beginResetModel();
-    m_results = std::move(results);
-    endResetModel();
-    emit countChanged();
+    resetRows(std::move(results));
 }
 
 void ScanHistoryModel::prepend(const AnalysisResult& result) {
-    beginInsertRows({}, 0, 0);
-    m_results.prepend(result);
-    endInsertRows();
-    emit countChanged();
+    insertRow(0, result);
 }
 
 void ScanHistoryModel::removeAll(const QUuid& id) {
     for (int row = count() - 1; row >= 0; --row) {
-        if (m_results.at(row).id != id)
-            continue;
-        beginRemoveRows({}, row, row);
-        m_results.removeAt(row);
-        endRemoveRows();
-        emit countChanged();
+        if (m_results.at(row).id == id)
+            removeRowAt(row);
     }
 }
 

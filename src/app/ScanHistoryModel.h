@@ -1,52 +1,27 @@
 #pragma once
 
-#include "model/Records.h"
+#include "ResultListModel.h"
 
-#include <QAbstractListModel>
-#include <QList>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
 // The stored results, newest first, as the sidebar, the landing strip and the history list see
 // them. Changed only by the application state.
-class ScanHistoryModel : public QAbstractListModel {
+class ScanHistoryModel : public ResultListModel {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("The scan history belongs to AppState")
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
-    enum Role {
-        ResultRole = Qt::UserRole + 1,
-        RootNameRole,
-        RootPathRole,
-        FolderNameRole,
-        TotalSizeRole,
-        FileCountRole,
-        ScanDateRole,
-    };
-    Q_ENUM(Role)
-
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
-    int count() const { return static_cast<int>(m_results.size()); }
-    const QList<AnalysisResult>& results() const { return m_results; }
+    using ResultListModel::ResultListModel;
 
     void reset(QList<AnalysisResult> results);
     void prepend(const AnalysisResult& result);
     // Removes every row showing the record with this id; the others keep their order.
     void removeAll(const QUuid& id);
-
-signals:
-    void countChanged();
-
-private:
-    QList<AnalysisResult> m_results;
+    // Becomes the given list (newest first), keeping the rows both hold where they are.
+    void sync(const QList<AnalysisResult>& latest) { syncRows(latest); }
 };
 
 } // namespace tessarine

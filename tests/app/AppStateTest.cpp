@@ -232,6 +232,33 @@ private slots:
         QCOMPARE(state.scanHistory()->results(), (QList{recent, old}));
         QCOMPARE(state.currentView(), AppState::Landing);
     }
+
+    // Another process (tessarine-cli scan --save) writes through a store of its own.
+    void historyFollowsTheFolderOnDisk() {
+        QTemporaryDir home;
+        PersistenceService store(home.path());
+        const AnalysisResult old =
+            storedResult(QStringLiteral("/a/old"), QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
+        QVERIFY(!store.save(old));
+        AppState state(store);
+        ScanHistoryModel& history = *state.scanHistory();
+        QSignalSpy removals(&history, &QAbstractItemModel::rowsRemoved);
+
+        PersistenceService otherProcess(home.path());
+        const AnalysisResult saved =
+            storedResult(QStringLiteral("/a/new"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
+        QVERIFY(!otherProcess.save(saved));
+        QTRY_COMPARE(history.results(), (QList{saved, old}));
+        // The row already listed was kept, not removed and listed again.
+        QCOMPARE(removals.count(), 0);
+
+        const QString brokenPath = store.historyFilePath(QUuid::createUuid());
+        testing::writeFile(brokenPath, 0);
+        QVERIFY(QFile::remove(store.historyFilePath(old.id)));
+        QTRY_COMPARE(history.results(), QList{saved});
+        QVERIFY(QFile::exists(brokenPath));
+        QVERIFY(!state.hasError());
+    }
 };
 
 QTEST_GUILESS_MAIN(AppStateTest)

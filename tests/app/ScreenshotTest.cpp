@@ -36,12 +36,28 @@ QQuickItem* itemNamed(QQuickItem* root, const QString& objectName) {
     return nullptr;
 }
 
+// Five scans of one folder a week apart as it grows, besides the sample history.
+void storeProjectsTrend(PersistenceService& store) {
+    const qint64 sizes[] = {41'000'000'000, 43'500'000'000, 42'800'000'000, 47'200'000'000,
+                            52'900'000'000};
+    for (int week = 0; week < 5; ++week) {
+        AnalysisResult scan = testing::sampleResult(
+            QStringLiteral("/Users/ann/Projects"),
+            QDateTime(QDate(2025, 4, 1).addDays(7 * week), QTime(9, 30), Qt::UTC));
+        scan.totalSize = sizes[week];
+        scan.fileCount += 1200 * week;
+        QVERIFY(!store.save(scan));
+    }
+}
+
 // The main window over a history of its own, for one picture.
 class Scene {
 public:
-    explicit Scene(int storedScans = 0)
+    explicit Scene(int storedScans = 0, bool withTrend = false)
         : m_store(m_home.path()) {
         testing::storeSampleHistory(m_store, storedScans);
+        if (withTrend)
+            storeProjectsTrend(m_store);
         m_state = std::make_unique<AppState>(m_store);
         AppState::setSharedInstance(m_state.get());
         prepareEngine(m_engine);
@@ -55,18 +71,25 @@ public:
                    : qobject_cast<QQuickWindow*>(m_engine.rootObjects().first());
     }
 
+    template <typename T = QObject> T* find(const QString& objectName) const {
+        return window() ? window()->findChild<T*>(objectName) : nullptr;
+    }
+
     // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png.
     // A picture of the pointer's hover is taken at once: the offscreen window forgets the
-    // pointer within a few frames.
+    // pointer within a few frames. A window of its own (the help window) is saved the same way.
     enum Timing { AfterTransitions, Immediately };
     void save(const QString& name, Timing timing = AfterTransitions) {
-        QVERIFY(window());
-        QVERIFY(QTest::qWaitForWindowExposed(window()));
+        save(name, window(), timing);
+    }
+    void save(const QString& name, QQuickWindow* shown, Timing timing = AfterTransitions) {
+        QVERIFY(shown);
+        QVERIFY(QTest::qWaitForWindowExposed(shown));
         if (timing == AfterTransitions)
             QTest::qWait(450);
         const QString folder = QStringLiteral(TESSARINE_SCREENSHOT_DIR);
         QVERIFY(QDir().mkpath(folder));
-        const QImage image = window()->grabWindow();
+        const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
         QVERIFY(image.save(folder + u'/' + name + QStringLiteral(".png")));
     }
@@ -349,6 +372,47 @@ private slots:
         // The end of the page, where the insights would be.
         QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
         scene.save(QStringLiteral("dashboard-no-insights"));
+    }
+
+    void history() {
+        Scene empty(0);
+        empty.state().setCurrentView(AppState::History);
+        empty.save(QStringLiteral("history-empty"));
+
+        Scene scene(5, true);
+        scene.state().setCurrentView(AppState::History);
+        scene.save(QStringLiteral("history-trend"));
+
+        auto* scans = scene.find(QStringLiteral("historyScans"));
+        QVERIFY(scans);
+        scans->setProperty("searchText", QStringLiteral("Project 2"));
+        scene.save(QStringLiteral("history-search-hides-trend"));
+        scans->setProperty("searchText", QString());
+
+        const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
+        for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
+            QMetaObject::invokeMethod(scans, "toggleSelection",
+                                      Q_ARG(tessarine::AnalysisResult, picked));
+        scene.save(QStringLiteral("history-selected"));
+        QMetaObject::invokeMethod(scene.find(QStringLiteral("deleteConfirmation")), "open");
+        scene.save(QStringLiteral("history-delete-confirmation"));
+        QMetaObject::invokeMethod(scene.find(QStringLiteral("deleteConfirmation")), "close");
+        QMetaObject::invokeMethod(scene.find(QStringLiteral("comparisonSheet")), "open");
+        scene.save(QStringLiteral("history-comparison"));
+    }
+
+    void help() {
+        Scene scene;
+        auto* help = scene.find<QQuickWindow>(QStringLiteral("helpWindow"));
+        QVERIFY(help);
+        QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
+        help->show();
+        auto* sidebar = help->findChild<QObject*>(QStringLiteral("helpSidebar"));
+        QVERIFY(sidebar);
+        for (int section = 0; section < 7; ++section) {
+            sidebar->setProperty("currentIndex", section);
+            scene.save(QStringLiteral("help-%1").arg(section + 1), help);
+        }
     }
 
     void errorAlert() {

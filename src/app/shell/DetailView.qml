@@ -57,6 +57,6 @@ Loader {
 
     Component {
         id: history
-        HistoryListView {}
+        HistoryView {}
     }
 }

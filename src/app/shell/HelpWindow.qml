@@ -1,5 +1,6 @@
 import QtQuick
 import Tessarine.App
+import Tessarine.Screens
 
 // The help window, opened from the Help menu and independent of the main window.
 Window {
@@ -16,10 +17,7 @@ Window {
     height: 650
     color: Theme.windowBackground
 
-    ScreenPlaceholder {
+    HelpView {
         anchors.fill: parent
-        symbol: "info.circle.fill"
-        title: help.title
-        subtitle: "Guides to scanning, the dashboard and the history"
     }
 }

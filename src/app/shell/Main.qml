@@ -33,5 +33,6 @@ ApplicationWindow {
 
     HelpWindow {
         id: helpWindow
+        objectName: "helpWindow"
     }
 }

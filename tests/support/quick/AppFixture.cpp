@@ -132,7 +132,21 @@ void AppFixture::fillHistory(int count) {
         result.scanDate = QDateTime::currentDateTimeUtc().addDays(n - count);
         results.append(std::move(result));
     }
+    // Disk and list agree, so that the application's reload after a change on disk keeps them.
+    const auto stored = m_store->loadAll();
+    if (const auto* storedResults = std::get_if<QList<AnalysisResult>>(&stored))
+        for (const AnalysisResult& result : *storedResults)
+            m_store->deleteResult(result);
+    for (const AnalysisResult& result : results)
+        m_store->save(result);
     m_state->scanHistory()->reset(results);
+}
+
+void AppFixture::saveElsewhere(const QString& rootPath, double hoursAgo) {
+    AnalysisResult result = resultOf(rootPath);
+    result.scanDate = QDateTime::currentDateTimeUtc().addSecs(qint64(-hoursAgo * 3600));
+    result.totalSize += 400'000'000;
+    PersistenceService(QFileInfo(m_store->storagePath()).path()).save(result);
 }
 
 void AppFixture::showProgress(const QString& currentPath) {

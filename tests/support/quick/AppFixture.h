@@ -52,8 +52,12 @@ public:
     // seven.
     Q_INVOKABLE void forgetFolderScans();
 
-    // Replaces the history list with this many results, "Scan <n>" newest first (not stored).
+    // Replaces the history, on disk too, with this many results, "Scan <n>" newest first, a day
+    // apart.
     Q_INVOKABLE void fillHistory(int count);
+    // Saves a scan of the folder through a store of its own, as the command-line tool does while
+    // the application is open.
+    Q_INVOKABLE void saveElsewhere(const QString& rootPath, double hoursAgo);
     // A snapshot of a scan half done and 30 seconds old, at the given path.
     Q_INVOKABLE void showProgress(const QString& currentPath);
     Q_INVOKABLE void clearProgress();

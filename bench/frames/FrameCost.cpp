@@ -1,4 +1,4 @@
-#include "FrameCost.h"
+#include "frames/FrameCost.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

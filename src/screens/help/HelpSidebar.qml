@@ -1,0 +1,87 @@
+import QtQuick
+import Tessarine.App
+import Tessarine.Screens
+
+// The help's table of contents, with the application's name and version at the bottom.
+Rectangle {
+    id: sidebar
+
+    required property var sections
+    property int currentIndex: 0
+
+    color: Theme.sidebarBackground
+
+    Column {
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.margins: Theme.spacingMedium
+        spacing: 2
+
+        Text {
+            leftPadding: Theme.spacingSmall
+            bottomPadding: Theme.spacingMedium
+            topPadding: Theme.spacingSmall
+            text: "Tessarine Help"
+            font: Theme.weighted(Theme.title2, Font.Bold)
+            color: Theme.primary
+        }
+
+        Repeater {
+            objectName: "helpSectionRows"
+            model: sidebar.sections
+            delegate: Rectangle {
+                id: row
+                required property var modelData
+                required property int index
+                readonly property bool current: index === sidebar.currentIndex
+                objectName: "helpSection_" + index
+                width: parent.width
+                height: 30
+                radius: 6
+                color: current ? Theme.withOpacity(Theme.accent, 0.15) : "transparent"
+
+                Row {
+                    anchors.left: parent.left
+                    anchors.leftMargin: Theme.spacingSmall
+                    anchors.verticalCenter: parent.verticalCenter
+                    spacing: Theme.spacingSmall
+                    Icon {
+                        anchors.verticalCenter: parent.verticalCenter
+                        symbol: row.modelData.symbol
+                        color: Theme.accent
+                    }
+                    Text {
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: row.modelData.title
+                        font: Theme.body
+                        color: Theme.primary
+                    }
+                }
+
+                MouseArea {
+                    anchors.fill: parent
+                    onClicked: sidebar.currentIndex = row.index
+                }
+            }
+        }
+    }
+
+    Column {
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.margins: Theme.spacingLarge
+        spacing: 2
+        Text {
+            text: "Tessarine"
+            font: Theme.weighted(Theme.caption, Font.Medium)
+            color: Theme.primary
+        }
+        Text {
+            objectName: "versionLine"
+            text: "Version " + AppVersion.text
+            font: Theme.extraSmall
+            color: Theme.secondary
+        }
+    }
+}

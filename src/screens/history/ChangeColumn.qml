@@ -1,0 +1,40 @@
+import QtQuick
+import Tessarine.App
+import Tessarine.Screens
+
+// The differences between the two scans' totals, each level with its row.
+Column {
+    id: column
+
+    property ChangeListModel rows
+    property real headerHeight: 56
+    property real rowHeight: 40
+
+    Item {
+        width: 1
+        height: column.headerHeight
+    }
+
+    Repeater {
+        model: column.rows
+        // Under an empty caption line, so that each change sits level with the values beside it.
+        delegate: Column {
+            id: row
+            required property string changeText
+            required property string symbol
+            required property string color
+            width: column.width
+            height: column.rowHeight
+            Text {
+                text: " "
+                font: Theme.caption
+            }
+            ChangeText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                changeText: row.changeText
+                symbol: row.symbol
+                color: row.color
+            }
+        }
+    }
+}

@@ -1,0 +1,61 @@
+import QtQuick
+import Tessarine.App
+import Tessarine.Screens
+
+// One side of the comparison: which scan, then its four totals, row by row beside the changes.
+Column {
+    id: column
+
+    property string label
+    property analysisResult result
+    property ChangeListModel rows
+    property real headerHeight: 56
+    property real rowHeight: 40
+    property bool showsAfter: false
+
+    spacing: 0
+
+    Column {
+        height: column.headerHeight
+        width: parent.width
+        spacing: 2
+        Text {
+            text: column.label
+            font: Theme.caption
+            color: Theme.secondary
+        }
+        Text {
+            width: parent.width
+            text: column.result.rootName
+            font: Theme.headline
+            color: Theme.primary
+            elide: Text.ElideRight
+        }
+        Text {
+            text: Format.absoluteDate(column.result.scanDate)
+            font: Theme.caption
+            color: Theme.secondary
+        }
+    }
+
+    Repeater {
+        model: column.rows
+        delegate: Column {
+            required property string title
+            required property string beforeText
+            required property string afterText
+            height: column.rowHeight
+            width: column.width
+            Text {
+                text: parent.title
+                font: Theme.caption
+                color: Theme.secondary
+            }
+            Text {
+                text: column.showsAfter ? parent.afterText : parent.beforeText
+                font: Theme.weighted(Theme.body, Font.Medium)
+                color: Theme.primary
+            }
+        }
+    }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// Two scans side by side, the earlier as "Before": their totals with the change of each, then
+// the categories that grew or shrank and the largest files that came or went.
+Dialog {
+    id: sheet
+
+    property alias first: comparison.first
+    property alias second: comparison.second
+
+    objectName: "comparisonSheet"
+    modal: true
+    anchors.centerIn: Overlay.overlay
+    width: Math.min(680, parent ? parent.width - 40 : 680)
+    height: Math.min(implicitHeight, parent ? parent.height - 40 : implicitHeight)
+    padding: Theme.spacingSection
+    header: null
+    closePolicy: Popup.CloseOnEscape
+    focus: true
+
+    ComparisonModel {
+        id: comparison
+    }
+
+    contentItem: Flickable {
+        implicitHeight: content.implicitHeight
+        contentHeight: content.implicitHeight
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        // "Done" is the default action: Return dismisses the sheet wherever the focus is.
+        Shortcut {
+            sequences: ["Return", "Enter"]
+            enabled: sheet.opened
+            onActivated: sheet.close()
+        }
+        ScrollBar.vertical: ScrollBar {}
+
+        ColumnLayout {
+            id: content
+            width: parent.width
+            spacing: Theme.spacingLarge
+
+            RowLayout {
+                Layout.fillWidth: true
+                Text {
+                    Layout.fillWidth: true
+                    text: "Comparison"
+                    font: Theme.weighted(Theme.title2, Font.Bold)
+                    color: Theme.primary
+                }
+                ProminentButton {
+                    objectName: "doneButton"
+                    text: "Done"
+                    onClicked: sheet.close()
+                }
+            }
+
+            RowLayout {
+                Layout.fillWidth: true
+                spacing: Theme.spacingLarge
+
+                ComparedScanColumn {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    label: "Before"
+                    result: comparison.before
+                    rows: comparison.totals
+                    showsAfter: false
+                }
+                ChangeColumn {
+                    Layout.preferredWidth: 120
+                    rows: comparison.totals
+                }
+                ComparedScanColumn {
+                    Layout.fillWidth: true
+                    Layout.preferredWidth: 1
+                    label: "After"
+                    result: comparison.after
+                    rows: comparison.totals
+                    showsAfter: true
+                }
+            }
+
+            ChangeList {
+                Layout.fillWidth: true
+                title: "Categories"
+                rows: comparison.categories
+            }
+
+            ChangeList {
+                Layout.fillWidth: true
+                title: "Files Added or Removed"
+                rows: comparison.files
+            }
+        }
+    }
+
+    background: Rectangle {
+        radius: Theme.radiusCard
+        color: Theme.controlBackground
+        border.width: 1
+        border.color: Theme.separator
+    }
+}

@@ -1,0 +1,148 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import Tessarine.App
+import Tessarine.Screens
+
+// One saved scan: its selection circle, folder, date and size. A click opens it on the
+// dashboard; the circle and the context menu select it.
+Rectangle {
+    id: card
+
+    required property HistoryListModel scans
+    required property analysisResult result
+    required property string rootName
+    required property string rootPath
+    required property double totalSize
+    required property double fileCount
+    required property date scanDate
+    required property bool selected
+
+    // Asks for the context menu, which the list shares among its cards: one menu per card would
+    // make every card several times as costly to create.
+    signal menuRequested(analysisResult result, bool selected)
+
+    implicitHeight: 72
+    radius: Theme.radiusCard
+    color: area.containsMouse ? "#FAFAFC" : Theme.controlBackground
+    border.width: selected ? 2 : 0
+    border.color: Theme.accent
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton)
+                card.menuRequested(card.result, card.selected)
+            else
+                AppState.openResult(card.result)
+        }
+    }
+
+    SelectionCircle {
+        id: circle
+        objectName: "selectionCircle"
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        selected: card.selected
+
+        MouseArea {
+            anchors.fill: parent
+            anchors.margins: -6
+            onClicked: card.scans.toggleSelection(card.result)
+        }
+    }
+
+    Rectangle {
+        id: tile
+        anchors.left: circle.right
+        anchors.leftMargin: Theme.spacingMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: 48
+        height: 48
+        radius: Theme.radiusButton
+        color: Theme.withOpacity(Theme.blue, 0.1)
+        Icon {
+            anchors.centerIn: parent
+            symbol: "folder.fill"
+            size: 22
+            color: Theme.blue
+        }
+    }
+
+    Column {
+        anchors.left: tile.right
+        anchors.leftMargin: Theme.spacingMedium
+        anchors.right: dates.left
+        anchors.rightMargin: Theme.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+        Text {
+            width: parent.width
+            text: card.rootName
+            font: Theme.headline
+            color: Theme.primary
+            elide: Text.ElideRight
+        }
+        Text {
+            width: parent.width
+            text: card.rootPath
+            font: Theme.caption
+            color: Theme.secondary
+            elide: Text.ElideMiddle
+        }
+    }
+
+    Column {
+        id: dates
+        anchors.right: figures.left
+        anchors.rightMargin: Theme.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+        Text {
+            anchors.right: parent.right
+            text: Format.absoluteDate(card.scanDate)
+            font: Theme.caption
+            color: Theme.secondary
+        }
+        Text {
+            anchors.right: parent.right
+            text: Format.relativeDate(card.scanDate)
+            font: Theme.extraSmall
+            color: Theme.tertiary
+        }
+    }
+
+    Column {
+        id: figures
+        anchors.right: chevron.left
+        anchors.rightMargin: Theme.spacingMedium
+        anchors.verticalCenter: parent.verticalCenter
+        width: 120
+        spacing: 2
+        Text {
+            anchors.right: parent.right
+            text: Format.byteCount(card.totalSize)
+            font: Theme.weighted(Theme.subheadline, Font.Medium)
+            color: Theme.primary
+        }
+        Text {
+            anchors.right: parent.right
+            text: Format.count(card.fileCount) + " files"
+            font: Theme.caption
+            color: Theme.secondary
+        }
+    }
+
+    Icon {
+        id: chevron
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.spacingLarge
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "chevron.right"
+        size: 14
+        color: Theme.tertiary
+    }
+}

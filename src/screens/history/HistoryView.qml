@@ -1,0 +1,104 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Tessarine.App
+import Tessarine.Screens
+
+// Every saved scan: searched, sorted, opened, selected for a comparison, deleted; with the size
+// trend of a folder scanned more than once above the list.
+Rectangle {
+    id: view
+
+    color: Theme.contentBackground
+
+    HistoryListModel {
+        id: historyScans
+        objectName: "historyScans"
+        history: AppState.scanHistory
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: Theme.spacingSection
+        spacing: Theme.spacingLarge
+
+        HistoryHeader {
+            Layout.fillWidth: true
+            scans: historyScans
+            onCompareRequested: comparison.open()
+            onDeleteRequested: deleteConfirmation.open()
+        }
+
+        HistoryFilterBar {
+            Layout.fillWidth: true
+            scans: historyScans
+        }
+
+        HistoryEmptyState {
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: AppState.scanHistory.count === 0
+        }
+
+        ListView {
+            id: list
+            objectName: "historyList"
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            visible: AppState.scanHistory.count > 0
+            clip: true
+            spacing: Theme.spacingMedium
+            model: historyScans
+            boundsBehavior: Flickable.StopAtBounds
+            ScrollBar.vertical: ScrollBar {}
+
+            header: Item {
+                width: list.width
+                height: trend.visible ? trend.height + Theme.spacingMedium : 0
+                TrendChartSection {
+                    id: trend
+                    width: parent.width
+                    visible: historyScans.showsTrend
+                    series: historyScans.trend
+                }
+            }
+
+            delegate: HistoryScanCard {
+                width: list.width
+                scans: historyScans
+                onMenuRequested: (result, selected) => scanMenu.openFor(result, selected)
+            }
+        }
+    }
+
+    // Made on the first right-click: a menu costs more to create than the rest of the screen.
+    Loader {
+        id: scanMenu
+
+        function openFor(result, selected) {
+            active = true
+            item.openFor(result, selected)
+        }
+
+        active: false
+        sourceComponent: ScanContextMenu {
+            scans: historyScans
+        }
+    }
+
+    ComparisonSheet {
+        id: comparison
+        first: historyScans.comparedFirst
+        second: historyScans.comparedSecond
+    }
+
+    DeleteConfirmation {
+        id: deleteConfirmation
+        selectedCount: historyScans.selectedCount
+        onAccepted: {
+            for (const result of historyScans.selectedScans())
+                AppState.deleteScan(result)
+            historyScans.clearSelection()
+        }
+    }
+}

@@ -1,0 +1,58 @@
+import QtQuick
+import Tessarine.App
+import Tessarine.Screens
+import Tessarine.Charts
+
+// How one folder's size went over its scans. Empty when the search leaves no folder with two
+// scans.
+Rectangle {
+    id: section
+
+    required property trendSeries series
+
+    implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge
+    radius: Theme.radiusCard
+    color: Theme.material
+
+    Column {
+        id: column
+        x: Theme.spacingLarge
+        y: Theme.spacingLarge
+        width: parent.width - 2 * Theme.spacingLarge
+        spacing: Theme.spacingMedium
+
+        Row {
+            spacing: Theme.spacingSmall
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                symbol: "chart.line.uptrend.xyaxis"
+                color: Theme.green
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: "Storage Trend"
+                font: Theme.headline
+                color: Theme.primary
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: section.series.folderName
+                font: Theme.caption
+                color: Theme.secondary
+            }
+        }
+
+        TrendChart {
+            objectName: "trendChart"
+            width: parent.width
+            height: 150
+            visible: !section.series.isEmpty
+            times: section.series.times
+            sizes: section.series.sizeValues
+            lineColor: Theme.green
+            labelColor: Theme.secondary
+            gridColor: Theme.separator
+            font: Theme.caption
+        }
+    }
+}

@@ -1,0 +1,220 @@
+#include "SampleResults.h"
+#include "screens/history/HistoryListModel.h"
+#include "screens/history/ScanComparison.h"
+
+#include <QLocale>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace tessarine;
+
+namespace {
+
+const QDateTime day0(QDate(2025, 1, 1), QTime(9, 0), Qt::UTC);
+
+AnalysisResult scan(const QString& path, int day, qint64 size = 1000) {
+    AnalysisResult result;
+    result.rootPath = path;
+    result.rootName = path.section(QLatin1Char('/'), -1);
+    result.scanDate = day0.addDays(day);
+    result.totalSize = size;
+    return result;
+}
+
+CategoryStats category(FileCategory which, qint64 size) {
+    CategoryStats stats;
+    stats.category = which;
+    stats.totalSize = size;
+    return stats;
+}
+
+// The history as the store gives it: newest first.
+QList<AnalysisResult> newestFirst(QList<AnalysisResult> scans) {
+    std::stable_sort(scans.begin(), scans.end(),
+                     [](const auto& a, const auto& b) { return a.scanDate > b.scanDate; });
+    return scans;
+}
+
+QStringList names(const QList<AnalysisResult>& scans) {
+    QStringList list;
+    for (const AnalysisResult& result : scans)
+        list.append(result.rootName);
+    return list;
+}
+
+} // namespace
+
+class HistoryModelsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
+
+    void ordersAndSearches_data() {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<int>("order");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("newest") << "" << int(HistoryOrder::DateDescending)
+                                << QStringList{"zoe", "Émile", "emma", "Adam"};
+        QTest::newRow("oldest") << "" << int(HistoryOrder::DateAscending)
+                                << QStringList{"Adam", "emma", "Émile", "zoe"};
+        QTest::newRow("largest") << "" << int(HistoryOrder::SizeDescending)
+                                 << QStringList{"emma", "zoe", "Adam", "Émile"};
+        QTest::newRow("smallest") << "" << int(HistoryOrder::SizeAscending)
+                                  << QStringList{"Émile", "Adam", "zoe", "emma"};
+        // Code points would put "Émile" after "zoe" and "emma" after "Adam" only by accident.
+        QTest::newRow("names as the locale sorts") << "" << int(HistoryOrder::NameAscending)
+                                                   << QStringList{"Adam", "Émile", "emma", "zoe"};
+        QTest::newRow("name ignores case")
+            << "EMM" << int(HistoryOrder::DateDescending) << QStringList{"emma"};
+        QTest::newRow("path finds what the name does not")
+            << "projects" << int(HistoryOrder::DateDescending) << QStringList{"zoe", "Adam"};
+        QTest::newRow("no match") << "nothing" << int(HistoryOrder::DateDescending)
+                                  << QStringList{};
+    }
+    void ordersAndSearches() {
+        QFETCH(QString, search);
+        QFETCH(int, order);
+        QFETCH(QStringList, expected);
+        const QList<AnalysisResult> history = newestFirst({
+            scan("/home/projects/Adam", 0, 300),
+            scan("/home/emma", 1, 900),
+            scan("/data/Émile", 2, 100),
+            scan("/home/projects/zoe", 3, 500),
+        });
+        QCOMPARE(names(filteredHistory(history, search, HistorySortOrder(order))), expected);
+    }
+
+    void selectsAtMostTwoAndComparesInDateOrder() {
+        const AnalysisResult older = scan("/a", 0), middle = scan("/b", 1), newer = scan("/a", 2);
+        const QList<AnalysisResult> history{newer, middle, older};
+        ScanSelection selection;
+        QVERIFY(selection.toggle(newer.id));
+        QVERIFY(!selection.comparisonPair(history));
+        QVERIFY(selection.toggle(older.id));
+        QVERIFY(!selection.toggle(middle.id));
+        QVERIFY(!selection.contains(middle.id));
+        // Picked newer first, the sheet still shows the older scan as "Before".
+        const auto pair = selection.comparisonPair(history);
+        QVERIFY(pair);
+        const ScanComparison comparison = compareScans(pair->first, pair->second);
+        QCOMPARE(comparison.before.id, older.id);
+        QCOMPARE(comparison.after.id, newer.id);
+        QVERIFY(selection.toggle(older.id));
+        QVERIFY(selection.toggle(middle.id));
+        QCOMPARE(selection.selectedScans(history).size(), 2);
+        QVERIFY(selection.keepOnly({newer}));
+        QCOMPARE(selection.count(), 1);
+    }
+
+    void differencesShowSignArrowAndColour_data() {
+        QTest::addColumn<qint64>("before");
+        QTest::addColumn<qint64>("after");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("symbol");
+        QTest::addColumn<QString>("color");
+        QTest::newRow("grew") << qint64(1'000'000) << qint64(2'000'000) << "+1 MB"
+                              << "arrow.up"
+                              << "red";
+        QTest::newRow("shrank") << qint64(2'000'000) << qint64(1'000'000) << "-1 MB"
+                                << "arrow.down"
+                                << "green";
+        QTest::newRow("same") << qint64(5) << qint64(5) << "—"
+                              << ""
+                              << "secondary";
+    }
+    void differencesShowSignArrowAndColour() {
+        QFETCH(qint64, before);
+        QFETCH(qint64, after);
+        QFETCH(QString, text);
+        QFETCH(QString, symbol);
+        QFETCH(QString, color);
+        AnalysisResult earlier = scan("/a", 0, before), later = scan("/a", 1, after);
+        earlier.fileCount = 1200;
+        later.fileCount = 1000;
+        later.maxDepth = 3;
+        const ScanComparison comparison = compareScans(later, earlier);
+        const ChangeRow& size = comparison.totals.at(0);
+        QCOMPARE(size.changeText, text);
+        QCOMPARE(size.symbol, symbol);
+        QCOMPARE(size.color, color);
+        QCOMPARE(comparison.totals.at(1).changeText, QString("-200"));
+        QCOMPARE(comparison.totals.at(2).changeText, QString("—"));
+        QCOMPARE(comparison.totals.at(3).changeText, QString("+3"));
+    }
+
+    void listsChangedCategoriesAndFiles() {
+        AnalysisResult before = scan("/a", 0), after = scan("/a", 1);
+        before.categoryBreakdown = {category(FileCategory::images, 100),
+                                    category(FileCategory::videos, 500),
+                                    category(FileCategory::code, 70)};
+        after.categoryBreakdown = {category(FileCategory::images, 150),
+                                   category(FileCategory::code, 70),
+                                   category(FileCategory::audio, 10)};
+        const FileInfo kept =
+            testing::sampleFile("/a/kept.txt", 900, "txt", FileCategory::documents);
+        before.largestFiles = {kept,
+                               testing::sampleFile("/a/old.mov", 500, "mov", FileCategory::videos)};
+        after.largestFiles = {kept,
+                              testing::sampleFile("/a/new.png", 50, "png", FileCategory::images)};
+
+        const ScanComparison comparison = compareScans(before, after);
+        QStringList categories, changes;
+        for (const ChangeRow& row : comparison.categories) {
+            categories << row.title;
+            changes << row.changeText;
+        }
+        QCOMPARE(categories, (QStringList{"Videos", "Images", "Audio"}));
+        QCOMPARE(comparison.categories.front().color, QString("green"));
+        QCOMPARE(comparison.files.size(), std::size_t(2));
+        QCOMPARE(comparison.files.at(0).title, QString("old.mov"));
+        QCOMPARE(comparison.files.at(0).symbol, QString("arrow.down"));
+        QCOMPARE(comparison.files.at(1).title, QString("new.png"));
+        QCOMPARE(comparison.files.at(1).changeText, QString("+50 bytes"));
+    }
+
+    void trendNeedsAFolderScannedTwice() {
+        QList<AnalysisResult> history = newestFirst({scan("/a", 0), scan("/b", 1), scan("/c", 2)});
+        QVERIFY(!historyHasTrend(history));
+        QVERIFY(storageTrend(history).isEmpty());
+        history = newestFirst(history + QList{scan("/b", 3, 4000)});
+        QVERIFY(historyHasTrend(history));
+        const TrendSeries trend = storageTrend(history);
+        QCOMPARE(trend.folderPath, QString("/b"));
+        QCOMPARE(trend.sizes, (std::vector<qint64>{1000, 4000}));
+        // A second qualifying folder wins once it holds the most recent scan.
+        history = newestFirst(history + QList{scan("/a", 4)});
+        QCOMPARE(storageTrend(history).folderPath, QString("/a"));
+    }
+
+    void listFollowsHistorySearchAndSelection() {
+        ScanHistoryModel history;
+        history.reset(newestFirst({scan("/x/a", 0), scan("/x/b", 1), scan("/x/a", 2)}));
+        HistoryListModel list;
+        list.setHistory(&history);
+        QVERIFY(list.showsTrend());
+        QCOMPARE(list.trend().folderPath, QString("/x/a"));
+        // The search narrows the chart, not whether the section shows; the rows it keeps stay.
+        QSignalSpy resets(&list, &QAbstractItemModel::modelReset);
+        list.setSearchText("b");
+        QCOMPARE(list.count(), 1);
+        QCOMPARE(resets.count(), 0);
+        QVERIFY(list.showsTrend());
+        QVERIFY(list.trend().isEmpty());
+        list.setSearchText({});
+
+        const AnalysisResult first = list.results().at(0), second = list.results().at(1);
+        list.toggleSelection(first);
+        list.toggleSelection(second);
+        QVERIFY(list.canCompare());
+        QCOMPARE(list.data(list.index(0), HistoryListModel::SelectedRole).toBool(), true);
+        for (const AnalysisResult& selected : list.selectedScans())
+            history.removeAll(selected.id);
+        QCOMPARE(list.rowCount(), 1);
+        QCOMPARE(list.selectedCount(), 0);
+        QVERIFY(!list.showsTrend());
+    }
+};
+
+QTEST_GUILESS_MAIN(HistoryModelsTest)
+#include "HistoryModelsTest.moc"

@@ -1,0 +1,99 @@
+import QtQuick
+import QtTest
+import Tessarine.App
+import Tessarine.Testing
+import Tessarine.Screens
+import "ViewSearch.js" as ViewSearch
+
+ScreenTestCase {
+    id: testCase
+
+    name: "HistoryView"
+
+    Component {
+        id: historyComponent
+
+        HistoryView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    function init() {
+        AppState.currentView = AppState.History
+    }
+
+    function cards(view) {
+        return ViewSearch.withProperty(view, "scans").filter(item => item.hasOwnProperty("rootPath"))
+    }
+
+    function test_emptyHistoryInvitesAScan() {
+        Fixture.fillHistory(0)
+        const view = createTemporaryObject(historyComponent, testCase)
+        verify(ViewSearch.shows(view, "No Scan History"))
+        verify(ViewSearch.shows(view, "0 scans saved"))
+        compare(cards(view).length, 0)
+    }
+
+    // A scan saved by the command-line tool appears, and with a second scan of one folder the
+    // trend appears; a search narrows the chart but not the section.
+    function test_scanSavedElsewhereAppearsWithItsTrend() {
+        Fixture.fillHistory(3)
+        const view = createTemporaryObject(historyComponent, testCase)
+        tryVerify(() => cards(view).length === 3)
+        verify(!ViewSearch.shows(view, "Storage Trend"))
+
+        Fixture.saveElsewhere("/Users/ann/Scan 2", 1)
+        tryVerify(() => cards(view).length === 4, 5000)
+        verify(ViewSearch.shows(view, "4 scans saved"))
+        verify(ViewSearch.shows(view, "Storage Trend"))
+        verify(ViewSearch.named(view, "trendChart"))
+
+        ViewSearch.named(view, "searchField").text = "Scan 3"
+        ViewSearch.named(view, "searchField").textEdited()
+        tryVerify(() => cards(view).length === 1)
+        verify(ViewSearch.shows(view, "Storage Trend"))
+        verify(!ViewSearch.named(view, "trendChart"))
+    }
+
+    function test_twoAtMostAreSelectedAndDeletedTogether() {
+        Fixture.fillHistory(3)
+        const view = createTemporaryObject(historyComponent, testCase)
+        tryVerify(() => cards(view).length === 3)
+        const circles = ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle")
+        compare(circles.length, 3)
+        for (const circle of circles)
+            mouseClick(circle)
+        compare(cards(view).filter(card => card.selected).length, 2)
+        verify(ViewSearch.named(view, "compareButton"))
+
+        mouseClick(ViewSearch.named(view, "deleteButton"))
+        const confirmation = findChild(view, "deleteConfirmation")
+        tryVerify(() => confirmation.opened)
+        compare(findChild(confirmation.contentItem, "deleteMessage").text,
+                "This will permanently delete 2 scan(s) from history.")
+        mouseClick(findChild(confirmation.contentItem, "confirmDelete"))
+        tryCompare(AppState.scanHistory, "count", 1)
+        tryVerify(() => cards(view).length === 1)
+        verify(!ViewSearch.named(view, "deleteButton"))
+    }
+
+    // Picked newest first, the older scan is still "Before"; Return dismisses the sheet.
+    function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
+        Fixture.fillHistory(2)
+        const view = createTemporaryObject(historyComponent, testCase)
+        tryVerify(() => cards(view).length === 2)
+        for (const circle of ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle"))
+            mouseClick(circle)
+        tryVerify(() => ViewSearch.named(view, "compareButton"))
+        waitForRendering(view)
+        mouseClick(ViewSearch.named(view, "compareButton"))
+        const sheet = findChild(view, "comparisonSheet")
+        tryVerify(() => sheet.opened)
+        const texts = ViewSearch.texts(sheet.contentItem)
+        verify(texts.indexOf("Scan 1") < texts.indexOf("Scan 2"))
+        compare(texts[texts.indexOf("Before") + 1], "Scan 1")
+        keyClick(Qt.Key_Return)
+        tryVerify(() => !sheet.visible)
+    }
+}
