@@ -68,7 +68,7 @@ for _ in $(seq 300); do
   sleep 0.1
 done
 [ -n "$history" ] || { cat "$work/app.log"; fail "no scan saved within 30 s"; }
-grep -qF "\"$work/folder with spaces\"" "$history" || { cat "$history"; fail "the saved scan is another folder's"; }
+grep -qF '"rootName" : "folder with spaces"' "$history" || { cat "$history"; fail "the saved scan is another folder's"; }
 echo "saved $(basename "$history")"
 XDG_DATA_HOME="$work/data" tessarine-cli history
 
