@@ -9,7 +9,8 @@ DIR        ?= $(CURDIR)
 JOBS       ?= $(shell nproc)
 CMAKE_GEN   = cmake -G Ninja -Wno-dev
 
-.PHONY: deps deps-fuzz build run scan screenshots test test-fast test-asan fuzz bench format clean
+.PHONY: deps deps-fuzz deps-package build run scan screenshots test test-fast test-asan fuzz package \
+        package-test bench format clean
 
 deps:
 	@bash scripts/install-deps.sh
@@ -63,6 +64,20 @@ fuzz: deps-fuzz $(FUZZ_BUILD)/build.ninja
 	        -timeout=10 -rss_limit_mb=4096 corpus/$$target $(CURDIR)/fuzz/corpus/$$target ) \
 	    || exit 1; \
 	done
+
+deps-package:
+	@bash scripts/install-deps.sh package
+
+# $(BUILD)/tessarine_<version>_<arch>.deb, from a build configured once rsvg-convert is there
+# (it renders the icon's bitmaps).
+package: deps deps-package $(BUILD)/build.ninja
+	cmake -Wno-dev $(BUILD)
+	cmake --build $(BUILD) -j $(JOBS) --target tessarine tessarine-cli tessarine_packaging_files
+	cd $(BUILD) && cpack
+
+# Installs the package on this machine as a user would, checks it, then removes it (as root).
+package-test: package
+	bash scripts/test-package.sh $(BUILD)
 
 bench: build
 	bash bench/run.sh $(BUILD)

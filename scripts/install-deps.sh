@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian 12 packages the build, the tests and the benchmarks need.
 # Only packages that are missing are installed, so a warm machine does not wait.
-# `install-deps.sh fuzz` adds what the fuzz targets need (clang and its libFuzzer runtime).
+# `install-deps.sh fuzz` adds what the fuzz targets need (clang and its libFuzzer runtime);
+# `install-deps.sh package` what the package and its checks need (icon renderer, validators, lintian).
 set -euo pipefail
 
 packages=(
@@ -22,6 +23,9 @@ packages=(
 )
 if [ "${1:-}" = fuzz ]; then
   packages+=(clang libclang-rt-14-dev)
+fi
+if [ "${1:-}" = package ]; then
+  packages+=(librsvg2-bin desktop-file-utils appstream lintian dpkg-dev file)
 fi
 
 missing=()

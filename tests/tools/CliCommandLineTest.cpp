@@ -1,5 +1,6 @@
 #include "CliRun.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace tessarine::testing;
@@ -23,6 +24,15 @@ private slots:
         for (const char* command : {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
             QVERIFY2(run.output.contains(command), command);
         QCOMPARE(run.errors, QByteArray());
+    }
+
+    void versionGoesToStandardOutput() {
+        const CliRun run = runCli({"--version"});
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY2(QRegularExpression(QStringLiteral("^tessarine-cli \\d+\\.\\d+\\.\\d+\n$"))
+                     .match(QString::fromUtf8(run.output))
+                     .hasMatch(),
+                 run.output.constData());
     }
 
     void badUsageExitsWithTwo_data() {

@@ -23,6 +23,8 @@ constexpr std::array<std::pair<const char16_t*, Command>, 3> commands{{
 int runCommandLine(const QStringList& arguments) {
     if (asksForHelp(arguments) || arguments.value(0) == u"help")
         return printUsage();
+    if (arguments.value(0) == u"--version")
+        return printVersion();
     if (arguments.isEmpty())
         return usageError(QStringLiteral("Missing command"));
     for (const auto& [name, command] : commands) {

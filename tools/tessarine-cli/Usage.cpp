@@ -5,6 +5,8 @@
 
 #include "model/TerminalText.h"
 
+#include "ReleaseInfo.h"
+
 namespace tessarine::cli {
 
 namespace {
@@ -17,6 +19,7 @@ QString usageText() {
         "  tessarine-cli history [--json]\n"
         "  tessarine-cli history delete ID\n"
         "  tessarine-cli --help\n"
+        "  tessarine-cli --version\n"
         "\n"
         "Commands:\n"
         "  scan     Analyse FOLDER and print the result as JSON, in the form of the history "
@@ -35,6 +38,11 @@ QString usageText() {
 
 int printUsage() {
     return writeOutput(usageText().toUtf8()) ? exitSuccess : exitFailure;
+}
+
+int printVersion() {
+    return writeOutput(QByteArrayLiteral("tessarine-cli ") + versionText + '\n') ? exitSuccess
+                                                                                 : exitFailure;
 }
 
 int usageError(const QString& problem) {

@@ -1,0 +1,71 @@
+#include "app/shell/LaunchOptions.h"
+
+#include "ReleaseInfo.h"
+
+#include <QTest>
+
+using tessarine::LaunchOptions;
+using tessarine::parseLaunchArguments;
+using Action = LaunchOptions::Action;
+
+class LaunchOptionsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void folderToScan_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("relative") << QStringList{"Photos/2024"} << "/home/ann/Photos/2024";
+        QTest::newRow("absolute, trailing slash")
+            << QStringList{"/srv/My Files/"} << "/srv/My Files";
+        QTest::newRow("parent") << QStringList{".."} << "/home";
+        QTest::newRow("file URL") << QStringList{"file:///srv/My%20Files"} << "/srv/My Files";
+        QTest::newRow("named like an option") << QStringList{"--", "-v"} << "/home/ann/-v";
+        // Left to the scan, which reports it in the window like any folder it cannot read.
+        QTest::newRow("empty") << QStringList{""} << "";
+    }
+
+    void folderToScan() {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, folder);
+        const LaunchOptions launch =
+            parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
+        QCOMPARE(launch.action, Action::OpenWindow);
+        QCOMPARE(launch.folder, std::optional(folder));
+    }
+
+    void withoutArgumentsOpensTheWindowOnly() {
+        const LaunchOptions launch = parseLaunchArguments({"tessarine"}, "/home/ann");
+        QCOMPARE(launch.action, Action::OpenWindow);
+        QCOMPARE(launch.folder, std::nullopt);
+    }
+
+    void answersWithoutWindow_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("help") << QStringList{"-h"} << Action::PrintAndExit << "[FOLDER]";
+        QTest::newRow("help after a folder")
+            << QStringList{"/srv", "--help"} << Action::PrintAndExit << "[FOLDER]";
+        QTest::newRow("version") << QStringList{"--version"} << Action::PrintAndExit
+                                 << QStringLiteral("Tessarine %1\n").arg(tessarine::versionText);
+        QTest::newRow("two folders")
+            << QStringList{"/a", "/b"} << Action::FailWithUsage << "one FOLDER";
+        QTest::newRow("unknown option")
+            << QStringList{"--fast", "/a"} << Action::FailWithUsage << "fast";
+    }
+
+    void answersWithoutWindow() {
+        QFETCH(QStringList, arguments);
+        QFETCH(Action, action);
+        QFETCH(QString, text);
+        const LaunchOptions launch =
+            parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
+        QCOMPARE(launch.action, action);
+        QVERIFY2(launch.text.contains(text), qPrintable(launch.text));
+        QCOMPARE(launch.folder, std::nullopt);
+    }
+};
+
+QTEST_GUILESS_MAIN(LaunchOptionsTest)
+#include "LaunchOptionsTest.moc"
