@@ -48,8 +48,22 @@ ChartCard {
             objectName: "categoryTreemapCells"
             anchors.fill: parent
             cells: treemap.cells
-            hoverScale: 1.02
             onClicked: index => card.selection.toggle(treemap.categoryAt(index))
+            // A newly hovered cell grows into place rather than jumping.
+            onHoveredIndexChanged: {
+                hoverScale = 1
+                if (hoveredIndex >= 0)
+                    hoverAnimation.restart()
+            }
+
+            NumberAnimation on hoverScale {
+                id: hoverAnimation
+
+                running: false
+                to: 1.02
+                duration: 150
+                easing.type: Easing.OutCubic
+            }
         }
 
         Repeater {

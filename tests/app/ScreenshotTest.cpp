@@ -8,6 +8,7 @@
 #include "app/FolderTreeController.h"
 #include "app/shell/ShellEngine.h"
 #include "charts/FolderTreemapModel.h"
+#include "scanner/FileSystemScanner.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
@@ -303,11 +304,17 @@ private slots:
         scene.save(QStringLiteral("folder-treemap-hover"));
     }
 
-    // Every page of a full dashboard, then its interactive states.
+    // Every page of the dashboard of a real scan of a generated tree, then its interactive states.
     void fullDashboard() {
+        const QTemporaryDir folders = testing::makeFastTemporaryDir();
+        const QString projects = folders.filePath(QStringLiteral("Projects"));
+        testing::generateTree(projects, 20000, 11u);
+        FileSystemScanner scanner;
+        ScanOutcome scanned = scanner.scan(projects);
+        QVERIFY(std::holds_alternative<AnalysisResult>(scanned));
         Scene scene(3);
         scene.window()->resize(1200, 800);
-        scene.state().openResult(fullResult(9));
+        scene.state().openResult(std::get<AnalysisResult>(scanned));
         scene.save(QStringLiteral("dashboard-full-1"));
         auto* scroller = findItem(scene.window(), "dashboardScroller");
         QVERIFY(scroller);
@@ -344,7 +351,7 @@ private slots:
         QVERIFY(search);
         QTest::qWait(100);
         QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(search));
-        for (const char typed : std::string_view("file 1"))
+        for (const char typed : std::string_view("file-1"))
             QTest::keyClick(scene.window(), typed);
         QQuickItem* table = findItem(scene.window(), "largestFilesTableView");
         QVERIFY(table);

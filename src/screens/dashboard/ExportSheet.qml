@@ -12,6 +12,7 @@ Popup {
 
     required property analysisResult result
     property int exportFormat: ResultExport.Json
+    readonly property alias saveDialog: saveDialog
 
     function exportTo(destination) {
         const failure = ResultExport.write(result, exportFormat, destination)

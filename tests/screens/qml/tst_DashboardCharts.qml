@@ -208,6 +208,12 @@ ScreenTestCase {
         tryVerify(() => sheet.opened)
         compare(sheet.exportFormat, 0)
 
+        // Return exports: the save dialog proposes a name of the chosen type.
+        keyClick(Qt.Key_Return)
+        tryVerify(() => sheet.saveDialog.visible)
+        verify(sheet.saveDialog.selectedFile.toString().endsWith("analysis_Projects.json"))
+        sheet.saveDialog.reject()
+
         // The parent of the destination is a file: the write fails even for root.
         sheet.exportTo(Fixture.urlOf(Fixture.makeFile("not a folder") + "/analysis.json"))
         verify(AppState.hasError)
@@ -216,6 +222,16 @@ ScreenTestCase {
                 "Check if you have write permission to the selected location.")
         verify(sheet.visible)
         sheet.close()
+    }
+
+    function test_emptyFilesAndOddNamesStillMakeADashboard() {
+        Fixture.showEmptyResult()
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        waitForRendering(view)
+        // Nothing to divide: no treemap cell, and every share reads 0.0%.
+        compare(cellLabels(view).length, 0)
+        compare(ViewSearch.named(view, "largestFilesTableView").rows, 2)
+        saveScreenshot(view, "dashboard-empty-files")
     }
 
     function test_narrowWindowStacksTheCards() {

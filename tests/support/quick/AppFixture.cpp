@@ -173,6 +173,28 @@ void AppFixture::showResult(const QString& rootPath, bool withInsights) {
     m_state->setCurrentResult(result);
 }
 
+void AppFixture::showEmptyResult() {
+    AnalysisResult result = resultOf(m_files.filePath(QStringLiteral("empty")));
+    result.totalSize = 0;
+    result.fileCount = 2;
+    CategoryStats documents;
+    documents.category = FileCategory::documents;
+    documents.fileCount = 2;
+    result.categoryBreakdown = {documents};
+    for (const QString& name : {QString(255, u'n'), QStringLiteral("two\nlines.txt")}) {
+        FileInfo file;
+        file.name = name;
+        file.path = result.rootPath + u'/' + name;
+        file.fileExtension = QStringLiteral("txt");
+        file.category = FileCategory::documents;
+        file.depth = 1;
+        file.modificationDate = QDateTime::currentDateTimeUtc();
+        result.largestFiles.append(file);
+    }
+    result.depthDistribution[1] = DepthStats{2, 0, 0};
+    m_state->setCurrentResult(result);
+}
+
 QString AppFixture::makeFolder(const QString& name) {
     const QString path = m_files.filePath(QStringLiteral("made/") + name);
     testing::writeFile(path + QStringLiteral("/notes.txt"), 11);

@@ -67,6 +67,9 @@ public:
     // and 100 largest files by default, below a real folder so that its files can be revealed.
     Q_INVOKABLE void showFullResult(int categories = 12, int extensions = 40,
                                     bool withInsights = true);
+    // A result a dashboard must survive: nothing but empty files, a category of 0 bytes, a file
+    // name of 255 characters and one with a line break.
+    Q_INVOKABLE void showEmptyResult();
     // What reached the desktop (reveal, open, copy) since the last call, oldest first.
     Q_INVOKABLE QStringList takeDesktopRequests();
     // A new folder holding one small file, so a scan of it succeeds; a new plain file.
