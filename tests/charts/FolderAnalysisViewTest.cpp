@@ -1,37 +1,9 @@
-#include "AppFixture.h"
+#include "QuickTestSetup.h"
 
-#include <QLocale>
-#include <QQmlEngine>
-#include <QStandardPaths>
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest>
-
-#include <memory>
 
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 
-using namespace tessarine;
-
-class FolderAnalysisSetup : public QObject {
-    Q_OBJECT
-
-public slots:
-    void applicationAvailable() {
-        QStandardPaths::setTestModeEnabled(true);
-        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    }
-
-    void qmlEngineAvailable(QQmlEngine* engine) {
-        engine->addImportPath(QStringLiteral(":/"));
-        m_fixture = std::make_unique<AppFixture>(QString());
-        qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
-    }
-
-private:
-    std::unique_ptr<AppFixture> m_fixture;
-};
-
-QUICK_TEST_MAIN_WITH_SETUP(FolderAnalysisViewTest, FolderAnalysisSetup)
-
-#include "FolderAnalysisViewTest.moc"
+QUICK_TEST_MAIN_WITH_SETUP(FolderAnalysisViewTest, tessarine::QuickTestSetup)

@@ -1,0 +1,27 @@
+#include "QuickTestSetup.h"
+
+#include "AppFixture.h"
+
+#include <QDir>
+#include <QLocale>
+#include <QQmlEngine>
+#include <QStandardPaths>
+
+namespace tessarine {
+
+QuickTestSetup::QuickTestSetup() = default;
+QuickTestSetup::~QuickTestSetup() = default;
+
+void QuickTestSetup::applicationAvailable() {
+    QStandardPaths::setTestModeEnabled(true);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+}
+
+void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
+    engine->addImportPath(QStringLiteral(":/"));
+    m_fixture =
+        std::make_unique<AppFixture>(QDir::current().filePath(QStringLiteral("screenshots")));
+    qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
+}
+
+} // namespace tessarine
