@@ -24,19 +24,6 @@ using namespace tessarine;
 
 namespace {
 
-// The item named objectName among the items below root (in the item tree, which is not always
-// the object tree), or null.
-QQuickItem* itemNamed(QQuickItem* root, const QString& objectName) {
-    const QList<QQuickItem*> children = root->childItems();
-    for (QQuickItem* child : children) {
-        if (child->objectName() == objectName)
-            return child;
-        if (QQuickItem* found = itemNamed(child, objectName))
-            return found;
-    }
-    return nullptr;
-}
-
 // Five scans of one folder a week apart as it grows, besides the sample history.
 void storeProjectsTrend(PersistenceService& store) {
     const qint64 sizes[] = {41'000'000'000, 43'500'000'000, 42'800'000'000, 47'200'000'000,
@@ -93,22 +80,6 @@ public:
         const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
         QVERIFY(image.save(folder + u'/' + name + QStringLiteral(".png")));
-    }
-
-    // Scrolls the dashboard so that the item named objectName is at the top.
-    QQuickItem* scrollTo(const QString& objectName) {
-        QQuickItem* item = itemNamed(window()->contentItem(), objectName);
-        if (!item)
-            return nullptr;
-        for (QQuickItem* flickable = item->parentItem(); flickable;
-             flickable = flickable->parentItem()) {
-            auto* content = flickable->property("contentItem").value<QQuickItem*>();
-            if (flickable->property("contentY").isValid() && content) {
-                flickable->setProperty("contentY", item->mapToItem(content, {0, 0}).y() - 16);
-                break;
-            }
-        }
-        return item;
     }
 
 private:
@@ -271,7 +242,7 @@ private slots:
         result.folderTree = {};
         Scene scene(3);
         scene.state().openResult(result);
-        QQuickItem* section = scene.scrollTo(QStringLiteral("folderAnalysis"));
+        QQuickItem* section = scrollTo(scene.window(), "folderAnalysis");
         QVERIFY(section);
         auto* controller = section->property("controller").value<FolderTreeController*>();
 
@@ -283,10 +254,10 @@ private slots:
 
         controller->build(result.rootPath);
         QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
-        scene.scrollTo(QStringLiteral("folderAnalysis"));
+        scrollTo(scene.window(), "folderAnalysis");
         scene.save(QStringLiteral("folder-analysis-tree"));
 
-        auto* treemap = itemNamed(section, QStringLiteral("folderTreemap"))
+        auto* treemap = findItem(section, QStringLiteral("folderTreemap"))
                             ->property("treemap")
                             .value<FolderTreemapModel*>();
         for (int level = 0; level < 2; ++level) {
@@ -297,7 +268,7 @@ private slots:
         QCOMPARE(treemap->pathNames().size(), 2);
         scene.save(QStringLiteral("folder-treemap-drilled"));
 
-        QQuickItem* cells = itemNamed(section, QStringLiteral("treemapCells"));
+        QQuickItem* cells = findItem(section, QStringLiteral("treemapCells"));
         const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
         QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
         QTRY_VERIFY(treemap->hoveredIndex() >= 0);
