@@ -1,3 +1,4 @@
+#include "DashboardResult.h"
 #include "ScanFolders.h"
 
 #include "app/AppState.h"
@@ -26,15 +27,6 @@ void settle(AppState& state) {
 
 QStringList historyFiles(const PersistenceService& store) {
     return QDir(store.storagePath()).entryList({QStringLiteral("scan_*.json")}, QDir::Files);
-}
-
-AnalysisResult storedResult(const QString& rootPath, const QDateTime& scanDate) {
-    AnalysisResult result;
-    result.rootPath = rootPath;
-    result.rootName = rootPath.section(u'/', -1);
-    result.scanDate = scanDate;
-    result.totalSize = 1000;
-    return result;
 }
 
 } // namespace
@@ -195,8 +187,8 @@ private slots:
         QTemporaryDir home, folder;
         makeScannableFolder(folder.path());
         PersistenceService store(home.path());
-        const AnalysisResult older =
-            storedResult(QStringLiteral("/data/older"), QDateTime(QDate(2024, 1, 1), {}, Qt::UTC));
+        const AnalysisResult older = testing::plainResult(
+            QStringLiteral("/data/older"), QDateTime(QDate(2024, 1, 1), {}, Qt::UTC));
         QVERIFY(!store.save(older));
         AppState state(store);
         state.startScan(folder.path());
@@ -215,10 +207,10 @@ private slots:
     void historyLoadsNewestFirstAndSkipsBrokenFiles() {
         QTemporaryDir home;
         PersistenceService store(home.path());
-        const AnalysisResult old =
-            storedResult(QStringLiteral("/a/old"), QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
-        const AnalysisResult recent =
-            storedResult(QStringLiteral("/a/recent"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
+        const AnalysisResult old = testing::plainResult(QStringLiteral("/a/old"),
+                                                        QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
+        const AnalysisResult recent = testing::plainResult(
+            QStringLiteral("/a/recent"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
         QVERIFY(!store.save(old));
         QVERIFY(!store.save(recent));
         QFile broken(store.storagePath() +
@@ -237,16 +229,16 @@ private slots:
     void historyFollowsTheFolderOnDisk() {
         QTemporaryDir home;
         PersistenceService store(home.path());
-        const AnalysisResult old =
-            storedResult(QStringLiteral("/a/old"), QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
+        const AnalysisResult old = testing::plainResult(QStringLiteral("/a/old"),
+                                                        QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
         QVERIFY(!store.save(old));
         AppState state(store);
         ScanHistoryModel& history = *state.scanHistory();
         QSignalSpy removals(&history, &QAbstractItemModel::rowsRemoved);
 
         PersistenceService otherProcess(home.path());
-        const AnalysisResult saved =
-            storedResult(QStringLiteral("/a/new"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
+        const AnalysisResult saved = testing::plainResult(
+            QStringLiteral("/a/new"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
         QVERIFY(!otherProcess.save(saved));
         QTRY_COMPARE(history.results(), (QList{saved, old}));
         // The row already listed was kept, not removed and listed again.

@@ -4,7 +4,6 @@
 #include "app/FolderDrop.h"
 #include "app/SymbolTable.h"
 #include "model/FileCategory.h"
-#include "scanner/ScanError.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -16,17 +15,10 @@ class AppValuesTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void errorsWrapTheLowerLayersDescription() {
-        const ScanError denied{ScanError::Kind::cannotAccessDirectory, QStringLiteral("/x y")};
-        const AppError scan = AppError::scanFailed(denied.errorDescription());
-        QCOMPARE(scan.errorDescription(),
-                 QStringLiteral("Scan failed: Cannot access directory: /x y"));
-        QVERIFY(scan.hasRecoverySuggestion());
-        // Different cases that read the same are the same error to the alert.
+    // Different cases that read the same are the same error to the alert.
+    void errorsThatReadTheSameAreTheSame() {
         QCOMPARE(AppError::unknown(QStringLiteral("Invalid path: /p")).identity(),
                  AppError::invalidPath(QStringLiteral("/p")).identity());
-        // A cancellation has nothing to suggest, so the alert shows no second line.
-        QVERIFY(!AppError::cancelled().hasRecoverySuggestion());
     }
 
     void onlyLocalFoldersAreDropTargets() {

@@ -99,20 +99,8 @@ AnalysisResult dashboardResult() {
 AnalysisResult fullResult(int categories, bool withInsights = true) {
     AnalysisResult result =
         testing::dashboardResult(QStringLiteral("/Users/ann/Projects"), categories, 40, 20, 100);
-    if (withInsights) {
-        PatternInsight cache;
-        cache.type = InsightType::largeCache;
-        cache.title = QStringLiteral("Large cache files");
-        cache.description = QStringLiteral("4 cache folders hold 1.2 GB");
-        cache.affectedSize = 1'200'000'000;
-        cache.affectedCount = 4;
-        PatternInsight modules = cache;
-        modules.type = InsightType::nodeModules;
-        modules.title = QStringLiteral("node_modules folders");
-        modules.description = QStringLiteral("12 node_modules folders found");
-        modules.affectedSize = 860'000'000;
-        result.insights = {cache, modules};
-    }
+    if (withInsights)
+        result.insights = testing::sampleInsights();
     return result;
 }
 

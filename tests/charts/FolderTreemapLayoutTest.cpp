@@ -1,4 +1,3 @@
-#include "charts/FolderBars.h"
 #include "charts/NestedTreemap.h"
 
 #include <QTest>
@@ -140,43 +139,6 @@ private slots:
         QVERIFY(!nestsContents({&withChildren, QRectF(0, 0, 60, 200), false, 0}, 0, 3));
         QVERIFY(!nestsContents({&withChildren, QRectF(0, 0, 200, 50), false, 0}, 0, 3));
         QVERIFY(!nestsContents({&leaf, QRectF(0, 0, 200, 200), false, 0}, 0, 3));
-    }
-
-    void deepChainEndsQuickly() {
-        FolderInfo chain = folder("bottom", 1);
-        for (int depth = 0; depth < 10'000; ++depth) {
-            FolderInfo parent = folder(QString::number(depth), 1);
-            parent.childFolders.push_back(std::move(chain));
-            chain = std::move(parent);
-        }
-        const NestedTreemap treemap = layoutNestedTreemap(chain, QRectF(0, 0, 800, 600));
-        QCOMPARE(treemap.cells.size(), 3u);
-        const FolderBars bars = folderBarsOf(chain, 15);
-        QCOMPARE(bars.folderCount, 10'000);
-        QCOMPARE(bars.shown.size(), 15u);
-    }
-
-    // The bars are the first folders of the walk below the root, not the largest overall: the
-    // small children of the largest branch come before a larger second branch.
-    void largestFoldersFollowTheWalk() {
-        FolderInfoList branches;
-        for (int i = 0; i < 4; ++i) {
-            FolderInfoList leaves;
-            for (int j = 0; j < 9; ++j)
-                leaves.push_back(folder(QStringLiteral("%1.%2").arg(i).arg(j), 10 - i));
-            branches.push_back(folder(QString::number(i), 1000 - i, 9, std::move(leaves)));
-        }
-        const FolderInfo root = folder("root", 4000, 36, std::move(branches));
-        const FolderBars bars = folderBarsOf(root, 15);
-        QCOMPARE(bars.folderCount, 40);
-        QStringList shown;
-        for (const FolderInfo* bar : bars.shown)
-            shown << bar->name;
-        QCOMPARE(shown.first(11), (QStringList{"0", "0.0", "0.1", "0.2", "0.3", "0.4", "0.5", "0.6",
-                                               "0.7", "0.8", "1"}));
-        QCOMPARE(shown.size(), 15);
-        QCOMPARE(bars.shownSize, 1000 + 9 * 10 + 999 + 4 * 9);
-        QCOMPARE(folderBarsOf(folder("alone", 5), 15).folderCount, 0);
     }
 };
 

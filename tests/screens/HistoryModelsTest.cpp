@@ -1,9 +1,9 @@
+#include "DashboardResult.h"
 #include "SampleResults.h"
 #include "screens/history/HistoryListModel.h"
 #include "screens/history/ScanComparison.h"
 
 #include <QLocale>
-#include <QSignalSpy>
 #include <QTest>
 
 using namespace tessarine;
@@ -13,12 +13,7 @@ namespace {
 const QDateTime day0(QDate(2025, 1, 1), QTime(9, 0), Qt::UTC);
 
 AnalysisResult scan(const QString& path, int day, qint64 size = 1000) {
-    AnalysisResult result;
-    result.rootPath = path;
-    result.rootName = path.section(QLatin1Char('/'), -1);
-    result.scanDate = day0.addDays(day);
-    result.totalSize = size;
-    return result;
+    return testing::plainResult(path, day0.addDays(day), size);
 }
 
 CategoryStats category(FileCategory which, qint64 size) {
@@ -94,12 +89,7 @@ private slots:
         QVERIFY(selection.toggle(older.id));
         QVERIFY(!selection.toggle(middle.id));
         QVERIFY(!selection.contains(middle.id));
-        // Picked newer first, the sheet still shows the older scan as "Before".
-        const auto pair = selection.comparisonPair(history);
-        QVERIFY(pair);
-        const ScanComparison comparison = compareScans(pair->first, pair->second);
-        QCOMPARE(comparison.before.id, older.id);
-        QCOMPARE(comparison.after.id, newer.id);
+        QVERIFY(selection.comparisonPair(history));
         QVERIFY(selection.toggle(older.id));
         QVERIFY(selection.toggle(middle.id));
         QCOMPARE(selection.selectedScans(history).size(), 2);
@@ -185,34 +175,6 @@ private slots:
         // A second qualifying folder wins once it holds the most recent scan.
         history = newestFirst(history + QList{scan("/a", 4)});
         QCOMPARE(storageTrend(history).folderPath, QString("/a"));
-    }
-
-    void listFollowsHistorySearchAndSelection() {
-        ScanHistoryModel history;
-        history.reset(newestFirst({scan("/x/a", 0), scan("/x/b", 1), scan("/x/a", 2)}));
-        HistoryListModel list;
-        list.setHistory(&history);
-        QVERIFY(list.showsTrend());
-        QCOMPARE(list.trend().folderPath, QString("/x/a"));
-        // The search narrows the chart, not whether the section shows; the rows it keeps stay.
-        QSignalSpy resets(&list, &QAbstractItemModel::modelReset);
-        list.setSearchText("b");
-        QCOMPARE(list.count(), 1);
-        QCOMPARE(resets.count(), 0);
-        QVERIFY(list.showsTrend());
-        QVERIFY(list.trend().isEmpty());
-        list.setSearchText({});
-
-        const AnalysisResult first = list.results().at(0), second = list.results().at(1);
-        list.toggleSelection(first);
-        list.toggleSelection(second);
-        QVERIFY(list.canCompare());
-        QCOMPARE(list.data(list.index(0), HistoryListModel::SelectedRole).toBool(), true);
-        for (const AnalysisResult& selected : list.selectedScans())
-            history.removeAll(selected.id);
-        QCOMPARE(list.rowCount(), 1);
-        QCOMPARE(list.selectedCount(), 0);
-        QVERIFY(!list.showsTrend());
     }
 };
 

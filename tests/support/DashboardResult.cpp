@@ -16,12 +16,18 @@ const QStringList extensionNames = {
 
 } // namespace
 
-AnalysisResult dashboardResult(const QString& root, int categories, int extensions, int depths,
-                               int files) {
+AnalysisResult plainResult(const QString& root, const QDateTime& scanDate, qint64 totalSize) {
     AnalysisResult result;
     result.rootPath = root;
     result.rootName = root.section(u'/', -1);
-    result.scanDate = QDateTime::currentDateTimeUtc().addSecs(-3600);
+    result.scanDate = scanDate;
+    result.totalSize = totalSize;
+    return result;
+}
+
+AnalysisResult dashboardResult(const QString& root, int categories, int extensions, int depths,
+                               int files) {
+    AnalysisResult result = plainResult(root, QDateTime::currentDateTimeUtc().addSecs(-3600), 0);
     result.scanDuration = 4.2;
     const auto& kinds = allFileCategories();
     categories = std::clamp(categories, 1, int(kinds.size()));
@@ -78,6 +84,20 @@ AnalysisResult dashboardResult(const QString& root, int categories, int extensio
         result.largestFiles.append(file);
     }
     return result;
+}
+
+QList<PatternInsight> sampleInsights() {
+    PatternInsight cache;
+    cache.type = InsightType::largeCache;
+    cache.title = QStringLiteral("Large cache files");
+    cache.description = QStringLiteral("Found in 3 places");
+    cache.affectedSize = 150'000'000;
+    cache.affectedCount = 3;
+    PatternInsight empty = cache;
+    empty.type = InsightType::emptyFolders;
+    empty.title = QStringLiteral("Empty folders");
+    empty.affectedSize = 0;
+    return {cache, empty};
 }
 
 } // namespace tessarine::testing

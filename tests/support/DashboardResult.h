@@ -6,11 +6,17 @@
 
 namespace tessarine::testing {
 
+// A result of nothing but its root, its date and its size, as a history lists it.
+AnalysisResult plainResult(const QString& root, const QDateTime& scanDate, qint64 totalSize = 1000);
+
 // A result as full as a dashboard shows: categories of falling sizes (at most all twelve),
 // extensions spread over them, depth levels shaped like a real tree (few files at the top, a peak a
 // few levels down), and largest files under root with varied names, dates and depths. Everything
 // adds up: the categories' and the extensions' sizes sum to totalSize.
 AnalysisResult dashboardResult(const QString& root, int categories, int extensions, int depths,
                                int files);
+
+// Two insights: one that weighs 150 MB and one that weighs nothing, which states no size.
+QList<PatternInsight> sampleInsights();
 
 } // namespace tessarine::testing

@@ -65,15 +65,6 @@ Item {
             tryCompare(overlay(), "visible", false)
         }
 
-        function test_droppedFileIsAcceptedAndIgnored() {
-            verify(Fixture.dragOver(content, Fixture.fileUrl))
-            compare(Fixture.drop(), Qt.CopyAction)
-            wait(0) // a scan would be started on the next turn of the event loop
-            compare(AppState.currentView, AppState.Landing)
-            verify(!AppState.isScanning)
-            verify(!AppState.hasError)
-        }
-
         function test_dropsAreRefusedWhileScanning() {
             AppState.startScan(Fixture.folderUrl)
             verify(AppState.isScanning)

@@ -20,26 +20,13 @@ namespace tessarine {
 namespace {
 
 AnalysisResult resultOf(const QString& rootPath) {
-    AnalysisResult result;
-    result.rootPath = rootPath;
-    result.rootName = rootPath.section(u'/', -1);
-    result.scanDate = QDateTime::currentDateTimeUtc().addSecs(-7200);
-    result.totalSize = 2'500'000'000;
+    AnalysisResult result = testing::plainResult(
+        rootPath, QDateTime::currentDateTimeUtc().addSecs(-7200), 2'500'000'000);
     result.fileCount = 1'234;
     result.folderCount = 87;
     result.maxDepth = 12;
     result.scanDuration = 12.3;
     return result;
-}
-
-PatternInsight insight(InsightType type, const char* title, qint64 affectedSize) {
-    PatternInsight insight;
-    insight.type = type;
-    insight.title = QString::fromLatin1(title);
-    insight.description = QStringLiteral("Found in 3 places");
-    insight.affectedSize = affectedSize;
-    insight.affectedCount = 3;
-    return insight;
 }
 
 FolderInfo folder(const QString& name, qint64 size, FolderInfoList children = {}) {
@@ -80,7 +67,7 @@ void AppFixture::showFullResult(int categories, int extensions, bool withInsight
     for (const FileInfo& file : std::as_const(result.largestFiles))
         testing::writeFile(file.path, 1);
     if (withInsights)
-        result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000)};
+        result.insights = testing::sampleInsights();
     m_state->setCurrentResult(result);
 }
 
@@ -168,8 +155,7 @@ void AppFixture::clearProgress() {
 void AppFixture::showResult(const QString& rootPath, bool withInsights) {
     AnalysisResult result = resultOf(rootPath);
     if (withInsights)
-        result.insights = {insight(InsightType::largeCache, "Large cache files", 150'000'000),
-                           insight(InsightType::emptyFolders, "Empty folders", 0)};
+        result.insights = testing::sampleInsights();
     m_state->setCurrentResult(result);
 }
 
@@ -224,10 +210,7 @@ void AppFixture::createFolderAt(const QString& path) const {
 }
 
 AnalysisResult AppFixture::resultWithoutTree(const QString& root) const {
-    AnalysisResult result;
-    result.rootPath = root;
-    result.rootName = QDir(root).dirName();
-    result.totalSize = 92000;
+    AnalysisResult result = testing::plainResult(root, {}, 92000);
     result.folderCount = 4;
     return result;
 }
