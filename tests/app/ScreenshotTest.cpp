@@ -67,10 +67,10 @@ public:
     // A picture of the pointer's hover is taken at once: the offscreen window forgets the
     // pointer within a few frames. A window of its own (the help window) is saved the same way.
     enum Timing { AfterTransitions, Immediately };
-    void save(const QString& name, Timing timing = AfterTransitions) {
-        save(name, window(), timing);
-    }
-    void save(const QString& name, QQuickWindow* shown, Timing timing = AfterTransitions) {
+    void save(const QString& name, Timing timing = AfterTransitions,
+              QQuickWindow* shown = nullptr) {
+        if (!shown)
+            shown = window();
         QVERIFY(shown);
         QVERIFY(QTest::qWaitForWindowExposed(shown));
         if (timing == AfterTransitions)
@@ -90,9 +90,8 @@ private:
     QQmlApplicationEngine m_engine;
 };
 
-AnalysisResult dashboardResult() {
-    return testing::sampleResult(QStringLiteral("/Users/ann/Projects"),
-                                 QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC));
+AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
+    return testing::sampleResult(root, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC));
 }
 
 // A full result as a scan of a busy projects folder gives it.
@@ -137,18 +136,6 @@ QPoint centerOf(const QQuickItem* item, qreal fractionX = 0.5) {
     return item->mapToScene(QPointF(item->width() * fractionX, item->height() / 2)).toPoint();
 }
 
-ScanProgress midScan() {
-    ScanProgress progress;
-    progress.phase = ScanPhase::analyzing;
-    progress.filesScanned = 18342;
-    progress.foldersScanned = 2210;
-    progress.bytesScanned = 7'340'000'000;
-    progress.currentPath = QStringLiteral("/Users/ann/Projects/tessarine/build/src/app");
-    progress.startTime = QDateTime::currentDateTimeUtc().addSecs(-42);
-    progress.estimatedTotalFiles = 48210;
-    return progress;
-}
-
 } // namespace
 
 // Renders the main window in its characteristic states, for people to look at; the assertions
@@ -170,7 +157,8 @@ private slots:
     void scanning() {
         Scene scene;
         scene.state().setCurrentView(AppState::Scanning);
-        scene.state().setScanProgress(midScan());
+        scene.state().setScanProgress(
+            testing::sampleProgress(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app")));
         scene.save(QStringLiteral("scanning"));
     }
 
@@ -208,16 +196,14 @@ private slots:
             Scene scene;
             scene.window()->resize(size);
             scene.state().setCurrentView(AppState::Scanning);
-            ScanProgress progress = midScan();
-            progress.currentPath = longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data");
-            scene.state().setScanProgress(progress);
+            scene.state().setScanProgress(testing::sampleProgress(
+                longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data")));
             scene.save(QStringLiteral("scanning") + suffix);
         }
         {
             Scene scene(3);
             scene.window()->resize(size);
-            scene.state().openResult(testing::sampleResult(
-                longFolder, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC)));
+            scene.state().openResult(dashboardResult(longFolder));
             scene.save(QStringLiteral("dashboard") + suffix);
         }
     }
@@ -377,7 +363,7 @@ private slots:
         QVERIFY(sidebar);
         for (int section = 0; section < 7; ++section) {
             sidebar->setProperty("currentIndex", section);
-            scene.save(QStringLiteral("help-%1").arg(section + 1), help);
+            scene.save(QStringLiteral("help-%1").arg(section + 1), Scene::AfterTransitions, help);
         }
     }
 

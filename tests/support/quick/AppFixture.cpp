@@ -137,15 +137,7 @@ void AppFixture::saveElsewhere(const QString& rootPath, double hoursAgo) {
 }
 
 void AppFixture::showProgress(const QString& currentPath) {
-    ScanProgress progress;
-    progress.phase = ScanPhase::analyzing;
-    progress.filesScanned = 1'200;
-    progress.foldersScanned = 300;
-    progress.bytesScanned = 5'000'000;
-    progress.currentPath = currentPath;
-    progress.startTime = QDateTime::currentDateTimeUtc().addSecs(-30);
-    progress.estimatedTotalFiles = 3'000;
-    m_state->setScanProgress(progress);
+    m_state->setScanProgress(testing::sampleProgress(currentPath));
 }
 
 void AppFixture::clearProgress() {

@@ -16,6 +16,18 @@ AnalysisResult sampleResult(const QString& rootPath, const QDateTime& scanDate) 
     return result;
 }
 
+ScanProgress sampleProgress(const QString& currentPath) {
+    ScanProgress progress;
+    progress.phase = ScanPhase::analyzing;
+    progress.filesScanned = 1'200;
+    progress.foldersScanned = 300;
+    progress.bytesScanned = 5'000'000;
+    progress.currentPath = currentPath;
+    progress.startTime = QDateTime::currentDateTimeUtc().addSecs(-30);
+    progress.estimatedTotalFiles = 3'000;
+    return progress;
+}
+
 void storeSampleHistory(PersistenceService& store, int count) {
     const QDateTime newest(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC);
     for (int i = 0; i < count; ++i) {

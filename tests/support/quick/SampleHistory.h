@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Records.h"
+#include "model/ScanProgress.h"
 
 namespace tessarine {
 class PersistenceService;
@@ -10,6 +11,9 @@ namespace tessarine::testing {
 
 // A finished scan of `rootPath` with a little of everything the screens show.
 AnalysisResult sampleResult(const QString& rootPath, const QDateTime& scanDate);
+
+// A scan 30 seconds in, analysing, two fifths of the estimated files done.
+ScanProgress sampleProgress(const QString& currentPath);
 
 // Stores `count` sample results, one day apart; the newest is a scan of "/", the others of
 // "/Users/ann/Project N".
