@@ -204,52 +204,37 @@ private slots:
         QVERIFY(!state.hasError());
     }
 
-    void historyLoadsNewestFirstAndSkipsBrokenFiles() {
-        QTemporaryDir home;
-        PersistenceService store(home.path());
-        const AnalysisResult old = testing::plainResult(QStringLiteral("/a/old"),
-                                                        QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
-        const AnalysisResult recent = testing::plainResult(
-            QStringLiteral("/a/recent"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
-        QVERIFY(!store.save(old));
-        QVERIFY(!store.save(recent));
-        QFile broken(store.storagePath() +
-                     QStringLiteral("/scan_00000000-0000-0000-0000-000000000001.json"));
-        QVERIFY(broken.open(QIODevice::WriteOnly));
-        broken.write("{ not json");
-        broken.close();
-
-        AppState state(store);
-        QVERIFY(!state.hasError());
-        QCOMPARE(state.scanHistory()->results(), (QList{recent, old}));
-        QCOMPARE(state.currentView(), AppState::Landing);
-    }
-
-    // Another process (tessarine-cli scan --save) writes through a store of its own.
+    // Newest first, broken files skipped and left alone; another process (tessarine-cli scan
+    // --save) writes through a store of its own and the list follows.
     void historyFollowsTheFolderOnDisk() {
         QTemporaryDir home;
         PersistenceService store(home.path());
         const AnalysisResult old = testing::plainResult(QStringLiteral("/a/old"),
                                                         QDateTime(QDate(2023, 5, 1), {}, Qt::UTC));
+        const AnalysisResult recent = testing::plainResult(
+            QStringLiteral("/a/recent"), QDateTime(QDate(2024, 5, 1), {}, Qt::UTC));
         QVERIFY(!store.save(old));
+        QVERIFY(!store.save(recent));
+        const QString brokenPath = store.historyFilePath(QUuid::createUuid());
+        testing::writeFile(brokenPath, 0);
         AppState state(store);
         ScanHistoryModel& history = *state.scanHistory();
+        QCOMPARE(history.results(), (QList{recent, old}));
         QSignalSpy removals(&history, &QAbstractItemModel::rowsRemoved);
 
         PersistenceService otherProcess(home.path());
         const AnalysisResult saved = testing::plainResult(
             QStringLiteral("/a/new"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
         QVERIFY(!otherProcess.save(saved));
-        QTRY_COMPARE(history.results(), (QList{saved, old}));
-        // The row already listed was kept, not removed and listed again.
+        QTRY_COMPARE(history.results(), (QList{saved, recent, old}));
+        // The rows already listed were kept, not removed and listed again.
         QCOMPARE(removals.count(), 0);
 
-        const QString brokenPath = store.historyFilePath(QUuid::createUuid());
-        testing::writeFile(brokenPath, 0);
         QVERIFY(QFile::remove(store.historyFilePath(old.id)));
-        QTRY_COMPARE(history.results(), QList{saved});
+        QTRY_COMPARE(history.results(), (QList{saved, recent}));
         QVERIFY(QFile::exists(brokenPath));
         QVERIFY(!state.hasError());
+        QCOMPARE(state.currentView(), AppState::Landing);
     }
 };
 

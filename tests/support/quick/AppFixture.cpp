@@ -46,7 +46,6 @@ AppFixture::AppFixture(const QString& screenshotFolder, QObject* parent)
     , m_screenshotFolder(screenshotFolder)
     , m_store(std::make_unique<PersistenceService>(m_home.path())) {
     testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
-    testing::writeFile(m_files.filePath(QStringLiteral("notes.txt")), 10);
     testing::storeSampleHistory(*m_store, storedScanCount());
     m_state = std::make_unique<AppState>(*m_store);
     AppState::setSharedInstance(m_state.get());
@@ -77,10 +76,6 @@ QString AppFixture::folderPath() const {
 
 QUrl AppFixture::folderUrl() const {
     return QUrl::fromLocalFile(folderPath());
-}
-
-QUrl AppFixture::fileUrl() const {
-    return QUrl::fromLocalFile(m_files.filePath(QStringLiteral("notes.txt")));
 }
 
 // Made on first use: most test files never scan it, and writing it is most of a fixture's cost.

@@ -27,7 +27,6 @@ class AppFixture : public QObject {
     Q_OBJECT
     Q_PROPERTY(QUrl folderUrl READ folderUrl CONSTANT)
     Q_PROPERTY(QString folderPath READ folderPath CONSTANT)
-    Q_PROPERTY(QUrl fileUrl READ fileUrl CONSTANT)
     Q_PROPERTY(QUrl largeFolderUrl READ largeFolderUrl CONSTANT)
     Q_PROPERTY(int storedScanCount READ storedScanCount CONSTANT)
 
@@ -38,7 +37,6 @@ public:
 
     QUrl folderUrl() const;
     QString folderPath() const;
-    QUrl fileUrl() const;
     // A folder of some thousands of files, for a scan that is still running a moment later.
     QUrl largeFolderUrl() const;
     static int storedScanCount() { return 7; }
