@@ -4,75 +4,71 @@ import Tessarine
 import Tessarine.App
 import Tessarine.Testing
 
-// The tested items live in this visible window content: a TestCase itself is never shown.
-Item {
-    id: stage
+TestCase {
+    id: testCase
 
+    name: "DropTarget"
     width: 1200
     height: 800
+    // Hover, drags and shortcuts reach only items in a shown window.
+    visible: true
+    when: windowShown
 
-    TestCase {
-        id: testCase
-
-        name: "DropTarget"
-        when: windowShown
-
-        Component {
-            id: contentComponent
-            ContentView {
-                width: stage.width
-                height: stage.height
-            }
+    Component {
+        id: contentComponent
+        ContentView {
+            width: testCase.width
+            height: testCase.height
         }
+    }
 
-        property ContentView content
+    property ContentView content
 
-        function init() {
-            content = createTemporaryObject(contentComponent, stage)
-            AppState.currentView = AppState.Landing
-        }
+    function init() {
+        content = createTemporaryObject(contentComponent, testCase)
+        AppState.currentView = AppState.Landing
+    }
 
-        function cleanup() {
-            Fixture.leave()
-            if (AppState.isScanning)
-                AppState.cancelScan()
-            AppState.clearError()
-            Fixture.forgetFolderScans()
-        }
+    function cleanup() {
+        Fixture.leave()
+        if (AppState.isScanning)
+            AppState.cancelScan()
+        AppState.clearError()
+        Fixture.forgetFolderScans()
+    }
 
-        function overlay() {
-            return findChild(content, "dropOverlay")
-        }
+    function overlay() {
+        return findChild(content, "dropOverlay")
+    }
 
-        function test_droppedFolderStartsAScan() {
-            // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
-            verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
-            verify(content.isDropTargeted)
-            verify(overlay().shown)
-            verify(!overlay().startsNewScan)
-            compare(Fixture.drop(), Qt.CopyAction)
-            verify(!content.isDropTargeted)
-            tryCompare(AppState, "currentView", AppState.Scanning)
-            tryCompare(AppState, "isScanning", false, 30000)
-            compare(AppState.currentView, AppState.Dashboard)
-            compare(AppState.currentResult.rootPath, Fixture.folderPath)
+    function test_droppedFolderStartsAScan() {
+        // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
+        verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
+        verify(content.isDropTargeted)
+        verify(overlay().shown)
+        verify(!overlay().startsNewScan)
+        compare(Fixture.drop(), Qt.CopyAction)
+        verify(!content.isDropTargeted)
+        tryCompare(AppState, "currentView", AppState.Scanning)
+        tryCompare(AppState, "isScanning", false, 30000)
+        compare(AppState.currentView, AppState.Dashboard)
+        compare(AppState.currentResult.rootPath, Fixture.folderPath)
 
-            // Over the dashboard the overlay says that a new scan replaces the one on display.
-            verify(Fixture.dragOver(content, Fixture.folderUrl))
-            verify(overlay().startsNewScan)
-            Fixture.leave()
-            verify(!content.isDropTargeted)
-            tryCompare(overlay(), "visible", false)
-        }
+        // Over the dashboard the overlay says that a new scan replaces the one on display.
+        verify(Fixture.dragOver(content, Fixture.folderUrl))
+        verify(overlay().startsNewScan)
+        Fixture.leave()
+        verify(!content.isDropTargeted)
+        tryCompare(overlay(), "visible", false)
+    }
 
-        function test_dropsAreRefusedWhileScanning() {
-            AppState.startScan(Fixture.folderUrl)
-            verify(AppState.isScanning)
-            verify(!Fixture.dragOver(content, Fixture.folderUrl))
-            verify(!content.isDropTargeted)
-            verify(!overlay().shown)
-            compare(Fixture.drop(), Qt.IgnoreAction)
-            compare(AppState.currentView, AppState.Scanning)
-        }
+    function test_dropsAreRefusedWhileScanning() {
+        AppState.startScan(Fixture.folderUrl)
+        verify(AppState.isScanning)
+        verify(!Fixture.dragOver(content, Fixture.folderUrl))
+        verify(!content.isDropTargeted)
+        verify(!overlay().shown)
+        compare(Fixture.drop(), Qt.IgnoreAction)
+        compare(AppState.currentView, AppState.Scanning)
     }
 }

@@ -3,60 +3,56 @@ import QtTest
 import Tessarine
 import Tessarine.App
 
-// The tested items live in this visible window content: a TestCase itself is never shown.
-Item {
-    id: stage
+TestCase {
+    id: testCase
 
+    name: "ErrorAlert"
     width: 800
     height: 600
+    // Hover, drags and shortcuts reach only items in a shown window.
+    visible: true
+    when: windowShown
 
-    TestCase {
-        id: testCase
+    Component {
+        id: alertComponent
+        ErrorAlert {}
+    }
 
-        name: "ErrorAlert"
-        when: windowShown
+    function cleanup() {
+        AppState.clearError()
+    }
 
-        Component {
-            id: alertComponent
-            ErrorAlert {}
-        }
+    function test_alertShowsTheErrorAndOkClearsIt() {
+        const alert = createTemporaryObject(alertComponent, testCase)
+        verify(!alert.visible)
 
-        function cleanup() {
-            AppState.clearError()
-        }
+        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        tryCompare(alert, "opened", true)
+        compare(alert.title, "Error")
+        compare(findChild(alert.contentItem, "errorDescription").text,
+                "Scan failed: Cannot access directory: /x")
+        const suggestion = findChild(alert.contentItem, "recoverySuggestion")
+        verify(suggestion.visible)
+        compare(suggestion.text,
+                "Try selecting a different folder or check if you have permission to access it.")
 
-        function test_alertShowsTheErrorAndOkClearsIt() {
-            const alert = createTemporaryObject(alertComponent, stage)
-            verify(!alert.visible)
+        // A newer error replaces the one on show.
+        AppState.error = AppError.cancelled()
+        compare(findChild(alert.contentItem, "errorDescription").text, "Operation was cancelled")
+        verify(!suggestion.visible)
 
-            AppState.error = AppError.scanFailed("Cannot access directory: /x")
-            tryCompare(alert, "opened", true)
-            compare(alert.title, "Error")
-            compare(findChild(alert.contentItem, "errorDescription").text,
-                    "Scan failed: Cannot access directory: /x")
-            const suggestion = findChild(alert.contentItem, "recoverySuggestion")
-            verify(suggestion.visible)
-            compare(suggestion.text,
-                    "Try selecting a different folder or check if you have permission to access it.")
+        mouseClick(findChild(alert.contentItem, "okButton"))
+        tryCompare(alert, "visible", false)
+        verify(!AppState.hasError)
+    }
 
-            // A newer error replaces the one on show.
-            AppState.error = AppError.cancelled()
-            compare(findChild(alert.contentItem, "errorDescription").text, "Operation was cancelled")
-            verify(!suggestion.visible)
-
-            mouseClick(findChild(alert.contentItem, "okButton"))
-            tryCompare(alert, "visible", false)
-            verify(!AppState.hasError)
-        }
-
-        function test_escapeDismissesAndClears() {
-            const alert = createTemporaryObject(alertComponent, stage)
-            AppState.error = AppError.unknown("")
-            tryCompare(alert, "opened", true)
-            verify(!findChild(alert.contentItem, "errorDescription").visible)
-            keyClick(Qt.Key_Escape)
-            tryCompare(alert, "visible", false)
-            verify(!AppState.hasError)
-        }
+    function test_escapeDismissesAndClears() {
+        const alert = createTemporaryObject(alertComponent, testCase)
+        AppState.error = AppError.unknown("")
+        tryCompare(alert, "opened", true)
+        verify(!findChild(alert.contentItem, "errorDescription").visible)
+        keyClick(Qt.Key_Escape)
+        tryCompare(alert, "visible", false)
+        verify(!AppState.hasError)
     }
 }

@@ -4,79 +4,75 @@ import Tessarine
 import Tessarine.App
 import Tessarine.Testing
 
-// The tested items live in this visible window content: a TestCase itself is never shown.
-Item {
-    id: stage
+TestCase {
+    id: testCase
 
+    name: "Sidebar"
     width: 250
     height: 800
+    // Hover, drags and shortcuts reach only items in a shown window.
+    visible: true
+    when: windowShown
 
-    TestCase {
-        id: testCase
-
-        name: "Sidebar"
-        when: windowShown
-
-        Component {
-            id: sidebarComponent
-            SidebarView {
-                width: stage.width
-                height: stage.height
-            }
+    Component {
+        id: sidebarComponent
+        SidebarView {
+            width: testCase.width
+            height: testCase.height
         }
+    }
 
-        function rowsNamed(item, objectName) {
-            let found = []
-            for (let i = 0; i < item.children.length; ++i) {
-                const child = item.children[i]
-                if (child.objectName === objectName)
-                    found.push(child)
-                found = found.concat(rowsNamed(child, objectName))
-            }
-            return found
+    function rowsNamed(item, objectName) {
+        let found = []
+        for (let i = 0; i < item.children.length; ++i) {
+            const child = item.children[i]
+            if (child.objectName === objectName)
+                found.push(child)
+            found = found.concat(rowsNamed(child, objectName))
         }
+        return found
+    }
 
-        function test_recentRowsShowTheFiveNewestScans() {
-            compare(AppState.scanHistory.count, Fixture.storedScanCount)
-            const sidebar = createTemporaryObject(sidebarComponent, stage)
-            verify(findChild(sidebar, "recentSection").visible)
-            const rows = rowsNamed(sidebar, "recentScanRow")
-            compare(rows.length, 5)
-            // The newest is a scan of "/": the text after its only slash is empty.
-            compare(rows[0].folderName, "")
-            compare(rows[1].folderName, "Project 1")
-            compare(rows[4].folderName, "Project 4")
-            compare(rows[1].totalSize, rows[1].result.totalSize)
-        }
+    function test_recentRowsShowTheFiveNewestScans() {
+        compare(AppState.scanHistory.count, Fixture.storedScanCount)
+        const sidebar = createTemporaryObject(sidebarComponent, testCase)
+        verify(findChild(sidebar, "recentSection").visible)
+        const rows = rowsNamed(sidebar, "recentScanRow")
+        compare(rows.length, 5)
+        // The newest is a scan of "/": the text after its only slash is empty.
+        compare(rows[0].folderName, "")
+        compare(rows[1].folderName, "Project 1")
+        compare(rows[4].folderName, "Project 4")
+        compare(rows[1].totalSize, rows[1].result.totalSize)
+    }
 
-        function test_aRunningScanKeepsARowThatLeadsBackToIt() {
-            const sidebar = createTemporaryObject(sidebarComponent, stage)
-            const running = findChild(sidebar, "runningScanRow")
-            verify(!running.visible)
-            AppState.startScan(Fixture.largeFolderUrl)
-            AppState.currentView = AppState.History
-            verify(running.visible)
-            // Not clicked: the scan may end at any turn of the event loop and leave for the
-            // dashboard; the row is the plain view row every other sidebar row is.
-            compare(running.view, AppState.Scanning)
-            AppState.cancelScan()
-            verify(!running.visible)
-        }
+    function test_aRunningScanKeepsARowThatLeadsBackToIt() {
+        const sidebar = createTemporaryObject(sidebarComponent, testCase)
+        const running = findChild(sidebar, "runningScanRow")
+        verify(!running.visible)
+        AppState.startScan(Fixture.largeFolderUrl)
+        AppState.currentView = AppState.History
+        verify(running.visible)
+        // Not clicked: the scan may end at any turn of the event loop and leave for the
+        // dashboard; the row is the plain view row every other sidebar row is.
+        compare(running.view, AppState.Scanning)
+        AppState.cancelScan()
+        verify(!running.visible)
+    }
 
-        function test_choosingARecentRowShowsItsResult() {
-            AppState.currentView = AppState.History
-            const sidebar = createTemporaryObject(sidebarComponent, stage)
-            const row = rowsNamed(sidebar, "recentScanRow")[2]
-            mouseClick(row)
-            compare(AppState.currentResult.rootPath, row.result.rootPath)
-            compare(AppState.currentView, AppState.Dashboard)
-            const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
-            verify(currentAnalysis.visible)
-            verify(currentAnalysis.selected)
+    function test_choosingARecentRowShowsItsResult() {
+        AppState.currentView = AppState.History
+        const sidebar = createTemporaryObject(sidebarComponent, testCase)
+        const row = rowsNamed(sidebar, "recentScanRow")[2]
+        mouseClick(row)
+        compare(AppState.currentResult.rootPath, row.result.rootPath)
+        compare(AppState.currentView, AppState.Dashboard)
+        const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
+        verify(currentAnalysis.visible)
+        verify(currentAnalysis.selected)
 
-            mouseClick(rowsNamed(sidebar, "recentScanRow")[0])
-            compare(AppState.currentResult.rootPath, "/")
-            compare(AppState.currentView, AppState.Dashboard)
-        }
+        mouseClick(rowsNamed(sidebar, "recentScanRow")[0])
+        compare(AppState.currentResult.rootPath, "/")
+        compare(AppState.currentView, AppState.Dashboard)
     }
 }
