@@ -64,7 +64,6 @@ private slots:
         QCOMPARE(historyFiles(store),
                  QStringList{QStringLiteral("scan_%1.json")
                                  .arg(shown.id.toString(QUuid::WithoutBraces).toUpper())});
-        QVERIFY(!state.isScanning());
         QVERIFY(!state.hasCurrentScanner());
         QVERIFY(!state.hasError());
         // The screen is left with the scanner's final counters.

@@ -3,6 +3,7 @@ import QtTest
 import Tessarine
 import Tessarine.App
 import Tessarine.Testing
+import "../../screens/qml/ViewSearch.js" as ViewSearch
 
 TestCase {
     id: testCase
@@ -22,22 +23,15 @@ TestCase {
         }
     }
 
-    function rowsNamed(item, objectName) {
-        let found = []
-        for (let i = 0; i < item.children.length; ++i) {
-            const child = item.children[i]
-            if (child.objectName === objectName)
-                found.push(child)
-            found = found.concat(rowsNamed(child, objectName))
-        }
-        return found
+    function recentRows(sidebar) {
+        return ViewSearch.visibleItems(sidebar, item => item.objectName === "recentScanRow")
     }
 
     function test_recentRowsShowTheFiveNewestScans() {
         compare(AppState.scanHistory.count, Fixture.storedScanCount)
         const sidebar = createTemporaryObject(sidebarComponent, testCase)
         verify(findChild(sidebar, "recentSection").visible)
-        const rows = rowsNamed(sidebar, "recentScanRow")
+        const rows = recentRows(sidebar)
         compare(rows.length, 5)
         // The newest is a scan of "/": the text after its only slash is empty.
         compare(rows[0].folderName, "")
@@ -63,7 +57,7 @@ TestCase {
     function test_choosingARecentRowShowsItsResult() {
         AppState.currentView = AppState.History
         const sidebar = createTemporaryObject(sidebarComponent, testCase)
-        const row = rowsNamed(sidebar, "recentScanRow")[2]
+        const row = recentRows(sidebar)[2]
         mouseClick(row)
         compare(AppState.currentResult.rootPath, row.result.rootPath)
         compare(AppState.currentView, AppState.Dashboard)
@@ -71,7 +65,7 @@ TestCase {
         verify(currentAnalysis.visible)
         verify(currentAnalysis.selected)
 
-        mouseClick(rowsNamed(sidebar, "recentScanRow")[0])
+        mouseClick(recentRows(sidebar)[0])
         compare(AppState.currentResult.rootPath, "/")
         compare(AppState.currentView, AppState.Dashboard)
     }
