@@ -12,15 +12,6 @@
 using namespace tessarine;
 using namespace tessarine::testing;
 
-namespace {
-
-// Three files of 1, 2 and 3 bytes in two levels of folders.
-void makeSmallTree(const QString& root) {
-    writeFiles(root, {{"a.txt", 1}, {"docs/b.txt", 2}, {"docs/old/c.txt", 3}});
-}
-
-} // namespace
-
 class FolderTreeControllerTest : public QObject {
     Q_OBJECT
 
@@ -30,7 +21,8 @@ private slots:
         const QTemporaryDir large = makeFastTemporaryDir();
         generateTree(large.path(), 20000, 3u);
         QTemporaryDir small;
-        makeSmallTree(small.path());
+        // Three files of 1, 2 and 3 bytes in two levels of folders.
+        writeFiles(small.path(), {{"a.txt", 1}, {"docs/b.txt", 2}, {"docs/old/c.txt", 3}});
         FolderTreeController controller;
         QSignalSpy states(&controller, &FolderTreeController::stateChanged);
 

@@ -17,16 +17,11 @@ public:
     // over the first, which then wins its hit test.
     Q_INVOKABLE tessarine::TreemapCellList grid(int columns, int rows, qreal size) const {
         QList<TreemapCell> cells;
+        TreemapCell cell{{}, 4, Qt::blue, 0.75, {Qt::black, 1}, 0.9, {Qt::white, 2}, {}};
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
-                cells.append({QRectF(column * size, row * size, size, size),
-                              4,
-                              Qt::blue,
-                              0.75,
-                              {Qt::black, 1},
-                              0.9,
-                              {Qt::white, 2},
-                              {}});
+                cell.rect = QRectF(column * size, row * size, size, size);
+                cells.append(cell);
             }
         }
         cells.append(
