@@ -116,8 +116,6 @@ private slots:
     void summaryCardsFormatSizesCountsAndPlainDepths() {
         const auto figures = summaryFigures({2'500'000'000, 1'234'567, 4'321, 12'345});
         QCOMPARE(values(figures), (QStringList{"2.5 GB", "1,234,567", "4,321", "12345"}));
-        QCOMPARE(figures[3].detail, QStringLiteral("levels deep"));
-        QVERIFY(figures[0].detail.isEmpty());
     }
 };
 
