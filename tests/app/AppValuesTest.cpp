@@ -1,6 +1,5 @@
 #include "ScanFolders.h"
 
-#include "app/AppError.h"
 #include "app/FolderDrop.h"
 #include "app/SymbolTable.h"
 #include "model/FileCategory.h"
@@ -15,12 +14,6 @@ class AppValuesTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // Different cases that read the same are the same error to the alert.
-    void errorsThatReadTheSameAreTheSame() {
-        QCOMPARE(AppError::unknown(QStringLiteral("Invalid path: /p")).identity(),
-                 AppError::invalidPath(QStringLiteral("/p")).identity());
-    }
-
     void onlyLocalFoldersAreDropTargets() {
         QTemporaryDir root;
         const QString file = root.filePath(QStringLiteral("notes.txt"));

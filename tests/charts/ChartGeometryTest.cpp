@@ -18,7 +18,6 @@ private slots:
         QTest::addColumn<qint64>("maxValue");
         QTest::addColumn<QList<qint64>>("ticks");
         QTest::newRow("nothing") << qint64(0) << QList<qint64>{0, 1};
-        QTest::newRow("seven") << qint64(7) << QList<qint64>{0, 2, 4, 6, 8};
         QTest::newRow("exact end") << qint64(100) << QList<qint64>{0, 50, 100};
         QTest::newRow("just over") << qint64(101) << QList<qint64>{0, 50, 100, 150};
         QTest::newRow("4.3 GB") << qint64(4'300'000'000)
