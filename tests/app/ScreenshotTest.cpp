@@ -206,6 +206,12 @@ private slots:
             scene.state().openResult(dashboardResult(longFolder));
             scene.save(QStringLiteral("dashboard") + suffix);
         }
+        {
+            Scene scene(5, true);
+            scene.window()->resize(size);
+            scene.state().setCurrentView(AppState::History);
+            scene.save(QStringLiteral("history") + suffix);
+        }
     }
 
     void folderAnalysis() {
