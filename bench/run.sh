@@ -140,29 +140,26 @@ if [[ -x $responsiveness ]]; then
     "$responsiveness" "$tree"
 fi
 
-if [[ -x $treemap ]]; then
+# offscreen TITLE COMMAND...: an interface benchmark, drawn by the software renderer offscreen
+# (what machines without a GPU and the tests use); skipped when the core-only build lacks it.
+offscreen() {
+    local title=$1
+    shift
+    [[ -x $1 ]] || return 0
     echo
-    echo "Drawing a folder treemap level of 5,000 folders (software renderer, offscreen):"
-    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$treemap"
-fi
+    echo "$title (software renderer, offscreen):"
+    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$@"
+}
+
+offscreen "Drawing a folder treemap level of 5,000 folders" "$treemap"
 
 if [[ -x $folders ]]; then
-    echo
-    echo "Folder analysis of the benchmark tree in the dashboard's section (software renderer, offscreen):"
-    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$folders" "$tree" >"$work/folders"
+    offscreen "Folder analysis of the benchmark tree in the dashboard's section" \
+        "$folders" "$tree" >"$work/folders"
     grep -v '^build-seconds' "$work/folders"
     section_vs_cli=$(ratio "$(awk '/^build-seconds/ { print $2 }' "$work/folders")" "$wall_tree")
     echo "$(verdict "$section_vs_cli" 1.1)  section build <= 1.1 x tessarine-cli tree ($section_vs_cli)"
 fi
 
-if [[ -x $dashboard ]]; then
-    echo
-    echo "Opening the dashboard (software renderer, offscreen):"
-    QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$dashboard"
-fi
-
-if [[ -x $history ]]; then
-    echo
-    echo "Starting over a history of 1,000 scans, scrolling and searching it (software renderer, offscreen):"
-    "$history"
-fi
+offscreen "Opening the dashboard" "$dashboard"
+offscreen "Starting over a history of 1,000 scans, scrolling and searching it" "$history"

@@ -79,8 +79,7 @@ void AppState::setCurrentView(AppView view) {
         emit currentViewChanged();
 }
 
-// Results are told apart by id first: comparing two different results field by field would be
-// wasted work, and an equal id with other contents is still another value for the views.
+// The id is the first field compared, so telling two results apart costs little.
 void AppState::setCurrentResult(const AnalysisResult& result) {
     if (assignIfChanged(m_currentResult, std::optional(result)))
         emit currentResultChanged();

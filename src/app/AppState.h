@@ -66,8 +66,11 @@ public:
     AppView currentView() const { return m_currentView; }
     void setCurrentView(AppView view);
     const std::optional<AnalysisResult>& currentResult() const { return m_currentResult; }
+    // Every binding on the result reads it: an empty result made per read would draw a fresh
+    // record id each time, so the stand-in is made once.
     AnalysisResult currentResultOrEmpty() const {
-        return m_currentResult.value_or(AnalysisResult{});
+        static const AnalysisResult none;
+        return m_currentResult ? *m_currentResult : none;
     }
     bool hasCurrentResult() const { return m_currentResult.has_value(); }
     void setCurrentResult(const AnalysisResult& result);
