@@ -32,7 +32,12 @@ Rectangle {
             font: crumb.font
             color: crumb.tint
         }
-        background: Item {}
+        background: Item {
+            FocusRing {
+                shown: crumb.visualFocus
+                controlRadius: Theme.radiusSmall - 2
+            }
+        }
 
         HoverHandler { cursorShape: crumb.enabled ? Qt.PointingHandCursor : Qt.ArrowCursor }
     }

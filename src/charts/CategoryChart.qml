@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
 import Tessarine.Charts
@@ -28,13 +29,26 @@ ChartCard {
         symbol: "chart.bar.fill"
         symbolColor: Theme.blue
 
-        Rectangle {
+        AbstractButton {
+            id: clearButton
+
             objectName: "clearCategoryButton"
             visible: card.hasSelection
-            implicitWidth: clearLabel.implicitWidth + 16
-            implicitHeight: clearLabel.implicitHeight + 8
-            radius: height / 2
-            color: Theme.withOpacity(Theme.named(selectedName.colorName), 0.2)
+            leftPadding: 8
+            rightPadding: 8
+            topPadding: 4
+            bottomPadding: 4
+            onClicked: card.selection.clear()
+
+            background: Rectangle {
+                radius: height / 2
+                color: Theme.withOpacity(Theme.named(selectedName.colorName), 0.2)
+
+                FocusRing {
+                    shown: clearButton.visualFocus
+                    controlRadius: parent.radius
+                }
+            }
 
             // The selected category's figures, read from its legend row.
             QtObject {
@@ -45,10 +59,7 @@ ChartCard {
                 readonly property string colorName: entry ? entry.colorName : ""
             }
 
-            ButtonLabel {
-                id: clearLabel
-
-                anchors.centerIn: parent
+            contentItem: ButtonLabel {
                 text: selectedName.name
                 font: Theme.caption
                 color: Theme.primary
@@ -58,7 +69,6 @@ ChartCard {
                 symbol: "xmark.circle.fill"
             }
 
-            TapHandler { onTapped: card.selection.clear() }
             HoverHandler { cursorShape: Qt.PointingHandCursor }
         }
     }
@@ -71,11 +81,24 @@ ChartCard {
     }
 
     GridLayout {
+        id: legend
+
         Layout.fillWidth: true
         // Adaptive columns of at least 140 points.
         columns: Math.max(1, Math.floor((width + 8) / (140 + 8)))
         rowSpacing: 8
         columnSpacing: 8
+
+        // The arrows move between the categories, Space or Return selects one.
+        FocusSteps {
+            id: legendSteps
+            within: legend
+        }
+
+        Keys.onLeftPressed: legendSteps.step(false)
+        Keys.onUpPressed: legendSteps.step(false)
+        Keys.onRightPressed: legendSteps.step(true)
+        Keys.onDownPressed: legendSteps.step(true)
 
         Repeater {
             id: legendEntries

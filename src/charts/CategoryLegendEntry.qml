@@ -1,10 +1,11 @@
 import QtQuick
+import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
 
 // One category of the chart's legend: its colour, name and share; clicking it selects the
-// category, or clears the selection when it is the selected one.
-Rectangle {
+// category, or clears the selection when it is the selected one (as Space and Return do).
+AbstractButton {
     id: entry
 
     required property int index
@@ -16,21 +17,26 @@ Rectangle {
 
     signal toggled
 
-    implicitHeight: row.implicitHeight + 8
-    implicitWidth: row.implicitWidth + 16
-    radius: 6
-    color: selected ? Theme.withOpacity(Theme.named(colorName), 0.15) : "transparent"
+    padding: 4
+    leftPadding: 8
+    rightPadding: 8
+    onClicked: toggled()
+
+    background: Rectangle {
+        radius: 6
+        color: entry.selected ? Theme.withOpacity(Theme.named(entry.colorName), 0.15) : "transparent"
+
+        FocusRing {
+            shown: entry.visualFocus
+            controlRadius: parent.radius
+        }
+    }
 
     Accessible.role: Accessible.Button
     Accessible.name: name
     Accessible.onPressAction: toggled()
 
-    RowLayout {
-        id: row
-
-        anchors.fill: parent
-        anchors.leftMargin: 8
-        anchors.rightMargin: 8
+    contentItem: RowLayout {
         spacing: 6
 
         Rectangle {
@@ -55,6 +61,5 @@ Rectangle {
         }
     }
 
-    TapHandler { onTapped: entry.toggled() }
     HoverHandler { cursorShape: Qt.PointingHandCursor }
 }

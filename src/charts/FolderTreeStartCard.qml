@@ -84,6 +84,11 @@ Card {
                     color: buildButton.down ? Qt.darker(Theme.orange, 1.15)
                                             : (buildButton.hovered ? Qt.lighter(Theme.orange, 1.08)
                                                                    : Theme.orange)
+
+                    FocusRing {
+                        shown: buildButton.visualFocus
+                        controlRadius: parent.radius
+                    }
                 }
 
                 HoverHandler { cursorShape: Qt.PointingHandCursor }

@@ -1,7 +1,10 @@
 #include "charts/TreemapCells.h"
 
+#include "app/design/Palette.h"
 #include "charts/TreemapLabelPainter.h"
+#include "charts/TreemapNavigation.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -67,20 +70,35 @@ void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered
     paintTreemapLabel(painter, cell.rect, cell.label);
 }
 
+// The ring of the design's buttons, drawn inside the cell so that neighbours do not cover it.
+void paintFocusRing(QPainter& painter, const TreemapCell& cell) {
+    constexpr qreal width = 3;
+    QColor color = paletteColor(u"accent");
+    color.setAlphaF(0.8f);
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setPen(QPen(color, width));
+    painter.setBrush(Qt::NoBrush);
+    const qreal half = width / 2;
+    const qreal radius = std::max(cell.radius - half, 0.0);
+    painter.drawRoundedRect(cell.rect.adjusted(half, half, -half, -half), radius, radius);
+}
+
 } // namespace
 
 TreemapCells::TreemapCells(QQuickItem* parent)
     : QQuickPaintedItem(parent) {
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
+    setActiveFocusOnTab(true);
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {
     if (cells == m_cells)
         return;
     m_cells = cells;
-    // What was under the pointer is another cell now, or none.
-    setHoveredIndex(-1);
+    // What was under the pointer is another cell now, or none; keys go on from the first cell
+    // (after a drill-down, the first of the new level).
+    setHoveredIndex(showsFocusRing() ? firstCell() : -1);
     update();
     emit cellsChanged();
 }
@@ -155,19 +173,30 @@ void TreemapCells::paint(QPainter* painter) {
         if (movesWithHovered(i))
             paintCellWithLabel(*painter, cells[i], false);
     }
+    if (showsFocusRing())
+        paintFocusRing(*painter, hovered);
     painter->restore();
 }
 
 void TreemapCells::hoverEnterEvent(QHoverEvent* event) {
-    setHoveredIndex(cellAt(event->position().x(), event->position().y()));
+    hoverAt(event->position());
 }
 
 void TreemapCells::hoverMoveEvent(QHoverEvent* event) {
-    setHoveredIndex(cellAt(event->position().x(), event->position().y()));
+    // The scene repeats a hover on every frame while the pointer rests; only a move of the
+    // pointer takes the hovered cell back from the keys.
+    if (event->position() != m_pointer)
+        hoverAt(event->position());
 }
 
 void TreemapCells::hoverLeaveEvent(QHoverEvent*) {
+    m_pointer = {-1, -1};
     setHoveredIndex(-1);
+}
+
+void TreemapCells::hoverAt(QPointF position) {
+    m_pointer = position;
+    setHoveredIndex(cellAt(position.x(), position.y()));
 }
 
 void TreemapCells::mousePressEvent(QMouseEvent* event) {
@@ -186,6 +215,48 @@ void TreemapCells::mouseDoubleClickEvent(QMouseEvent* event) {
     event->setAccepted(index >= 0);
     if (index >= 0)
         emit doubleClicked(index);
+}
+
+bool TreemapCells::showsFocusRing() const {
+    return m_keyboardFocus && hasActiveFocus();
+}
+
+void TreemapCells::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    if (key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down) {
+        const int next = m_hoveredIndex < 0
+                             ? firstCell()
+                             : neighbouringCell(m_cells.cells(), m_hoveredIndex, key);
+        if (next >= 0)
+            setHoveredIndex(next);
+    } else if (m_hoveredIndex >= 0 && key == Qt::Key_Space) {
+        emit clicked(m_hoveredIndex);
+    } else if (m_hoveredIndex >= 0 && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+        const int index = m_hoveredIndex;
+        emit clicked(index);
+        emit doubleClicked(index);
+    } else {
+        event->ignore();
+        return;
+    }
+    m_keyboardFocus = true;
+    updateHoveredArea();
+    event->accept();
+}
+
+void TreemapCells::focusInEvent(QFocusEvent* event) {
+    QQuickPaintedItem::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    m_keyboardFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    if (m_keyboardFocus && m_hoveredIndex < 0)
+        setHoveredIndex(firstCell());
+    updateHoveredArea();
+}
+
+void TreemapCells::focusOutEvent(QFocusEvent* event) {
+    QQuickPaintedItem::focusOutEvent(event);
+    m_keyboardFocus = false;
+    updateHoveredArea();
 }
 
 } // namespace tessarine

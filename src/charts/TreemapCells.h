@@ -16,6 +16,11 @@ namespace tessarine {
 // first frame of 5,765 plain rectangle nodes and 15 s with their borders, and it draws no custom
 // geometry at all, while painting the same cells with rounded corners takes milliseconds. A hover
 // change repaints only the two cells concerned.
+//
+// The keyboard reaches the cells too: Tab focuses the item, the arrows move the hovered cell
+// (so the details a pointer would show follow the keys), Space clicks it and Return acts as a
+// double-click does (a click, then the double-click). While the keys lead, the hovered cell
+// carries a focus ring.
 class TreemapCells : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -51,15 +56,25 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
 private:
     void setHoveredIndex(int index);
+    void hoverAt(QPointF position);
     // Schedules a repaint of what the hovered cell covers, drawn hovered or not.
     void updateHoveredArea();
+    bool showsFocusRing() const;
+    // The cell the keys start from when none is hovered: the first, or none in an empty map.
+    int firstCell() const { return m_cells.count() > 0 ? 0 : -1; }
 
     TreemapCellList m_cells;
     int m_hoveredIndex = -1;
     qreal m_hoverScale = 1;
+    bool m_keyboardFocus = false;
+    // Where the pointer last hovered, in the item's coordinates.
+    QPointF m_pointer{-1, -1};
 };
 
 } // namespace tessarine

@@ -173,6 +173,16 @@ private slots:
         drag.leave();
     }
 
+    // Where Tab went: the ring around a button the keyboard reached.
+    void focusRing() {
+        Scene scene(3);
+        scene.state().openResult(dashboardResult());
+        auto* button = findItem(scene.window(), "exportToolbarButton");
+        QVERIFY(button);
+        button->forceActiveFocus(Qt::TabFocusReason);
+        scene.save(QStringLiteral("focus-ring"));
+    }
+
     // Every screen at the smallest window and at full HD, with names long enough to need
     // eliding: no text may run out of its card.
     void screensAtWindowSizes_data() {

@@ -28,6 +28,11 @@ Button {
         color: button.down ? "#E5E5EA" : (button.hovered ? "#F5F5F7" : Theme.controlBackground)
         border.width: 1
         border.color: Theme.withOpacity(Theme.primary, 0.16)
+
+        FocusRing {
+            shown: button.visualFocus
+            controlRadius: parent.radius
+        }
     }
 
     HoverHandler { cursorShape: Qt.PointingHandCursor }

@@ -33,6 +33,11 @@ Button {
             radius: parent.radius
             color: button.down ? Qt.rgba(0, 0, 0, 0.1) : (button.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent")
         }
+
+        FocusRing {
+            shown: button.visualFocus
+            controlRadius: parent.radius
+        }
     }
 
     HoverHandler { cursorShape: Qt.PointingHandCursor }

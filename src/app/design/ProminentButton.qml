@@ -36,6 +36,11 @@ Button {
             radius: parent.radius
             color: button.down ? Qt.rgba(0, 0, 0, 0.15) : (button.hovered ? Qt.rgba(1, 1, 1, 0.1) : "transparent")
         }
+
+        FocusRing {
+            shown: button.visualFocus
+            controlRadius: parent.radius
+        }
     }
 
     HoverHandler { cursorShape: Qt.PointingHandCursor }

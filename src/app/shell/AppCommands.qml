@@ -5,6 +5,9 @@ import Tessarine.App
 // window of the application, as menu commands do.
 Item {
     signal helpRequested
+    // The menu's "Close Window": the menu is the main window's, so it closes that window.
+    signal closeWindowRequested
+    signal quitRequested
 
     function newScan() {
         AppState.showFolderPicker = true
@@ -31,5 +34,11 @@ Item {
         sequences: ["Ctrl+?", "Ctrl+Shift+?"]
         context: Qt.ApplicationShortcut
         onActivated: helpRequested()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+Q"
+        context: Qt.ApplicationShortcut
+        onActivated: quitRequested()
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Controls.impl
 import Tessarine.App
 
 // The window's menus; each entry runs one of the application commands and shows its shortcut.
@@ -10,24 +11,39 @@ MenuBar {
 
     font: Theme.body
 
+    // Every title and entry carries a mnemonic (the letter after "&"), unique among its
+    // neighbours: Alt+F opens this menu, then Alt+N runs its first entry.
     Menu {
-        title: "File"
+        objectName: "fileMenu"
+        title: "&File"
         AppMenuItem {
-            text: "New Scan..."
+            text: "&New Scan..."
             shortcutText: "Ctrl+N"
             onTriggered: bar.commands.newScan()
         }
         AppMenuItem {
-            text: "View History"
+            text: "&View History"
             shortcutText: "Ctrl+Shift+H"
             onTriggered: bar.commands.viewHistory()
+        }
+        MenuSeparator {}
+        AppMenuItem {
+            text: "&Close Window"
+            shortcutText: "Ctrl+W"
+            onTriggered: bar.commands.closeWindowRequested()
+        }
+        AppMenuItem {
+            text: "&Quit"
+            shortcutText: "Ctrl+Q"
+            onTriggered: bar.commands.quitRequested()
         }
     }
 
     Menu {
-        title: "Help"
+        objectName: "helpMenu"
+        title: "&Help"
         AppMenuItem {
-            text: "Tessarine Help"
+            text: "Tessarine &Help"
             shortcutText: "Ctrl+?"
             onTriggered: bar.commands.helpRequested()
         }
@@ -36,7 +52,7 @@ MenuBar {
     delegate: MenuBarItem {
         id: item
         font: Theme.body
-        contentItem: Text {
+        contentItem: MnemonicLabel {
             text: item.text
             font: item.font
             color: Theme.primary

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import QtQuick.Controls.impl
 import Tessarine.App
 
 // One menu entry with its shortcut at the trailing edge. The shortcut itself lives with the
@@ -14,7 +15,7 @@ MenuItem {
 
     contentItem: Item {
         implicitHeight: 22
-        Text {
+        MnemonicLabel {
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             text: item.text

@@ -34,7 +34,12 @@ Dialog {
     header: null
 
     contentItem: ColumnLayout {
+        // Holds the keyboard while the alert is up: Return is "OK", as Escape is.
+        focus: true
         spacing: Theme.spacingSmall
+
+        Keys.onReturnPressed: alert.close()
+        Keys.onEnterPressed: alert.close()
 
         Icon {
             Layout.alignment: Qt.AlignHCenter

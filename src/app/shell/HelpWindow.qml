@@ -17,6 +17,12 @@ Window {
     height: 650
     color: Theme.windowBackground
 
+    // Closes the help window alone while it has the keyboard, as the main window's does for it.
+    Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: help.close()
+    }
+
     HelpView {
         anchors.fill: parent
     }

@@ -23,6 +23,15 @@ ApplicationWindow {
     AppCommands {
         id: commands
         onHelpRequested: helpWindow.showHelp()
+        onCloseWindowRequested: window.close()
+        // The engine hands the request to the application, which ends once the event loop turns.
+        onQuitRequested: Qt.quit()
+    }
+
+    // Closes this window while it has the keyboard; the help window has its own.
+    Shortcut {
+        sequence: "Ctrl+W"
+        onActivated: window.close()
     }
 
     ContentView {

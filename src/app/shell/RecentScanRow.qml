@@ -41,5 +41,10 @@ AbstractButton {
     background: Rectangle {
         radius: Theme.radiusSmall
         color: row.down ? Qt.rgba(0, 0, 0, 0.1) : (row.hovered ? Theme.sidebarSelection : "transparent")
+
+        FocusRing {
+            shown: row.visualFocus
+            controlRadius: parent.radius
+        }
     }
 }

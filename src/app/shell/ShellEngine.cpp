@@ -1,6 +1,7 @@
 #include "ShellEngine.h"
 
 #include "app/design/EmbeddedFonts.h"
+#include "app/design/ReturnKeyClicks.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -22,6 +23,7 @@ void prepareShell() {
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
+    installReturnKeyClicks(*QGuiApplication::instance());
 }
 
 void prepareEngine(QQmlEngine& engine) {

@@ -38,5 +38,10 @@ AbstractButton {
         radius: Theme.radiusSmall
         color: row.selected ? Theme.withOpacity(Theme.accent, 0.15)
                             : (row.hovered ? Theme.sidebarSelection : "transparent")
+
+        FocusRing {
+            shown: row.visualFocus
+            controlRadius: parent.radius
+        }
     }
 }

@@ -22,6 +22,22 @@ Rectangle {
             width: parent.width - 2 * x
             spacing: Theme.spacingLarge
 
+            // Up and Down walk the rows as in a sidebar list: a row of a view shows that view at
+            // once; a recent scan waits for Return or Space, since opening it replaces the
+            // dashboard on display.
+            function showRowOf(row) {
+                if (row && row.hasOwnProperty("view"))
+                    row.clicked()
+            }
+
+            FocusSteps {
+                id: rowSteps
+                within: sections
+            }
+
+            Keys.onUpPressed: showRowOf(rowSteps.step(false))
+            Keys.onDownPressed: showRowOf(rowSteps.step(true))
+
             Text {
                 leftPadding: Theme.spacingSmall
                 text: "Tessarine"

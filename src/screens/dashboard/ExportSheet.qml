@@ -66,7 +66,7 @@ Popup {
                 Repeater {
                     model: ["JSON", "CSV"]
 
-                    Rectangle {
+                    AbstractButton {
                         id: segment
 
                         required property int index
@@ -76,17 +76,26 @@ Popup {
                         objectName: "exportFormat" + modelData
                         width: 100
                         height: 24
-                        radius: Theme.radiusSmall
-                        color: chosen ? Theme.accent : Theme.withOpacity(Theme.secondary, 0.12)
+                        text: modelData
+                        onClicked: sheet.exportFormat = segment.index
 
-                        Text {
-                            anchors.centerIn: parent
-                            text: segment.modelData
-                            font: Theme.weighted(Theme.callout, Font.Medium)
-                            color: segment.chosen ? Theme.labelOnAccent : Theme.primary
+                        background: Rectangle {
+                            radius: Theme.radiusSmall
+                            color: segment.chosen ? Theme.accent : Theme.withOpacity(Theme.secondary, 0.12)
+
+                            FocusRing {
+                                shown: segment.visualFocus
+                                controlRadius: parent.radius
+                            }
                         }
 
-                        TapHandler { onTapped: sheet.exportFormat = segment.index }
+                        contentItem: Text {
+                            text: segment.text
+                            font: Theme.weighted(Theme.callout, Font.Medium)
+                            color: segment.chosen ? Theme.labelOnAccent : Theme.primary
+                            horizontalAlignment: Text.AlignHCenter
+                            verticalAlignment: Text.AlignVCenter
+                        }
                     }
                 }
             }

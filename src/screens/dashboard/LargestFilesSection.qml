@@ -53,14 +53,22 @@ Rectangle {
         RowLayout {
             Layout.fillWidth: true
 
-            Item {
+            AbstractButton {
+                id: disclosure
+
                 objectName: "largestFilesDisclosure"
-                implicitWidth: disclosure.implicitWidth
-                implicitHeight: disclosure.implicitHeight
+                text: "Largest Files"
+                // A click leaves the keyboard with the table, as on the reveal button below.
+                focusPolicy: Qt.TabFocus
+                onClicked: section.isExpanded = !section.isExpanded
 
-                Row {
-                    id: disclosure
+                background: Item {
+                    FocusRing {
+                        shown: disclosure.visualFocus
+                    }
+                }
 
+                contentItem: Row {
                     spacing: Theme.spacingSmall
 
                     Icon {
@@ -85,7 +93,6 @@ Rectangle {
                     }
                 }
 
-                TapHandler { onTapped: section.isExpanded = !section.isExpanded }
                 HoverHandler { cursorShape: Qt.PointingHandCursor }
             }
 
@@ -97,8 +104,9 @@ Rectangle {
                 text: "Reveal in File Manager"
                 symbol: "folder"
                 font: Theme.caption
-                // The table keeps the keyboard, so Ctrl+C still copies what is selected.
-                focusPolicy: Qt.NoFocus
+                // Reached with Tab, but a click leaves the keyboard with the table, so Ctrl+C
+                // still copies what is selected.
+                focusPolicy: Qt.TabFocus
                 onClicked: section.revealSelected()
             }
         }
@@ -134,14 +142,14 @@ Rectangle {
                     onTextEdited: rows.searchText = text
                 }
 
-                Icon {
+                PlainButton {
                     objectName: "clearSearchButton"
                     visible: rows.searchText !== ""
                     symbol: "xmark.circle.fill"
-                    size: 14
-                    color: Theme.secondary
-
-                    TapHandler { onTapped: rows.searchText = "" }
+                    tint: Theme.secondary
+                    leftPadding: Theme.spacingTiny
+                    rightPadding: Theme.spacingTiny
+                    onClicked: rows.searchText = ""
                 }
             }
         }

@@ -5,8 +5,9 @@ import Tessarine.Screens
 
 // The table of the largest files: headers that sort, alternating rows, clicks that select with
 // Shift and Ctrl, a double-click or Enter that reveals, a context menu on one file, and Ctrl+C
-// that copies the selected paths one per line.
-FocusScope {
+// that copies the selected paths one per line. Tab reaches the table as one stop, Up and Down move
+// the selection and the menu key opens the context menu of the current row.
+Control {
     id: root
 
     required property LargestFilesRows rows
@@ -18,9 +19,20 @@ FocusScope {
 
     readonly property var columnWidths: [0, 100, 80, 100, 50]
 
+    focusPolicy: Qt.StrongFocus
+
     function columnWidth(column) {
         const fixed = columnWidths.reduce((sum, width) => sum + width, 0)
         return column === 0 ? Math.max(200, view.width - fixed) : columnWidths[column]
+    }
+
+    function openMenu(row) {
+        menuRow = row
+        const cell = view.itemAtCell(Qt.point(0, row))
+        if (cell)
+            menu.popup(cell, 0, cell.height)
+        else
+            menu.popup()
     }
 
     function moveTo(row) {
@@ -40,6 +52,8 @@ FocusScope {
                 revealRequested(rows.pathAt(rows.currentRow))
         } else if (event.matches(StandardKey.Copy)) {
             FileActions.copyPaths(rows.selectedPaths)
+        } else if (event.key === Qt.Key_Menu && rows.currentRow >= 0) {
+            openMenu(rows.currentRow)
         } else {
             return
         }
@@ -130,6 +144,10 @@ FocusScope {
             root.menuRow = row
             menu.popup()
         }
+    }
+
+    FocusRing {
+        shown: root.visualFocus
     }
 
     Menu {

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.Basic
 import Tessarine.App
 import Tessarine.Screens
 
@@ -12,11 +13,26 @@ Rectangle {
     color: Theme.sidebarBackground
 
     Column {
+        id: rows
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: parent.top
         anchors.margins: Theme.spacingMedium
         spacing: 2
+
+        // Up and Down move through the sections and show each, as in a sidebar list.
+        FocusSteps {
+            id: rowSteps
+            within: rows
+        }
+
+        function showSection(row) {
+            if (row)
+                row.clicked()
+        }
+
+        Keys.onUpPressed: showSection(rowSteps.step(false))
+        Keys.onDownPressed: showSection(rowSteps.step(true))
 
         Text {
             leftPadding: Theme.spacingSmall
@@ -30,7 +46,7 @@ Rectangle {
         Repeater {
             objectName: "helpSectionRows"
             model: sidebar.sections
-            delegate: Rectangle {
+            delegate: AbstractButton {
                 id: row
                 required property var modelData
                 required property int index
@@ -38,13 +54,20 @@ Rectangle {
                 objectName: "helpSection_" + index
                 width: parent.width
                 height: 30
-                radius: 6
-                color: current ? Theme.withOpacity(Theme.accent, 0.15) : "transparent"
+                leftPadding: Theme.spacingSmall
+                onClicked: sidebar.currentIndex = row.index
 
-                Row {
-                    anchors.left: parent.left
-                    anchors.leftMargin: Theme.spacingSmall
-                    anchors.verticalCenter: parent.verticalCenter
+                background: Rectangle {
+                    radius: 6
+                    color: row.current ? Theme.withOpacity(Theme.accent, 0.15) : "transparent"
+
+                    FocusRing {
+                        shown: row.visualFocus
+                        controlRadius: parent.radius
+                    }
+                }
+
+                contentItem: Row {
                     spacing: Theme.spacingSmall
                     Icon {
                         anchors.verticalCenter: parent.verticalCenter
@@ -57,11 +80,6 @@ Rectangle {
                         font: Theme.body
                         color: Theme.primary
                     }
-                }
-
-                MouseArea {
-                    anchors.fill: parent
-                    onClicked: sidebar.currentIndex = row.index
                 }
             }
         }

@@ -18,9 +18,16 @@ Dialog {
     padding: Theme.spacingXLarge
     header: null
     closePolicy: Popup.CloseOnEscape
+    focus: true
 
     contentItem: ColumnLayout {
+        // Return confirms, as the highlighted button of the platform's confirmation does; a
+        // button reached with Tab takes Return itself, so Tab to "Cancel" and Return cancels.
+        focus: true
         spacing: Theme.spacingSmall
+
+        Keys.onReturnPressed: dialog.accept()
+        Keys.onEnterPressed: dialog.accept()
 
         Text {
             Layout.fillWidth: true

@@ -27,6 +27,13 @@ Rectangle {
     border.width: selected ? 2 : 0
     border.color: Theme.accent
 
+    // The list's current card, while the list has the keyboard (only keys give it the focus).
+    FocusRing {
+        shown: card.ListView.isCurrentItem && card.ListView.view.activeFocus
+        controlRadius: card.radius
+        outset: 0
+    }
+
     MouseArea {
         id: area
         anchors.fill: parent

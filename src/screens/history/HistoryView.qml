@@ -52,6 +52,20 @@ Rectangle {
             boundsBehavior: Flickable.StopAtBounds
             ScrollBar.vertical: ScrollBar {}
 
+            // One Tab stop for the whole list: Up and Down move between the cards (the list's own
+            // key navigation), Return opens the current scan as a click does, Space selects it for
+            // a comparison as its circle does, and the menu key opens its context menu.
+            activeFocusOnTab: true
+            Keys.onReturnPressed: openCurrent()
+            Keys.onEnterPressed: openCurrent()
+            Keys.onSpacePressed: if (currentItem) historyScans.toggleSelection(currentItem.result)
+            Keys.onMenuPressed: if (currentItem) scanMenu.openFor(currentItem.result, currentItem.selected)
+
+            function openCurrent() {
+                if (currentItem)
+                    AppState.openResult(currentItem.result)
+            }
+
             header: Item {
                 width: list.width
                 height: trend.visible ? trend.height + Theme.spacingMedium : 0

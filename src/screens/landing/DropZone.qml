@@ -37,6 +37,11 @@ AbstractButton {
             context.strokeStyle = stroke
             context.stroke()
         }
+
+        FocusRing {
+            shown: zone.visualFocus
+            controlRadius: Theme.radiusLarge
+        }
     }
 
     contentItem: Item {

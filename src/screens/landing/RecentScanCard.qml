@@ -20,6 +20,11 @@ AbstractButton {
         color: card.down ? "#F2F2F5" : Theme.controlBackground
         border.width: 1
         border.color: card.hovered ? Theme.withOpacity(Theme.accent, 0.4) : Theme.separator
+
+        FocusRing {
+            shown: card.visualFocus
+            controlRadius: parent.radius
+        }
     }
 
     contentItem: Column {

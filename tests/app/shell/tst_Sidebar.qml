@@ -69,4 +69,29 @@ TestCase {
         compare(AppState.currentResult.rootPath, "/")
         compare(AppState.currentView, AppState.Dashboard)
     }
+
+    // Up and Down walk the rows as a sidebar list does: a view's row shows its view at once, a
+    // recent scan only takes the focus until Return opens it.
+    function test_arrowsWalkTheRowsAndReturnOpensARecentScan() {
+        AppState.currentView = AppState.Landing
+        const sidebar = createTemporaryObject(sidebarComponent, testCase)
+        const viewRows = ViewSearch.visibleItems(sidebar, item => item.hasOwnProperty("view"))
+        viewRows[0].forceActiveFocus(Qt.TabFocusReason)
+        for (const row of viewRows.slice(1)) {
+            keyClick(Qt.Key_Down)
+            verify(row.activeFocus)
+            compare(AppState.currentView, row.view)
+        }
+        const lastView = AppState.currentView
+        keyClick(Qt.Key_Down)
+        const recent = recentRows(sidebar)[0]
+        verify(recent.visualFocus)
+        compare(AppState.currentView, lastView)
+        keyClick(Qt.Key_Return)
+        compare(AppState.currentResult.rootPath, recent.result.rootPath)
+        compare(AppState.currentView, AppState.Dashboard)
+
+        keyClick(Qt.Key_Up)
+        verify(viewRows[viewRows.length - 1].activeFocus)
+    }
 }

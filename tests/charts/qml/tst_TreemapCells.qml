@@ -75,4 +75,44 @@ TestCase {
         compare(cells.hoveredIndex, -1)
         compare(cells.cellAt(100, 100), -1)
     }
+
+    // Tab reaches the cells; the arrows move the hovered cell to its neighbour on screen (the
+    // nested cell over the first is skipped: its centre lies inside the first), Space clicks and
+    // Return double-clicks it, and a mouse focus shows no ring.
+    function test_keysMoveBetweenCellsAndActOnThem() {
+        const cells = createTemporaryObject(cellsComponent, testCase, {cells: CellFixtures.grid(3, 2, 20)})
+        verify(cells.activeFocusOnTab)
+        // The pointer rests away from the cells: the keys lead, and its stillness does not undo them.
+        mouseMove(cells, 300, 250)
+        cells.forceActiveFocus(Qt.TabFocusReason)
+        compare(cells.hoveredIndex, 0)
+        keyClick(Qt.Key_Right)
+        compare(cells.hoveredIndex, 1)
+        keyClick(Qt.Key_Down)
+        compare(cells.hoveredIndex, 4)
+        keyClick(Qt.Key_Down)
+        compare(cells.hoveredIndex, 4)
+        keyClick(Qt.Key_Left)
+        keyClick(Qt.Key_Left)
+        compare(cells.hoveredIndex, 3)
+
+        clickSpy.target = cells
+        clickSpy.signalName = "clicked"
+        doubleClickSpy.target = cells
+        doubleClickSpy.signalName = "doubleClicked"
+        clickSpy.clear()
+        doubleClickSpy.clear()
+        keyClick(Qt.Key_Space)
+        compare(clickSpy.count, 1)
+        compare(doubleClickSpy.count, 0)
+        keyClick(Qt.Key_Return)
+        compare(clickSpy.count, 2)
+        compare(doubleClickSpy.count, 1)
+        compare(doubleClickSpy.signalArguments[0][0], 3)
+
+        // The focused cell wears the accent ring along its inner edge (cell 3: x 0-20, y 20-40).
+        waitForRendering(cells)
+        const ringed = grabImage(cells).pixel(10, 21)
+        verify(ringed.b > 0.8 && ringed.r < 0.3, "ring " + ringed)
+    }
 }

@@ -1,5 +1,6 @@
 #include "AppFixture.h"
 
+#include "KeyboardReach.h"
 #include "SampleHistory.h"
 #include "ScanFolders.h"
 
@@ -231,6 +232,10 @@ void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
     testing::holdBuildInPhase(*service, phase == QLatin1String("building")
                                             ? FolderTreeProgress::Phase::building
                                             : FolderTreeProgress::Phase::enumerating);
+}
+
+QStringList AppFixture::unreachableControls(QQuickItem* root) const {
+    return testing::unreachableControls(root);
 }
 
 QString AppFixture::screenshotPath(const QString& name) const {

@@ -74,6 +74,8 @@ public:
     Q_INVOKABLE QString makeFolder(const QString& name);
     Q_INVOKABLE QString makeFile(const QString& name);
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
+    // The controls under root that the mouse can use and Tab cannot reach (KeyboardReach.h).
+    Q_INVOKABLE QStringList unreachableControls(QQuickItem* root) const;
     // Where a test saves what it rendered, for a person to look at.
     Q_INVOKABLE QString screenshotPath(const QString& name) const;
 

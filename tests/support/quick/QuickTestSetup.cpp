@@ -2,6 +2,9 @@
 
 #include "AppFixture.h"
 
+#include "app/design/ReturnKeyClicks.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
 #include <QQmlEngine>
@@ -15,6 +18,7 @@ QuickTestSetup::~QuickTestSetup() = default;
 void QuickTestSetup::applicationAvailable() {
     QStandardPaths::setTestModeEnabled(true);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    installReturnKeyClicks(*QCoreApplication::instance());
 }
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
