@@ -70,17 +70,22 @@ void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered
     paintTreemapLabel(painter, cell.rect, cell.label);
 }
 
-// The ring of the design's buttons, drawn inside the cell so that neighbours do not cover it.
+// The ring of the design's buttons, drawn inside the cell so that neighbours do not cover it, with
+// a white line inside it so that it shows on a cell of the accent's own colour too.
 void paintFocusRing(QPainter& painter, const TreemapCell& cell) {
-    constexpr qreal width = 3;
-    QColor color = paletteColor(u"accent");
-    color.setAlphaF(0.8f);
+    QColor accent = paletteColor(u"accent");
+    accent.setAlphaF(0.85f);
     painter.setRenderHint(QPainter::Antialiasing, true);
-    painter.setPen(QPen(color, width));
     painter.setBrush(Qt::NoBrush);
-    const qreal half = width / 2;
-    const qreal radius = std::max(cell.radius - half, 0.0);
-    painter.drawRoundedRect(cell.rect.adjusted(half, half, -half, -half), radius, radius);
+    const auto stroke = [&](const QColor& color, qreal inset, qreal width) {
+        const qreal middle = inset + width / 2;
+        const qreal radius = std::max(cell.radius - middle, 0.0);
+        painter.setPen(QPen(color, width));
+        painter.drawRoundedRect(cell.rect.adjusted(middle, middle, -middle, -middle), radius,
+                                radius);
+    };
+    stroke(accent, 0, 3);
+    stroke(Qt::white, 3, 1.5);
 }
 
 } // namespace

@@ -173,7 +173,7 @@ private slots:
         drag.leave();
     }
 
-    // Where Tab went: the ring around a button the keyboard reached.
+    // Where the keys went: the ring around a button Tab reached, then around a treemap cell.
     void focusRing() {
         Scene scene(3);
         scene.state().openResult(dashboardResult());
@@ -181,6 +181,12 @@ private slots:
         QVERIFY(button);
         button->forceActiveFocus(Qt::TabFocusReason);
         scene.save(QStringLiteral("focus-ring"));
+        // A treemap cell the arrows moved to: the ring of the cell, with its details below.
+        auto* cells = findItem(scene.window(), "categoryTreemapCells");
+        QVERIFY(cells);
+        cells->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(scene.window(), Qt::Key_Right);
+        scene.save(QStringLiteral("focus-ring-treemap"));
     }
 
     // Every screen at the smallest window and at full HD, with names long enough to need
