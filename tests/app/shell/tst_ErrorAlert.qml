@@ -46,13 +46,16 @@ TestCase {
         verify(!AppState.hasError)
     }
 
-    function test_escapeDismissesAndClears() {
+    // Escape dismisses, and so does Return, the key of "OK".
+    function test_keysDismissAndClear() {
         const alert = createTemporaryObject(alertComponent, testCase)
-        AppState.error = AppError.unknown("")
-        tryCompare(alert, "opened", true)
-        verify(!findChild(alert.contentItem, "errorDescription").visible)
-        keyClick(Qt.Key_Escape)
-        tryCompare(alert, "visible", false)
-        verify(!AppState.hasError)
+        for (const key of [Qt.Key_Escape, Qt.Key_Return]) {
+            AppState.error = AppError.unknown("")
+            tryCompare(alert, "opened", true)
+            verify(!findChild(alert.contentItem, "errorDescription").visible)
+            keyClick(key)
+            tryCompare(alert, "visible", false)
+            verify(!AppState.hasError)
+        }
     }
 }
