@@ -21,6 +21,35 @@ Rectangle {
 
     CategorySelection { id: categorySelection }
 
+    // Tab may land on a control below the fold or above it: the scroll follows the keyboard, so
+    // the focused control and its ring are always in sight. A control focused by a click (no
+    // visual focus) is already in sight and stays where it is.
+    function scrollToShow(item) {
+        if (!item || item.visualFocus === false || !contentFocus.contains(item))
+            return
+        const flickable = scroller.contentItem
+        const top = item.mapToItem(content, 0, 0).y
+        const margin = Theme.spacingSection
+        let y = flickable.contentY
+        if (top - margin < y)
+            y = top - margin
+        else if (top + item.height + margin > y + flickable.height)
+            y = top + item.height + margin - flickable.height
+        flickable.contentY = Math.max(0, Math.min(y, flickable.contentHeight - flickable.height))
+    }
+
+    FocusSteps {
+        id: contentFocus
+        within: content
+    }
+
+    Connections {
+        target: dashboard.Window.window
+        function onActiveFocusItemChanged() {
+            dashboard.scrollToShow(dashboard.Window.activeFocusItem)
+        }
+    }
+
     ColumnLayout {
         anchors.fill: parent
         spacing: 0

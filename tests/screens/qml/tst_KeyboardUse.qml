@@ -93,6 +93,17 @@ ScreenTestCase {
         verify(AppState.showFolderPicker)
     }
 
+    // Tab to a control below the fold scrolls it into sight.
+    function test_dashboardScrollsToTheFocusedControl() {
+        Fixture.showFullResult()
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        const search = findChild(view, "largestFilesSearch")
+        verify(search.mapToItem(view, 0, 0).y > view.height)
+        search.forceActiveFocus(Qt.TabFocusReason)
+        const top = search.mapToItem(view, 0, 0).y
+        verify(top > 0 && top + search.height < view.height, "search field at " + top)
+    }
+
     // The list is one Tab stop: the arrows move between cards, Space selects for a comparison,
     // Return opens the scan.
     function test_historyListByKeys() {
