@@ -84,15 +84,6 @@ ScreenTestCase {
         compare(Fixture.unreachableControls(shown), [])
     }
 
-    function test_returnPressesTheButtonTheKeyboardReached() {
-        const view = createTemporaryObject(landingComponent, testCase)
-        const select = ViewSearch.visibleItems(view, item => item.text === "Select Folder")[0]
-        select.forceActiveFocus(Qt.TabFocusReason)
-        verify(select.visualFocus)
-        keyClick(Qt.Key_Return)
-        verify(AppState.showFolderPicker)
-    }
-
     // Tab to a control below the fold scrolls it into sight.
     function test_dashboardScrollsToTheFocusedControl() {
         Fixture.showFullResult()
