@@ -8,6 +8,7 @@ import Tessarine.Charts
 // other bars here and outlines its cell in the treemap.
 ChartCard {
     id: card
+    Accessible.name: "Storage by Category, " + categories.count + " categories"
 
     required property analysisResult result
     required property CategorySelection selection
@@ -30,6 +31,9 @@ ChartCard {
 
         Rectangle {
             objectName: "clearCategoryButton"
+            Accessible.role: Accessible.Button
+            Accessible.name: "Clear selection of " + selectedName.name
+            Accessible.onPressAction: card.selection.clear()
             visible: card.hasSelection
             implicitWidth: clearLabel.implicitWidth + 16
             implicitHeight: clearLabel.implicitHeight + 8

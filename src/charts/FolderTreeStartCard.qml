@@ -7,6 +7,7 @@ import Tessarine.App
 // and the reason the last build failed.
 Card {
     id: card
+    Accessible.name: "Folder Analysis"
 
     property real folderCount
     property bool hasError

@@ -1,5 +1,6 @@
 #include "charts/TreemapCells.h"
 
+#include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 
 #include <QPainter>
@@ -73,6 +74,7 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     : QQuickPaintedItem(parent) {
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
+    TreemapCellsAccessible::install();
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {

@@ -35,6 +35,11 @@ Dialog {
 
     contentItem: ColumnLayout {
         spacing: Theme.spacingSmall
+        // The alert is read as one message: its title, then what went wrong and what to try.
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: alert.title
+        Accessible.description: AppState.error.errorDescription
+                                + (AppState.error.hasRecoverySuggestion ? " " + AppState.error.recoverySuggestion : "")
 
         Icon {
             Layout.alignment: Qt.AlignHCenter

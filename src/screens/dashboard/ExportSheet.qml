@@ -38,6 +38,8 @@ Popup {
     }
 
     contentItem: ColumnLayout {
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "Export Analysis"
         focus: true
         spacing: Theme.spacingXLarge
 
@@ -78,6 +80,11 @@ Popup {
                         height: 24
                         radius: Theme.radiusSmall
                         color: chosen ? Theme.accent : Theme.withOpacity(Theme.secondary, 0.12)
+                        Accessible.role: Accessible.RadioButton
+                        Accessible.name: modelData
+                        Accessible.checkable: true
+                        Accessible.checked: chosen
+                        Accessible.onPressAction: sheet.exportFormat = index
 
                         Text {
                             anchors.centerIn: parent

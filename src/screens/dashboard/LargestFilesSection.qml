@@ -55,6 +55,9 @@ Rectangle {
 
             Item {
                 objectName: "largestFilesDisclosure"
+                Accessible.role: Accessible.Button
+                Accessible.name: (section.isExpanded ? "Collapse" : "Expand") + " Largest Files"
+                Accessible.onPressAction: section.isExpanded = !section.isExpanded
                 implicitWidth: disclosure.implicitWidth
                 implicitHeight: disclosure.implicitHeight
 
@@ -136,6 +139,10 @@ Rectangle {
 
                 Icon {
                     objectName: "clearSearchButton"
+                    Accessible.ignored: false
+                    Accessible.role: Accessible.Button
+                    Accessible.name: "Clear search"
+                    Accessible.onPressAction: rows.searchText = ""
                     visible: rows.searchText !== ""
                     symbol: "xmark.circle.fill"
                     size: 14

@@ -40,6 +40,10 @@ Rectangle {
                 height: 30
                 radius: 6
                 color: current ? Theme.withOpacity(Theme.accent, 0.15) : "transparent"
+                Accessible.role: Accessible.PageTab
+                Accessible.name: modelData.title
+                Accessible.selected: current
+                Accessible.onPressAction: sidebar.currentIndex = index
 
                 Row {
                     anchors.left: parent.left

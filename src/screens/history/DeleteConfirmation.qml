@@ -21,6 +21,9 @@ Dialog {
 
     contentItem: ColumnLayout {
         spacing: Theme.spacingSmall
+        Accessible.role: Accessible.Dialog
+        Accessible.name: dialog.title
+        Accessible.description: deleteMessage.text
 
         Text {
             Layout.fillWidth: true
@@ -31,6 +34,7 @@ Dialog {
         }
 
         Text {
+            id: deleteMessage
             objectName: "deleteMessage"
             Layout.fillWidth: true
             text: "This will permanently delete " + dialog.selectedCount + " scan(s) from history."
