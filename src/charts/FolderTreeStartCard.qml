@@ -72,6 +72,8 @@ Card {
                 text: "Build Folder Treemap"
                 font: Theme.weighted(Theme.body, Font.DemiBold)
                 onClicked: card.buildRequested()
+                Accessible.role: Accessible.Button
+                Accessible.name: text
 
                 contentItem: ButtonLabel {
                     text: buildButton.text

@@ -36,6 +36,8 @@ MenuBar {
     delegate: MenuBarItem {
         id: item
         font: Theme.body
+        Accessible.role: Accessible.MenuItem
+        Accessible.name: text
         contentItem: Text {
             text: item.text
             font: item.font

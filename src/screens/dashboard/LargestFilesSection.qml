@@ -131,6 +131,9 @@ Rectangle {
                     objectName: "largestFilesSearch"
                     Layout.fillWidth: true
                     placeholderText: "Search files..."
+                    Accessible.role: Accessible.EditableText
+                    Accessible.name: placeholderText
+                    Accessible.searchEdit: true
                     font: Theme.body
                     background: null
                     text: rows.searchText

@@ -34,6 +34,13 @@ TestCase {
         ErrorAlert {}
     }
 
+    Component {
+        id: menuBarComponent
+        AppMenuBar {
+            commands: AppCommands {}
+        }
+    }
+
     function initTestCase() {
         Accessibility.activate()
     }
@@ -53,13 +60,18 @@ TestCase {
         tryVerify(() => ViewSearch.visibleItems(item, child => child.hasOwnProperty("isAnimated")
                                                               && child.opacity < 1).length === 0)
         const faults = Accessibility.faults(item)
-        verify(faults.length === 0, what + " has " + faults.length + " unnamed elements:\n"
+        verify(faults.length === 0, what + " has " + faults.length + " faults:\n"
                                     + faults.join("\n"))
     }
 
     function test_everyScreenNamesWhatItShows() {
         const content = createTemporaryObject(contentComponent, testCase)
+        const menuBar = createTemporaryObject(menuBarComponent, testCase)
         verifyNamed(content, "the landing screen")
+        menuBar.menus[0].open()
+        tryVerify(() => menuBar.menus[0].opened)
+        verifyNamed(content, "the File menu")
+        menuBar.menus[0].close()
 
         Fixture.showProgress("/Users/ann/Projects/tessarine/src")
         AppState.currentView = AppState.Scanning
@@ -69,6 +81,8 @@ TestCase {
         AppState.openResult(Fixture.resultWithTree())
         tryVerify(() => ViewSearch.named(content, "treemapCells") !== null)
         verifyNamed(content, "the dashboard with its folder analysis")
+        verify(findChild(content, "folderTreemap").treemap.drillDown(0))
+        verifyNamed(content, "a drilled-down folder treemap")
         const exportSheet = findChild(content, "exportSheet")
         exportSheet.open()
         tryVerify(() => exportSheet.opened)
@@ -77,6 +91,12 @@ TestCase {
 
         Fixture.showFullResult()
         verifyNamed(content, "a full dashboard")
+        const analysis = findChild(content, "folderAnalysis")
+        Fixture.holdBuild(analysis.controller.service, "building")
+        analysis.controller.build(analysis.result.rootPath)
+        tryCompare(analysis.controller.service, "phaseName", "building")
+        verifyNamed(content, "a folder tree build")
+        analysis.controller.cancel()
 
         // Two scans of one folder give the history its trend chart.
         Fixture.saveElsewhere(Fixture.folderPath, 2)
@@ -85,6 +105,12 @@ TestCase {
         tryVerify(() => ViewSearch.named(content, "trendChart") !== null, 5000)
         verifyNamed(content, "the history")
         const circles = ViewSearch.visibleItems(content, item => item.objectName === "selectionCircle")
+        mouseClick(circles[0].parent, 200, 30, Qt.RightButton)
+        const menu = findChild(content, "scanMenu")
+        tryVerify(() => menu.opened)
+        verifyNamed(content, "the scan menu")
+        menu.close()
+        tryVerify(() => !menu.visible)
         mouseClick(circles[0])
         mouseClick(circles[1])
         const sheet = findChild(content, "comparisonSheet")

@@ -101,11 +101,29 @@ bool isClickable(const QQuickItem& item) {
     });
 }
 
-// What a screen reader says for a clickable item is the nearest element above it with a role of
-// its own; unless that is a control, the click cannot be reached without the pointer.
-void auditClicks(QQuickItem* item, Audit& found) {
+// Controls and fields, which a screen reader must list as elements of their own: in Qt 6.4 a
+// control has none until its Accessible properties are set.
+bool isControlItem(const QQuickItem& item) {
+    return item.inherits("QQuickAbstractButton") || item.inherits("QQuickComboBox") ||
+           item.inherits("QQuickSlider") || item.inherits("QQuickSpinBox") ||
+           item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
+}
+
+// Every control and field must be an element. What a screen reader says for a clickable item is
+// the nearest element above it with a role of its own; unless that is a control, the click cannot
+// be reached without the pointer.
+void auditReach(QQuickItem* item, Audit& found) {
     if (!item->isVisible())
         return;
+    if (isControlItem(*item)) {
+        if (!found.elements.contains(item))
+            found.faults.append(
+                QStringLiteral("%1 \"%2\" in %3 is no element")
+                    .arg(QString::fromLatin1(item->metaObject()->className()), item->objectName(),
+                         QString::fromLatin1(item->parentItem()->metaObject()->className())));
+        // What lies inside a control (the face of a combo box) is the control's own.
+        return;
+    }
     if (isClickable(*item)) {
         QQuickItem* speaker = item->inherits("QQuickMouseArea") ? item->parentItem() : item;
         QAccessibleInterface* element = nullptr;
@@ -123,7 +141,7 @@ void auditClicks(QQuickItem* item, Audit& found) {
                          speaker ? describe(element, QString()) : QStringLiteral("nothing")));
     }
     for (QQuickItem* child : item->childItems())
-        auditClicks(child, found);
+        auditReach(child, found);
 }
 
 QAccessibleInterface* findNamed(QAccessibleInterface* element, const QString& name) {
@@ -148,7 +166,7 @@ QStringList AccessibilityAudit::faults(QQuickItem* item) {
     if (!item || !item->window())
         return {};
     audit(QAccessible::queryAccessibleInterface(item->window()), QString(), found);
-    auditClicks(item->window()->contentItem(), found);
+    auditReach(item->window()->contentItem(), found);
     return found.faults;
 }
 
