@@ -36,9 +36,9 @@ bool isControl(QAccessible::Role role) {
     }
 }
 
-// The roles a screen reader announces by their name: controls, and what holds information (cards,
-// charts, lists, tables, dialogs). Plain items, panes, texts (read by their text), separators and
-// scroll bars are left out.
+// The roles a screen reader announces by their name: controls, and what holds or shows
+// information (cards, charts, lists, tables, dialogs, headings, texts). Plain items, panes,
+// separators and scroll bars are left out.
 bool needsName(QAccessible::Role role) {
     switch (role) {
     case QAccessible::ProgressBar:
@@ -49,6 +49,8 @@ bool needsName(QAccessible::Role role) {
     case QAccessible::Grouping:
     case QAccessible::Dialog:
     case QAccessible::AlertMessage:
+    case QAccessible::Heading:
+    case QAccessible::StaticText:
         return true;
     default:
         return isControl(role);
