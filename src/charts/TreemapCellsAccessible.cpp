@@ -32,7 +32,8 @@ QObject* accessibleAttached(const QObject& item) {
     return nullptr;
 }
 
-// One painted cell, by its index in the item's cells. Pressing it clicks it, as the pointer does.
+// One painted cell, by its index in the item's cells. Pressing it does what the pointer's click and
+// double click do, so that it selects a category and opens a folder: each treemap heeds one.
 class TreemapCellAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
 public:
     TreemapCellAccessible(TreemapCells* cells, int index)
@@ -79,8 +80,10 @@ public:
     }
     QStringList actionNames() const override { return {pressAction()}; }
     void doAction(const QString& name) override {
-        if (name == pressAction())
-            emit m_cells->clicked(m_index);
+        if (name != pressAction())
+            return;
+        emit m_cells->clicked(m_index);
+        emit m_cells->doubleClicked(m_index);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 

@@ -48,9 +48,11 @@ private slots:
         QCOMPARE(treemap->childAt(insideTaxes.x(), insideTaxes.y()), treemap->child(2));
 
         QSignalSpy clicked(&cells, &TreemapCells::clicked);
+        QSignalSpy opened(&cells, &TreemapCells::doubleClicked);
         music->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(clicked.count(), 1);
         QCOMPARE(clicked.at(0).at(0).toInt(), 1);
+        QCOMPARE(opened.count(), 1);
 
         // Laid out anew, the treemap speaks of its new cells only.
         const QAccessible::Id stale = QAccessible::uniqueId(treemap->child(2));
