@@ -139,17 +139,6 @@ TestCase {
         }
     }
 
-    // A category cell is one element: what it is, then its size and its share truncated.
-    function test_categoryCellsSayTheirSizeAndShare() {
-        const content = createTemporaryObject(contentComponent, testCase)
-        Fixture.showFullResult(2)
-        AppState.currentView = AppState.Dashboard
-        const treemap = ViewSearch.named(content, "categoryTreemapCells")
-        tryVerify(() => treemap.cells.count === 2)
-        const value = Accessibility.valueOf(treemap, "Images category")
-        verify(/^[\d.,]+ [kMGT]?B, \d+ percent$/.test(value), value)
-    }
-
     // A button that changes its label is announced by its new one.
     function test_namesFollowTheLabels() {
         const content = createTemporaryObject(contentComponent, testCase)

@@ -146,17 +146,6 @@ void auditReach(QQuickItem* item, Audit& found) {
         auditReach(child, found);
 }
 
-QAccessibleInterface* findNamed(QAccessibleInterface* element, const QString& name) {
-    if (!element)
-        return nullptr;
-    if (element->text(QAccessible::Name) == name)
-        return element;
-    for (int i = 0; i < element->childCount(); ++i)
-        if (QAccessibleInterface* found = findNamed(element->child(i), name))
-            return found;
-    return nullptr;
-}
-
 } // namespace
 
 void AccessibilityAudit::activate() {
@@ -175,11 +164,6 @@ QStringList AccessibilityAudit::faults(QQuickItem* item) {
 QString AccessibilityAudit::nameOf(QQuickItem* item) {
     QAccessibleInterface* element = QAccessible::queryAccessibleInterface(item);
     return element ? element->text(QAccessible::Name) : QString();
-}
-
-QString AccessibilityAudit::valueOf(QQuickItem* item, const QString& name) {
-    QAccessibleInterface* element = findNamed(QAccessible::queryAccessibleInterface(item), name);
-    return element ? element->text(QAccessible::Value) : QString();
 }
 
 } // namespace tessarine

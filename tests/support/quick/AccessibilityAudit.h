@@ -25,10 +25,8 @@ public:
     // role, its type and the nearest named element above it.
     Q_INVOKABLE static QStringList faults(QQuickItem* item);
 
-    // The name of the item's element, and the value of the first element below the item named
-    // name ("" when there is none).
+    // The name of the item's element.
     Q_INVOKABLE static QString nameOf(QQuickItem* item);
-    Q_INVOKABLE static QString valueOf(QQuickItem* item, const QString& name);
 };
 
 } // namespace tessarine
