@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
     for (int run = 0; run < 10; ++run) {
         QElapsedTimer clock;
         clock.start();
-        cells = folderTreemapCells(layoutNestedTreemap(root, bounds));
+        cells = folderTreemapCells(layoutNestedTreemap(root, bounds), root.totalSize);
         slowestLayout = std::max(slowestLayout, static_cast<double>(clock.nsecsElapsed()) / 1e6);
     }
 
@@ -68,7 +68,7 @@ int main(int argc, char** argv) {
     // New cells repaint everything: the level laid out again, one point narrower or not, as when
     // the window is resized.
     const QList<TreemapCell> narrower =
-        folderTreemapCells(layoutNestedTreemap(root, bounds.adjusted(0, 0, -1, 0)));
+        folderTreemapCells(layoutNestedTreemap(root, bounds.adjusted(0, 0, -1, 0)), root.totalSize);
     double slowestFullFrame = 0;
     for (int run = 0; run < 6; ++run) {
         const QList<TreemapCell>& next = run % 2 == 0 ? narrower : cells;

@@ -26,6 +26,8 @@ Rectangle {
 
         padding: 0
         font: Theme.caption
+        Accessible.role: Accessible.Button
+        Accessible.name: text
         contentItem: ButtonLabel {
             text: crumb.text
             symbol: crumb.symbol

@@ -68,6 +68,8 @@ Item {
             y: 4 + index * chart.pitch
             width: chart.width
             height: chart.pitch
+            Accessible.role: Accessible.ListItem
+            Accessible.name: name + ", " + Format.byteCount(totalSize)
 
             Row {
                 anchors.verticalCenter: parent.verticalCenter

@@ -9,6 +9,7 @@ import Tessarine.Charts
 // other bars here and outlines its cell in the treemap.
 ChartCard {
     id: card
+    Accessible.name: "Storage by Category, " + categories.count + " categories"
 
     required property analysisResult result
     required property CategorySelection selection
@@ -33,6 +34,8 @@ ChartCard {
             id: clearButton
 
             objectName: "clearCategoryButton"
+            Accessible.role: Accessible.Button
+            Accessible.name: "Clear selection of " + selectedName.name
             visible: card.hasSelection
             leftPadding: 8
             rightPadding: 8

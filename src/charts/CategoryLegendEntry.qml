@@ -34,7 +34,6 @@ AbstractButton {
 
     Accessible.role: Accessible.Button
     Accessible.name: name
-    Accessible.onPressAction: toggled()
 
     contentItem: RowLayout {
         spacing: 6

@@ -2,9 +2,6 @@
 
 #include "app/RoleNames.h"
 #include "charts/TreemapCellStyle.h"
-#include "model/Format.h"
-
-#include <cmath>
 
 namespace tessarine {
 
@@ -18,13 +15,6 @@ QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
     const TreeMapRect& cell = m_rects.at(std::size_t(index.row()));
     const CategoryStats& stats = cell.stat;
     switch (role) {
-    case AccessibleValueRole: {
-        const auto percent = qint64(
-            std::trunc(double(stats.totalSize) / double(std::max<qint64>(m_totalSize, 1)) * 100));
-        return QStringLiteral("%1, %2 percent")
-            .arg(format::byteCount(stats.totalSize))
-            .arg(percent);
-    }
     case CellXRole:
         return cell.rect.x();
     case CellYRole:
@@ -73,7 +63,7 @@ void CategoryTreemapModel::setSelectedCategory(int category) {
 TreemapCellList CategoryTreemapModel::cells() const {
     const std::optional<FileCategory> selected =
         m_selected < 0 ? std::nullopt : std::optional(FileCategory(m_selected));
-    return TreemapCellList(categoryTreemapCells(m_rects, selected));
+    return TreemapCellList(categoryTreemapCells(m_rects, m_totalSize, selected));
 }
 
 int CategoryTreemapModel::categoryAt(int row) const {

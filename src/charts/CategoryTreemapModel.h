@@ -10,7 +10,7 @@
 namespace tessarine {
 
 // The category treemap of the result bound to it, laid out in the area's size: the cells that
-// TreemapCells paints and, per cell, what its label, details bar and accessible text read. Laid
+// TreemapCells paints and, per cell, what its label and details bar read. Laid
 // out again whenever the size, the result or the selected category changes.
 class CategoryTreemapModel : public QAbstractListModel {
     Q_OBJECT
@@ -26,8 +26,7 @@ class CategoryTreemapModel : public QAbstractListModel {
 public:
     // Besides CategoryListModel's roles, which every cell has too.
     enum Role {
-        AccessibleValueRole = CategoryListModel::ShareRole + 1,
-        CellXRole,
+        CellXRole = CategoryListModel::ShareRole + 1,
         CellYRole,
         CellWidthRole,
         CellHeightRole

@@ -9,6 +9,7 @@ import Tessarine.Charts
 // summary of all of them.
 ChartCard {
     id: card
+    Accessible.name: "Depth Distribution, deepest level " + result.maxDepth
 
     required property analysisResult result
     property bool isAnimated: false
@@ -95,6 +96,9 @@ ChartCard {
                 readonly property real slotWidth: plot.width / Math.max(levels.count, 1)
 
                 x: plot.x + index * slotWidth
+                Accessible.role: Accessible.ListItem
+                Accessible.name: "Level " + label + ", " + Format.count(fileCount) + " files, "
+                                 + Format.count(folderCount) + " folders, " + Format.byteCount(totalSize)
                 width: slotWidth
                 height: chart.height
 

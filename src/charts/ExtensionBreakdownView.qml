@@ -7,6 +7,7 @@ import Tessarine.Charts
 // and up to fifteen on request, with a footer for those not shown.
 ChartCard {
     id: card
+    Accessible.name: "File Extensions"
 
     required property analysisResult result
 

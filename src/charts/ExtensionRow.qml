@@ -14,6 +14,8 @@ RowLayout {
     required property double fraction
 
     spacing: 12
+    Accessible.role: Accessible.ListItem
+    Accessible.name: displayName + ", " + Format.byteCount(totalSize) + ", " + Format.count(fileCount) + " files"
 
     Item {
         implicitWidth: 70

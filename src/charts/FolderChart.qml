@@ -8,6 +8,7 @@ import Tessarine.Charts
 // they hold. The bars grow in when the chart appears.
 Card {
     id: chart
+    Accessible.name: "Largest Folders"
 
     required property folderTree tree
     // The scan's total, which the summary line's share is of.
@@ -141,6 +142,8 @@ Card {
                     y: index * 28
                     width: plot.width
                     height: 28
+                    Accessible.role: Accessible.ListItem
+                    Accessible.name: name + ", " + Format.byteCount(totalSize)
 
                     Row {
                         anchors.verticalCenter: parent.verticalCenter

@@ -14,6 +14,7 @@ Card {
     readonly property alias treemap: treemapModel
 
     implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    Accessible.name: "Folder Treemap"
 
     FolderTreemapModel {
         id: treemapModel
@@ -80,6 +81,9 @@ Card {
                 id: cells
 
                 objectName: "treemapCells"
+                Accessible.name: "Folders in " + (treemapModel.pathNames.length > 0
+                                                  ? treemapModel.pathNames[treemapModel.pathNames.length - 1]
+                                                  : treemapModel.rootName)
 
                 anchors.fill: parent
                 cells: treemapModel.cells

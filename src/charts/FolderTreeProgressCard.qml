@@ -7,6 +7,7 @@ import Tessarine.App
 // and how long it may still take, the folder at hand, and Cancel.
 Card {
     id: card
+    Accessible.name: "Building Folder Treemap"
 
     // The controller's FolderTreeService.
     required property QtObject service

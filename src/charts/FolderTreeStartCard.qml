@@ -7,6 +7,7 @@ import Tessarine.App
 // and the reason the last build failed.
 Card {
     id: card
+    Accessible.name: "Folder Analysis"
 
     property real folderCount
     property bool hasError
@@ -71,6 +72,8 @@ Card {
                 text: "Build Folder Treemap"
                 font: Theme.weighted(Theme.body, Font.DemiBold)
                 onClicked: card.buildRequested()
+                Accessible.role: Accessible.Button
+                Accessible.name: text
 
                 contentItem: ButtonLabel {
                     text: buildButton.text

@@ -106,7 +106,7 @@ void FolderTreemapModel::relayout() {
     m_treemap = folder && !m_areaSize.isEmpty()
                     ? layoutNestedTreemap(*folder, QRectF(QPointF(0, 0), m_areaSize))
                     : NestedTreemap();
-    m_cells = TreemapCellList(folderTreemapCells(m_treemap));
+    m_cells = TreemapCellList(folderTreemapCells(m_treemap, folder ? folder->totalSize : 0));
     // Whatever was hovered is gone or elsewhere; the pointer's next move finds it again.
     m_hoveredIndex = -1;
     emit cellsChanged();

@@ -2,8 +2,8 @@ import QtQuick
 import Tessarine.App
 
 // What a treemap cell says over its colour: its symbol once the cell is large enough to read,
-// then its name and size once there is room; and, whatever its size, its accessible name and
-// value. Grows with the cell under the pointer.
+// then its name and size once there is room. Grows with the cell under the pointer. Screen readers
+// hear the cell itself (TreemapCells), not this label.
 Item {
     id: label
 
@@ -14,7 +14,6 @@ Item {
     required property double totalSize
     required property double fileCount
     required property string share
-    required property string accessibleValue
     required property real cellX
     required property real cellY
     required property real cellWidth
@@ -31,10 +30,6 @@ Item {
     scale: hovered ? 1.02 : 1
 
     Behavior on scale { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
-
-    Accessible.role: Accessible.Button
-    Accessible.name: name + " category"
-    Accessible.description: accessibleValue
 
     Column {
         anchors.centerIn: parent

@@ -7,6 +7,7 @@ import Tessarine.Charts
 // cell shows its figures in the details bar; clicking it moves or clears the shared selection.
 ChartCard {
     id: card
+    Accessible.name: "Storage Treemap"
 
     required property analysisResult result
     required property CategorySelection selection
@@ -46,6 +47,7 @@ ChartCard {
             id: cells
 
             objectName: "categoryTreemapCells"
+            Accessible.name: "Categories"
             anchors.fill: parent
             cells: treemap.cells
             onClicked: index => card.selection.toggle(treemap.categoryAt(index))

@@ -31,6 +31,19 @@ struct TreemapLabel {
     bool operator==(const TreemapLabel&) const = default;
 };
 
+// What a screen reader says of a cell, which is painted and so has no item to carry it: its name,
+// and as its value its size with its share of everything the treemap shows.
+struct TreemapCellSpeech {
+    QString name;
+    qint64 size = 0;
+    qint64 wholeSize = 0;
+
+    // "<size>, <n> percent", the share truncated to a whole number.
+    QString value() const;
+
+    bool operator==(const TreemapCellSpeech&) const = default;
+};
+
 // One cell as TreemapCells draws it, in the item's coordinates, normally and while hovered: a
 // rounded rectangle filled with fill at opacity, its border drawn inside the same shape.
 struct TreemapCell {
@@ -42,6 +55,7 @@ struct TreemapCell {
     qreal hoveredOpacity = 1;
     CellBorder hoveredBorder;
     TreemapLabel label;
+    TreemapCellSpeech speech;
 
     bool operator==(const TreemapCell&) const = default;
 };

@@ -33,7 +33,7 @@ TreemapLabel folderLabel(const NestedTreemapCell& cell) {
 
 } // namespace
 
-QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects,
+QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects, qint64 totalSize,
                                         std::optional<FileCategory> selected) {
     QList<TreemapCell> cells;
     cells.reserve(static_cast<qsizetype>(rects.size()));
@@ -47,12 +47,14 @@ QList<TreemapCell> categoryTreemapCells(const std::vector<TreeMapRect>& rects,
                       border,
                       0.9,
                       border,
-                      {}});
+                      {},
+                      {rawValue(rect.stat.category) + QStringLiteral(" category"),
+                       rect.stat.totalSize, totalSize}});
     }
     return cells;
 }
 
-QList<TreemapCell> folderTreemapCells(const NestedTreemap& treemap) {
+QList<TreemapCell> folderTreemapCells(const NestedTreemap& treemap, qint64 shownSize) {
     const CellBorder outline{QColor::fromRgbF(0, 0, 0, 0.3f), 1};
     const CellBorder hoveredOutline{Qt::white, 2};
     QList<TreemapCell> cells;
@@ -61,8 +63,15 @@ QList<TreemapCell> folderTreemapCells(const NestedTreemap& treemap) {
         const QColor fill = paletteColor(rawValue(folderColorAt(cell.item.colorIndex)));
         // Corners tighten with each nesting so inner cells do not look swollen.
         const qreal radius = std::max(6.0 - 2.0 * static_cast<double>(cell.level), 2.0);
-        cells.append({inset(cell.item.rect, 1, 0), radius, fill, cell.nests ? 0.85 : 0.75, outline,
-                      cell.nests ? 0.85 : 0.9, hoveredOutline, folderLabel(cell)});
+        cells.append({inset(cell.item.rect, 1, 0),
+                      radius,
+                      fill,
+                      cell.nests ? 0.85 : 0.75,
+                      outline,
+                      cell.nests ? 0.85 : 0.9,
+                      hoveredOutline,
+                      folderLabel(cell),
+                      {cell.item.folder->name, cell.item.folder->totalSize, shownSize}});
     }
     return cells;
 }

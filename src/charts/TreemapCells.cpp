@@ -1,6 +1,7 @@
 #include "charts/TreemapCells.h"
 
 #include "app/design/Palette.h"
+#include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 #include "charts/TreemapNavigation.h"
 
@@ -95,6 +96,7 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     setAcceptHoverEvents(true);
     setAcceptedMouseButtons(Qt::LeftButton);
     setActiveFocusOnTab(true);
+    TreemapCellsAccessible::install();
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {

@@ -1,3 +1,4 @@
+#include "AccessibilityAudit.h"
 #include "AppFixture.h"
 
 #include "app/shell/ShellEngine.h"
@@ -9,7 +10,8 @@
 namespace tessarine {
 
 // Gives the QML tests the application's modules and a fixture (as the Fixture singleton of
-// Tessarine.Testing) whose application state is the one AppState of the shell.
+// Tessarine.Testing) whose application state is the one AppState of the shell, and the
+// Accessibility singleton that reads what screen readers see.
 class ShellTestSetup : public QObject {
     Q_OBJECT
 
@@ -19,6 +21,7 @@ public slots:
         prepareShell();
         m_fixture = std::make_unique<AppFixture>(QStringLiteral(SCREENSHOT_DIR));
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
+        qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Accessibility", &m_audit);
     }
 
     void qmlEngineAvailable(QQmlEngine* engine) { prepareEngine(*engine); }
@@ -27,6 +30,7 @@ public slots:
 
 private:
     std::unique_ptr<AppFixture> m_fixture;
+    AccessibilityAudit m_audit;
 };
 
 } // namespace tessarine

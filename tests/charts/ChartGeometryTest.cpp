@@ -60,7 +60,7 @@ private slots:
         code.category = FileCategory::code;
         const std::vector<TreeMapRect> rects{{images, QRectF(0, 0, 200, 100)},
                                              {code, QRectF(200, 0, 1, 100)}};
-        const QList<TreemapCell> cells = categoryTreemapCells(rects, FileCategory::code);
+        const QList<TreemapCell> cells = categoryTreemapCells(rects, 0, FileCategory::code);
         QCOMPARE(cells[0].rect, QRectF(1, 1, 198, 98));
         QCOMPARE(cells[0].border.width, 0.0);
         // A 1-point sliver is still drawn 1 point wide, on its own centre, and shows the selection.
@@ -70,7 +70,7 @@ private slots:
         FolderInfo folder;
         folder.totalSize = 10;
         const NestedTreemap treemap = layoutNestedTreemap(folder, QRectF(0, 0, 1.5, 50));
-        QCOMPARE(folderTreemapCells(treemap)[0].rect.width(), 0.0);
+        QCOMPARE(folderTreemapCells(treemap, 10)[0].rect.width(), 0.0);
     }
 
     void slicePicking_data() {

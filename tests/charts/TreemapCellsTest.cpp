@@ -17,7 +17,7 @@ public:
     // over the first, which then wins its hit test.
     Q_INVOKABLE tessarine::TreemapCellList grid(int columns, int rows, qreal size) const {
         QList<TreemapCell> cells;
-        TreemapCell cell{{}, 4, Qt::blue, 0.75, {Qt::black, 1}, 0.9, {Qt::white, 2}, {}};
+        TreemapCell cell{{}, 4, Qt::blue, 0.75, {Qt::black, 1}, 0.9, {Qt::white, 2}, {}, {}};
         for (int row = 0; row < rows; ++row) {
             for (int column = 0; column < columns; ++column) {
                 cell.rect = QRectF(column * size, row * size, size, size);
@@ -25,7 +25,7 @@ public:
             }
         }
         cells.append(
-            {QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}, {}});
+            {QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}, {}, {}});
         return TreemapCellList(cells);
     }
 };

@@ -12,6 +12,8 @@ Rectangle {
     color: Theme.controlBackground
     border.width: 1
     border.color: Theme.withOpacity(Theme.separator, 0.8)
+    // A card is one group to a screen reader; each card names itself by its title and figure.
+    Accessible.role: Accessible.Grouping
 
     SoftShadow {
         z: -1

@@ -16,6 +16,10 @@ Button {
     rightPadding: 10
     font: Theme.weighted(Theme.body, Font.Medium)
     opacity: enabled ? 1 : 0.45
+    // Named by its label here, once: Qt Quick Controls leave a label set before accessibility
+    // came on unannounced. A button showing only a symbol is named where it is used.
+    Accessible.role: Accessible.Button
+    Accessible.name: text
 
     contentItem: ButtonLabel {
         text: button.text

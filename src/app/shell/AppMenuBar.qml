@@ -52,6 +52,9 @@ MenuBar {
     delegate: MenuBarItem {
         id: item
         font: Theme.body
+        // The mnemonic's marker is not read out.
+        Accessible.role: Accessible.MenuItem
+        Accessible.name: text.replace("&", "")
         contentItem: MnemonicLabel {
             text: item.text
             font: item.font

@@ -12,6 +12,9 @@ MenuItem {
 
     font: Theme.body
     implicitWidth: 240
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: text
+    Accessible.description: shortcutText
 
     contentItem: Item {
         implicitHeight: 22

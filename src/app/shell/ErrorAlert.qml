@@ -37,6 +37,11 @@ Dialog {
         // Holds the keyboard while the alert is up: Return is "OK", as Escape is.
         focus: true
         spacing: Theme.spacingSmall
+        // The alert is read as one message: its title, then what went wrong and what to try.
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: alert.title
+        Accessible.description: AppState.error.errorDescription
+                                + (AppState.error.hasRecoverySuggestion ? " " + AppState.error.recoverySuggestion : "")
 
         Keys.onReturnPressed: alert.close()
         Keys.onEnterPressed: alert.close()

@@ -18,6 +18,7 @@ AbstractButton {
     topPadding: 5
     bottomPadding: 5
     text: folderName
+    Accessible.name: "Open scan of " + (folderName !== "" ? folderName : result.rootPath)
 
     onClicked: AppState.openResult(result)
 

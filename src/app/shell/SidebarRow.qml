@@ -15,6 +15,7 @@ AbstractButton {
     leftPadding: Theme.spacingSmall
     font: Theme.body
     Accessible.role: Accessible.PageTab
+    Accessible.name: text
 
     onClicked: AppState.currentView = view
 

@@ -6,6 +6,7 @@ import Tessarine.Screens
 // Which folder the result is of, when it was scanned and how long it took, and Rescan.
 Card {
     id: header
+    Accessible.name: result.rootName + ", scanned in " + result.formattedDuration
 
     required property analysisResult result
 

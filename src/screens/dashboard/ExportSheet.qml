@@ -38,6 +38,8 @@ Popup {
     }
 
     contentItem: ColumnLayout {
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "Export Analysis"
         focus: true
         spacing: Theme.spacingXLarge
 
@@ -78,6 +80,10 @@ Popup {
                         height: 24
                         text: modelData
                         onClicked: sheet.exportFormat = segment.index
+                        Accessible.role: Accessible.RadioButton
+                        Accessible.name: modelData
+                        Accessible.checkable: true
+                        Accessible.checked: chosen
 
                         background: Rectangle {
                             radius: Theme.radiusSmall

@@ -15,6 +15,9 @@ Rectangle {
     implicitHeight: content.implicitHeight + 2 * 14
     radius: 10
     color: Theme.withOpacity(Theme.secondary, 0.05)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: insight.title + ", " + Format.byteCount(insight.affectedSize) + " affected"
+    Accessible.description: insight.description
 
     RowLayout {
         id: content

@@ -23,6 +23,9 @@ Rectangle {
     implicitHeight: 40
     color: selected ? Theme.withOpacity(Theme.accent, 0.18)
                     : (row % 2 === 1 ? Theme.withOpacity(Theme.secondary, 0.05) : "transparent")
+    Accessible.role: Accessible.Cell
+    Accessible.name: [name, sizeText, typeText, modifiedText, String(depth)][column]
+    Accessible.selected: selected
 
     Loader {
         anchors.fill: parent

@@ -61,6 +61,8 @@ Rectangle {
                 // A click leaves the keyboard with the table, as on the reveal button below.
                 focusPolicy: Qt.TabFocus
                 onClicked: section.isExpanded = !section.isExpanded
+                Accessible.role: Accessible.Button
+                Accessible.name: (section.isExpanded ? "Collapse" : "Expand") + " Largest Files"
 
                 background: Item {
                     FocusRing {
@@ -136,6 +138,9 @@ Rectangle {
                     objectName: "largestFilesSearch"
                     Layout.fillWidth: true
                     placeholderText: "Search files..."
+                    Accessible.role: Accessible.EditableText
+                    Accessible.name: placeholderText
+                    Accessible.searchEdit: true
                     font: Theme.body
                     background: null
                     text: rows.searchText
@@ -144,6 +149,7 @@ Rectangle {
 
                 PlainButton {
                     objectName: "clearSearchButton"
+                    Accessible.name: "Clear search"
                     visible: rows.searchText !== ""
                     symbol: "xmark.circle.fill"
                     tint: Theme.secondary

@@ -78,6 +78,10 @@ Control {
 
             implicitHeight: 26
             color: Theme.controlBackground
+            Accessible.role: Accessible.ColumnHeader
+            Accessible.name: display
+            Accessible.description: sorted ? (root.rows.sortOrder === Qt.AscendingOrder ? "Sorted ascending" : "Sorted descending") : ""
+            Accessible.onPressAction: if (sortable) root.rows.sortBy(column)
 
             Row {
                 anchors.verticalCenter: parent.verticalCenter

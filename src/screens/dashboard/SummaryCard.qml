@@ -21,6 +21,8 @@ Rectangle {
     border.color: Theme.withOpacity(Theme.named(colorName), 0.2)
     scale: isAnimated ? 1 : 0.95
     opacity: isAnimated ? 1 : 0
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title + ", " + value
 
     Behavior on scale {
         NumberAnimation { duration: Theme.springDuration; easing.type: Theme.springEasing }

@@ -8,6 +8,9 @@ Row {
     property string icon
     property color tint: Theme.accent
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: name
+
     spacing: Theme.spacingTiny
 
     Icon {

@@ -8,6 +8,9 @@ Row {
     property string description
     property color tint: Theme.accent
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: format + ", " + description
+
     spacing: Theme.spacingSmall
 
     Text {

@@ -11,6 +11,9 @@ Item {
     property color tint: Theme.accent
     property color textColor: Theme.primary
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: text
+
     width: parent ? parent.width : 0
     implicitHeight: Math.max(20, label.implicitHeight)
 

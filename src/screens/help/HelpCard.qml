@@ -17,6 +17,8 @@ Rectangle {
     color: Theme.controlBackground
     border.width: 1
     border.color: Theme.separator
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
 
     Column {
         id: column

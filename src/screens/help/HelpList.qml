@@ -18,6 +18,8 @@ Column {
             wrapMode: Text.Wrap
             font: Theme.body
             color: Theme.secondary
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
         }
     }
 }

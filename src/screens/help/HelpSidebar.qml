@@ -56,6 +56,9 @@ Rectangle {
                 height: 30
                 leftPadding: Theme.spacingSmall
                 onClicked: sidebar.currentIndex = row.index
+                Accessible.role: Accessible.PageTab
+                Accessible.name: modelData.title
+                Accessible.selected: current
 
                 background: Rectangle {
                     radius: 6

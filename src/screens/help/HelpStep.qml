@@ -9,6 +9,9 @@ Item {
     property int number
     property string text
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: "Step " + number + ", " + text
+
     width: parent ? parent.width : 0
     implicitHeight: Math.max(circle.height, label.implicitHeight)
 

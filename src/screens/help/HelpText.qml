@@ -8,6 +8,10 @@ Text {
     property bool lead: false
     property bool note: false
 
+    // Help is read as well as seen.
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
+
     width: parent ? parent.width : 0
     wrapMode: Text.Wrap
     font: lead ? Theme.weighted(Theme.body, Font.DemiBold) : Theme.body

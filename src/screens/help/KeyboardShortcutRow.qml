@@ -9,6 +9,9 @@ Row {
     property string modifiers
     property string description
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: description + ", " + (modifiers === "Cmd" ? "Ctrl" : modifiers) + " + " + shortcut
+
     spacing: Theme.spacingSmall
 
     KeyCap {

@@ -11,6 +11,9 @@ Item {
     property string description
     property color tint: Theme.accent
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title + ", " + description
+
     width: parent ? parent.width : 0
     implicitHeight: texts.implicitHeight
 

@@ -20,11 +20,17 @@ Column {
         // Under an empty caption line, so that each change sits level with the values beside it.
         delegate: Column {
             id: row
+            required property string title
+            required property string beforeText
+            required property string afterText
             required property string changeText
             required property string symbol
             required property string color
             width: column.width
             height: column.rowHeight
+            // The row read whole: what changed, from what to what, and by how much.
+            Accessible.role: Accessible.ListItem
+            Accessible.name: title + ", " + beforeText + " to " + afterText + ", " + changeText
             Text {
                 text: " "
                 font: Theme.caption

@@ -36,6 +36,9 @@ ColumnLayout {
 
             Layout.fillWidth: true
             spacing: Theme.spacingSmall
+            Accessible.role: Accessible.ListItem
+            Accessible.name: title + (detail === "" ? "" : ", " + detail) + ", " + beforeText
+                             + " to " + afterText + ", " + changeText
 
             Icon {
                 Layout.preferredWidth: 20

@@ -19,6 +19,9 @@ Column {
         height: column.headerHeight
         width: parent.width
         spacing: 2
+        Accessible.role: Accessible.Grouping
+        Accessible.name: column.label + ": " + column.result.rootName + ", "
+                         + Format.absoluteDate(column.result.scanDate)
         Text {
             text: column.label
             font: Theme.caption

@@ -27,6 +27,8 @@ Dialog {
     }
 
     contentItem: Flickable {
+        Accessible.role: Accessible.Dialog
+        Accessible.name: "Comparison"
         implicitHeight: content.implicitHeight
         contentHeight: content.implicitHeight
         clip: true

@@ -25,6 +25,9 @@ Dialog {
         // button reached with Tab takes Return itself, so Tab to "Cancel" and Return cancels.
         focus: true
         spacing: Theme.spacingSmall
+        Accessible.role: Accessible.Dialog
+        Accessible.name: dialog.title
+        Accessible.description: deleteMessage.text
 
         Keys.onReturnPressed: dialog.accept()
         Keys.onEnterPressed: dialog.accept()
@@ -38,6 +41,7 @@ Dialog {
         }
 
         Text {
+            id: deleteMessage
             objectName: "deleteMessage"
             Layout.fillWidth: true
             text: "This will permanently delete " + dialog.selectedCount + " scan(s) from history."

@@ -8,6 +8,9 @@ Item {
     ColumnLayout {
         anchors.centerIn: parent
         spacing: Theme.spacingLarge
+        Accessible.role: Accessible.Grouping
+        Accessible.name: "No Scan History"
+        Accessible.description: "Your scan history will appear here. Start by analyzing a folder."
 
         Icon {
             Layout.alignment: Qt.AlignHCenter

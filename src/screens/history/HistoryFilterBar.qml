@@ -25,6 +25,8 @@ RowLayout {
         currentIndex: bar.scans.sortOrder
         font: Theme.body
         onActivated: index => bar.scans.sortOrder = index
+        Accessible.role: Accessible.ComboBox
+        Accessible.name: "Sort, " + displayText
         // A quiet control like the buttons beside it, not a grey slab.
         background: Rectangle {
             implicitHeight: 28
@@ -64,6 +66,9 @@ RowLayout {
             anchors.right: clear.left
             anchors.verticalCenter: parent.verticalCenter
             placeholderText: "Search scans..."
+            Accessible.role: Accessible.EditableText
+            Accessible.name: placeholderText
+            Accessible.searchEdit: true
             font: Theme.body
             background: null
             text: bar.scans.searchText
@@ -82,6 +87,7 @@ RowLayout {
             leftPadding: Theme.spacingTiny
             rightPadding: Theme.spacingTiny
             onClicked: bar.scans.searchText = ""
+            Accessible.name: "Clear search"
         }
     }
 }

@@ -17,6 +17,8 @@ RowLayout {
     Column {
         Layout.fillWidth: true
         spacing: 2
+        Accessible.role: Accessible.Heading
+        Accessible.name: "Scan History, " + AppState.scanHistory.count + " scans saved"
         Text {
             text: "Scan History"
             font: Theme.weighted(Theme.title2, Font.Bold)

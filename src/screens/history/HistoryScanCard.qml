@@ -26,6 +26,11 @@ Rectangle {
     color: area.containsMouse ? "#FAFAFC" : Theme.controlBackground
     border.width: selected ? 2 : 0
     border.color: Theme.accent
+    // Announced as what a click does: open this scan.
+    Accessible.role: Accessible.Button
+    Accessible.name: "Open scan of " + (rootName !== "" ? rootName : rootPath) + ", "
+                     + Format.byteCount(totalSize) + ", " + Format.absoluteDate(scanDate)
+    Accessible.onPressAction: AppState.openResult(card.result)
 
     // The list's current card, while the list has the keyboard (only keys give it the focus).
     FocusRing {
@@ -54,6 +59,12 @@ Rectangle {
         anchors.leftMargin: Theme.spacingLarge
         anchors.verticalCenter: parent.verticalCenter
         selected: card.selected
+        Accessible.role: Accessible.CheckBox
+        Accessible.name: "Select scan of " + (card.rootName !== "" ? card.rootName : card.rootPath)
+        Accessible.checkable: true
+        Accessible.checked: card.selected
+        Accessible.onToggleAction: card.scans.toggleSelection(card.result)
+        Accessible.onPressAction: card.scans.toggleSelection(card.result)
 
         MouseArea {
             anchors.fill: parent

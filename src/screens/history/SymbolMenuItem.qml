@@ -11,6 +11,8 @@ MenuItem {
     property bool destructive: false
 
     font: Theme.body
+    Accessible.role: Accessible.MenuItem
+    Accessible.name: text
     contentItem: ButtonLabel {
         text: item.text
         symbol: item.symbol

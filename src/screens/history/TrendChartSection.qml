@@ -44,6 +44,10 @@ Rectangle {
 
         TrendChart {
             objectName: "trendChart"
+            Accessible.role: Accessible.Chart
+            Accessible.name: "Storage Trend of " + section.series.folderName + ", " + sizes.length
+                             + " scans" + (sizes.length === 0 ? "" : ", from " + Format.byteCount(sizes[0])
+                                           + " to " + Format.byteCount(sizes[sizes.length - 1]))
             width: parent.width
             height: 150
             visible: !section.series.isEmpty

@@ -5,6 +5,9 @@ import Tessarine.Screens
 // The application's badge, name and promise at the top of the start screen.
 Column {
     spacing: Theme.spacingLarge
+    Accessible.role: Accessible.Heading
+    Accessible.name: "Tessarine"
+    Accessible.description: "Analyze your disk space with beautiful visualizations"
 
     Item {
         anchors.horizontalCenter: parent.horizontalCenter

@@ -11,7 +11,7 @@ AbstractButton {
 
     implicitWidth: 210
     padding: Theme.spacingMedium
-    Accessible.name: result.rootName
+    Accessible.name: "Open scan of " + (result.rootName !== "" ? result.rootName : result.rootPath)
 
     onClicked: AppState.openResult(result)
 

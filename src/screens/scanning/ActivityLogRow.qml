@@ -11,6 +11,9 @@ RowLayout {
     required property bool isFolder
     required property string size
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: (isFolder ? "Folder " : "File ") + name + (size === "" ? "" : ", " + size) + ", " + timestamp
+
     implicitHeight: 22
     spacing: 6
 

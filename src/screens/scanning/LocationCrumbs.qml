@@ -9,6 +9,9 @@ Flow {
     // Shown instead while there is no path.
     property string emptyText
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: crumbs.length === 0 ? emptyText : crumbs.join(" / ")
+
     spacing: 4
 
     Text {

@@ -21,6 +21,8 @@ Row {
             required property bool current
 
             spacing: 4
+            Accessible.role: Accessible.ListItem
+            Accessible.name: label + (completed ? ", done" : (current ? ", in progress" : ""))
 
             Column {
                 spacing: 3

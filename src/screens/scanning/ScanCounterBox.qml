@@ -11,6 +11,9 @@ Rectangle {
     property string icon
     property color tint: Theme.blue
 
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label + ", " + value
+
     implicitHeight: 92
     radius: Theme.radiusCard
     color: Theme.controlBackground

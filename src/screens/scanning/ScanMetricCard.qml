@@ -15,6 +15,8 @@ Rectangle {
     implicitHeight: content.implicitHeight + 24
     radius: 8
     color: Theme.withOpacity(Theme.named(colorName), 0.1)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title + ", " + value + (unit === "" ? "" : " " + unit)
 
     ColumnLayout {
         id: content

@@ -10,6 +10,8 @@ ColumnLayout {
     property real percentage: 0
 
     spacing: 6
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: "Progress, " + Math.floor(percentage * 100) + " percent"
 
     RowLayout {
         Layout.fillWidth: true

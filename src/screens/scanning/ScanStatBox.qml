@@ -10,6 +10,9 @@ Rectangle {
     property string value
     property string colorName
 
+    Accessible.role: Accessible.Grouping
+    Accessible.name: label + ", " + value
+
     implicitHeight: 58
     radius: 8
     color: Theme.withOpacity(Theme.named(colorName), 0.08)

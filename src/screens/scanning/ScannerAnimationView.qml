@@ -10,6 +10,12 @@ Column {
     required property bool hasProgress
     required property real rotationAngle
 
+    // The ring is drawn; what it says is read as one status.
+    Accessible.role: Accessible.Grouping
+    Accessible.name: status.phaseTitle + (hasProgress ? ", " + status.itemCount + " items" : "")
+    Accessible.description: status.phaseDescription
+                            + (status.currentName === "" ? "" : ", " + status.currentName)
+
     spacing: Theme.spacingSmall
 
     Item {

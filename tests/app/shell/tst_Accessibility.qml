@@ -1,0 +1,152 @@
+import QtQuick
+import QtTest
+import Tessarine
+import Tessarine.App
+import Tessarine.Testing
+import "../../screens/qml/ViewSearch.js" as ViewSearch
+
+// Every screen read through the accessibility tree that Qt gives screen readers: no control,
+// card, chart, cell, row or field may be announced without a name, nor an icon glyph as text.
+TestCase {
+    id: testCase
+
+    name: "Accessibility"
+    width: 1200
+    height: 800
+    visible: true
+    when: windowShown
+
+    Component {
+        id: contentComponent
+        ContentView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    Component {
+        id: helpComponent
+        HelpWindow {}
+    }
+
+    Component {
+        id: alertComponent
+        ErrorAlert {}
+    }
+
+    Component {
+        id: menuBarComponent
+        AppMenuBar {
+            commands: AppCommands {}
+        }
+    }
+
+    function initTestCase() {
+        Accessibility.activate()
+    }
+
+    function cleanup() {
+        if (AppState.isScanning)
+            AppState.cancelScan()
+        Fixture.clearProgress()
+        Fixture.forgetFolderScans()
+        AppState.clearError()
+        AppState.currentView = AppState.Landing
+    }
+
+    // Read once everything has faded in: a screen reader skips what is fully transparent.
+    function verifyNamed(item, what) {
+        waitForRendering(item)
+        tryVerify(() => ViewSearch.visibleItems(item, child => child.hasOwnProperty("isAnimated")
+                                                              && child.opacity < 1).length === 0)
+        const faults = Accessibility.faults(item)
+        verify(faults.length === 0, what + " has " + faults.length + " faults:\n"
+                                    + faults.join("\n"))
+    }
+
+    function test_everyScreenNamesWhatItShows() {
+        const content = createTemporaryObject(contentComponent, testCase)
+        const menuBar = createTemporaryObject(menuBarComponent, testCase)
+        verifyNamed(content, "the landing screen")
+        menuBar.menus[0].open()
+        tryVerify(() => menuBar.menus[0].opened)
+        verifyNamed(content, "the File menu")
+        menuBar.menus[0].close()
+
+        Fixture.showProgress("/Users/ann/Projects/tessarine/src")
+        AppState.currentView = AppState.Scanning
+        verifyNamed(content, "the scanning screen")
+        Fixture.clearProgress()
+
+        AppState.openResult(Fixture.resultWithTree())
+        tryVerify(() => ViewSearch.named(content, "treemapCells") !== null)
+        verifyNamed(content, "the dashboard with its folder analysis")
+        verify(findChild(content, "folderTreemap").treemap.drillDown(0))
+        verifyNamed(content, "a drilled-down folder treemap")
+        const exportSheet = findChild(content, "exportSheet")
+        exportSheet.open()
+        tryVerify(() => exportSheet.opened)
+        verifyNamed(content, "the export sheet")
+        exportSheet.close()
+
+        Fixture.showFullResult()
+        verifyNamed(content, "a full dashboard")
+        const analysis = findChild(content, "folderAnalysis")
+        Fixture.holdBuild(analysis.controller.service, "building")
+        analysis.controller.build(analysis.result.rootPath)
+        tryCompare(analysis.controller.service, "phaseName", "building")
+        verifyNamed(content, "a folder tree build")
+        analysis.controller.cancel()
+
+        // Two scans of one folder give the history its trend chart.
+        Fixture.saveElsewhere(Fixture.folderPath, 2)
+        Fixture.saveElsewhere(Fixture.folderPath, 1)
+        AppState.currentView = AppState.History
+        tryVerify(() => ViewSearch.named(content, "trendChart") !== null, 5000)
+        verifyNamed(content, "the history")
+        const circles = ViewSearch.visibleItems(content, item => item.objectName === "selectionCircle")
+        mouseClick(circles[0].parent, 200, 30, Qt.RightButton)
+        const menu = findChild(content, "scanMenu")
+        tryVerify(() => menu.opened)
+        verifyNamed(content, "the scan menu")
+        menu.close()
+        tryVerify(() => !menu.visible)
+        mouseClick(circles[0])
+        mouseClick(circles[1])
+        const sheet = findChild(content, "comparisonSheet")
+        sheet.open()
+        tryVerify(() => sheet.opened)
+        verifyNamed(content, "the comparison sheet")
+        sheet.close()
+        const confirmation = findChild(content, "deleteConfirmation")
+        confirmation.open()
+        tryVerify(() => confirmation.opened)
+        verifyNamed(content, "the delete confirmation")
+        confirmation.close()
+
+        createTemporaryObject(alertComponent, content)
+        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        verifyNamed(content, "the error alert")
+    }
+
+    function test_everyHelpSectionNamesWhatItShows() {
+        const help = createTemporaryObject(helpComponent, testCase)
+        help.showHelp()
+        const sidebar = findChild(help.contentItem, "helpSidebar")
+        for (let section = 0; section < 7; ++section) {
+            sidebar.currentIndex = section
+            verifyNamed(help.contentItem, "help section " + (section + 1))
+        }
+    }
+
+    // A button that changes its label is announced by its new one.
+    function test_namesFollowTheLabels() {
+        const content = createTemporaryObject(contentComponent, testCase)
+        Fixture.showFullResult()
+        AppState.currentView = AppState.Dashboard
+        const showAll = ViewSearch.named(content, "showAllExtensionsButton")
+        compare(Accessibility.nameOf(showAll), "Show All")
+        showAll.clicked()
+        compare(Accessibility.nameOf(showAll), "Show Less")
+    }
+}

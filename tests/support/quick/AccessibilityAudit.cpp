@@ -1,0 +1,169 @@
+#include "AccessibilityAudit.h"
+
+#include <QAccessible>
+#include <QMetaEnum>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSet>
+
+#include <algorithm>
+
+namespace tessarine {
+
+namespace {
+
+// The roles of something a click acts on.
+bool isControl(QAccessible::Role role) {
+    switch (role) {
+    case QAccessible::Button:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::ComboBox:
+    case QAccessible::EditableText:
+    case QAccessible::SpinBox:
+    case QAccessible::Slider:
+    case QAccessible::PageTab:
+    case QAccessible::MenuItem:
+    case QAccessible::Link:
+    case QAccessible::ListItem:
+    case QAccessible::Row:
+    case QAccessible::Cell:
+    case QAccessible::ColumnHeader:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The roles a screen reader announces by their name: controls, and what holds or shows
+// information (cards, charts, lists, tables, dialogs, headings, texts). Plain items, panes,
+// separators and scroll bars are left out.
+bool needsName(QAccessible::Role role) {
+    switch (role) {
+    case QAccessible::ProgressBar:
+    case QAccessible::List:
+    case QAccessible::Table:
+    case QAccessible::Chart:
+    case QAccessible::Graphic:
+    case QAccessible::Grouping:
+    case QAccessible::Dialog:
+    case QAccessible::AlertMessage:
+    case QAccessible::Heading:
+    case QAccessible::StaticText:
+        return true;
+    default:
+        return isControl(role);
+    }
+}
+
+// An icon font's glyphs lie in the private use area: a reader spells them as nonsense.
+bool hasGlyph(const QString& text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar c) { return c.category() == QChar::Other_PrivateUse; });
+}
+
+QString describe(QAccessibleInterface* element, const QString& context) {
+    const char* role = QMetaEnum::fromType<QAccessible::Role>().valueToKey(element->role());
+    const QString type = element->object()
+                             ? QString::fromLatin1(element->object()->metaObject()->className())
+                             : QStringLiteral("painted element");
+    return QStringLiteral("%1 %2 \"%3\" in \"%4\"")
+        .arg(QString::fromLatin1(role ? role : "?"), type, element->text(QAccessible::Name),
+             context);
+}
+
+// The items a screen reader meets, and what is wrong with them.
+struct Audit {
+    QSet<const QObject*> elements;
+    QStringList faults;
+};
+
+void audit(QAccessibleInterface* element, const QString& context, Audit& found) {
+    if (!element || element->state().invisible)
+        return;
+    found.elements.insert(element->object());
+    const QString name = element->text(QAccessible::Name);
+    if (hasGlyph(name) || (name.trimmed().isEmpty() && needsName(element->role())))
+        found.faults.append(describe(element, context));
+    const QString inner = name.isEmpty() ? context : name;
+    for (int i = 0; i < element->childCount(); ++i)
+        audit(element->child(i), inner, found);
+}
+
+// Whether a click on the item does something: a mouse area taking buttons, or a tap handler.
+bool isClickable(const QQuickItem& item) {
+    if (item.inherits("QQuickMouseArea"))
+        return item.isEnabled() && item.property("acceptedButtons").toInt() != Qt::NoButton;
+    const QObjectList& children = item.children();
+    // Only handlers the application declared: Qt's own views add some for their selection.
+    return std::any_of(children.begin(), children.end(), [](QObject* child) {
+        return child->inherits("QQuickTapHandler") && qmlContext(child) &&
+               child->property("enabled").toBool();
+    });
+}
+
+// Controls and fields, which a screen reader must list as elements of their own: in Qt 6.4 a
+// control has none until its Accessible properties are set.
+bool isControlItem(const QQuickItem& item) {
+    return item.inherits("QQuickAbstractButton") || item.inherits("QQuickComboBox") ||
+           item.inherits("QQuickSlider") || item.inherits("QQuickSpinBox") ||
+           item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
+}
+
+// Every control and field must be an element. What a screen reader says for a clickable item is
+// the nearest element above it with a role of its own; unless that is a control, the click cannot
+// be reached without the pointer.
+void auditReach(QQuickItem* item, Audit& found) {
+    if (!item->isVisible())
+        return;
+    if (isControlItem(*item)) {
+        if (!found.elements.contains(item))
+            found.faults.append(
+                QStringLiteral("%1 \"%2\" in %3 is no element")
+                    .arg(QString::fromLatin1(item->metaObject()->className()), item->objectName(),
+                         QString::fromLatin1(item->parentItem()->metaObject()->className())));
+        // What lies inside a control (the face of a combo box) is the control's own.
+        return;
+    }
+    if (isClickable(*item)) {
+        QQuickItem* speaker = item->inherits("QQuickMouseArea") ? item->parentItem() : item;
+        QAccessibleInterface* element = nullptr;
+        for (; speaker; speaker = speaker->parentItem()) {
+            element = QAccessible::queryAccessibleInterface(speaker);
+            if (found.elements.contains(speaker) && element->role() != QAccessible::Client)
+                break;
+        }
+        if (!speaker || !isControl(element->role()))
+            found.faults.append(
+                QStringLiteral("clickable %1 in %2 \"%3\" speaks as %4")
+                    .arg(QString::fromLatin1(item->metaObject()->className()),
+                         QString::fromLatin1(item->parentItem()->metaObject()->className()),
+                         item->parentItem()->objectName(),
+                         speaker ? describe(element, QString()) : QStringLiteral("nothing")));
+    }
+    for (QQuickItem* child : item->childItems())
+        auditReach(child, found);
+}
+
+} // namespace
+
+void AccessibilityAudit::activate() {
+    QAccessible::setActive(true);
+}
+
+QStringList AccessibilityAudit::faults(QQuickItem* item) {
+    Audit found;
+    if (!item || !item->window())
+        return {};
+    audit(QAccessible::queryAccessibleInterface(item->window()), QString(), found);
+    auditReach(item->window()->contentItem(), found);
+    return found.faults;
+}
+
+QString AccessibilityAudit::nameOf(QQuickItem* item) {
+    QAccessibleInterface* element = QAccessible::queryAccessibleInterface(item);
+    return element ? element->text(QAccessible::Name) : QString();
+}
+
+} // namespace tessarine
