@@ -68,50 +68,59 @@ Control {
         width: parent.width
         clip: true
 
-        delegate: Rectangle {
+        // A sortable header is a button Tab reaches (Space or Return sorts by it); a click sorts
+        // without taking the keyboard from the rows.
+        delegate: AbstractButton {
             id: headerCell
 
             required property int column
-            required property string display
+            required property var model
             readonly property bool sorted: root.rows.sortColumn === column
             readonly property bool sortable: column === 0 || column === 1 || column === 3
 
+            text: model.display
             implicitHeight: 26
-            color: Theme.controlBackground
+            enabled: sortable
+            focusPolicy: sortable ? Qt.TabFocus : Qt.NoFocus
+            onClicked: root.rows.sortBy(column)
             Accessible.role: Accessible.ColumnHeader
-            Accessible.name: display
+            Accessible.name: text
             Accessible.description: sorted ? (root.rows.sortOrder === Qt.AscendingOrder ? "Sorted ascending" : "Sorted descending") : ""
-            Accessible.onPressAction: if (sortable) root.rows.sortBy(column)
 
-            Row {
-                anchors.verticalCenter: parent.verticalCenter
-                x: 8
+            background: Rectangle {
+                color: Theme.controlBackground
+
+                Rectangle {
+                    anchors.bottom: parent.bottom
+                    width: parent.width
+                    height: 1
+                    color: Theme.separator
+                }
+
+                FocusRing {
+                    shown: headerCell.visualFocus
+                    outset: 0
+                }
+            }
+
+            contentItem: Row {
+                leftPadding: 8
                 spacing: 4
 
                 Text {
-                    text: headerCell.display
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: headerCell.text
                     font: Theme.weighted(Theme.caption, headerCell.sorted ? Font.DemiBold : Font.Normal)
                     color: Theme.secondary
                 }
 
                 Icon {
+                    anchors.verticalCenter: parent.verticalCenter
                     visible: headerCell.sorted
                     symbol: root.rows.sortOrder === Qt.AscendingOrder ? "chevron.up" : "chevron.down"
                     size: 11
                     color: Theme.secondary
                 }
-            }
-
-            Rectangle {
-                anchors.bottom: parent.bottom
-                width: parent.width
-                height: 1
-                color: Theme.separator
-            }
-
-            TapHandler {
-                enabled: headerCell.sortable
-                onTapped: root.rows.sortBy(headerCell.column)
             }
         }
     }

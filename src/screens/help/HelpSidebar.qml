@@ -56,6 +56,8 @@ Rectangle {
                 height: 30
                 leftPadding: Theme.spacingSmall
                 onClicked: sidebar.currentIndex = row.index
+                // The window opens with the keyboard on the section shown, so the arrows work at once.
+                focus: row.current
                 Accessible.role: Accessible.PageTab
                 Accessible.name: modelData.title
                 Accessible.selected: current
