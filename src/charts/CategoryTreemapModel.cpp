@@ -1,12 +1,19 @@
 #include "charts/CategoryTreemapModel.h"
 
 #include "app/RoleNames.h"
+#include "app/design/ColorScheme.h"
 #include "charts/TreemapCellStyle.h"
 #include "model/Format.h"
 
 #include <cmath>
 
 namespace tessarine {
+
+CategoryTreemapModel::CategoryTreemapModel(QObject* parent)
+    : QAbstractListModel(parent) {
+    connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this,
+            &CategoryTreemapModel::cellsChanged);
+}
 
 int CategoryTreemapModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : int(m_rects.size());

@@ -11,7 +11,8 @@ namespace tessarine {
 
 // The category treemap of the result bound to it, laid out in the area's size: the cells that
 // TreemapCells paints and, per cell, what its label, details bar and accessible text read. Laid
-// out again whenever the size, the result or the selected category changes.
+// out again whenever the size, the result or the selected category changes; the cells are
+// coloured again when the desktop switches between light and dark.
 class CategoryTreemapModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -34,7 +35,7 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit CategoryTreemapModel(QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -1,11 +1,13 @@
 #include "BuildHold.h"
 #include "DashboardResult.h"
+#include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
 #include "app/FolderTreeController.h"
+#include "app/design/ColorScheme.h"
 #include "app/shell/ShellEngine.h"
 #include "charts/FolderTreemapModel.h"
 #include "scanner/FileSystemScanner.h"
@@ -63,7 +65,8 @@ public:
         return window() ? window()->findChild<T*>(objectName) : nullptr;
     }
 
-    // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png.
+    // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png,
+    // or name-dark.png while the desktop is in dark mode.
     // A picture of the pointer's hover is taken at once: the offscreen window forgets the
     // pointer within a few frames. A window of its own (the help window) is saved the same way.
     enum Timing { AfterTransitions, Immediately };
@@ -79,7 +82,9 @@ public:
         QVERIFY(QDir().mkpath(folder));
         const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
-        QVERIFY(image.save(folder + u'/' + name + QStringLiteral(".png")));
+        const QString appearance =
+            ColorScheme::instance().dark() ? QStringLiteral("-dark") : QString();
+        QVERIFY(image.save(folder + u'/' + name + appearance + QStringLiteral(".png")));
     }
 
 private:
@@ -381,5 +386,13 @@ private slots:
     }
 };
 
-QTEST_MAIN(ScreenshotTest)
+// Every picture as a light desktop shows it, then again after the desktop switched to dark.
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+    application.setAttribute(Qt::AA_Use96Dpi, true);
+    ScreenshotTest test;
+    const int lightFailures = QTest::qExec(&test, argc, argv);
+    QGuiApplication::setPalette(testing::darkDesktopPalette());
+    return lightFailures + QTest::qExec(&test, argc, argv);
+}
 #include "ScreenshotTest.moc"

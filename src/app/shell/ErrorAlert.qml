@@ -102,7 +102,7 @@ Dialog {
     }
 
     Overlay.modal: Rectangle {
-        color: Qt.rgba(0, 0, 0, 0.18)
+        color: Theme.scrim
     }
 
     enter: Transition {

@@ -1,0 +1,121 @@
+#include "DesktopPalette.h"
+#include "SampleResults.h"
+
+#include "app/design/ColorScheme.h"
+#include "charts/CategoryTreemapModel.h"
+#include "charts/FolderTreemapModel.h"
+#include "model/FileCategory.h"
+#include "model/FolderColor.h"
+
+#include <QMetaProperty>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QSignalSpy>
+#include <QTest>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
+
+using namespace tessarine;
+
+namespace {
+
+QList<QColor> fills(const TreemapCellList& cells) {
+    QList<QColor> colors;
+    for (const TreemapCell& cell : cells.cells())
+        colors.append(cell.fill);
+    return colors;
+}
+
+} // namespace
+
+// The palette's two appearances, and the switch between them while the application runs.
+class ColorSchemeTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_lightPalette = QGuiApplication::palette(); }
+    void cleanup() { QGuiApplication::setPalette(m_lightPalette); }
+
+    void everyNamedColorHasBothAppearances() {
+        const QStringList light = paletteColorNames(Appearance::light);
+        const QStringList dark = paletteColorNames(Appearance::dark);
+        for (const QString& name : light)
+            QVERIFY2(dark.contains(name), qPrintable(name + QStringLiteral(" has no dark colour")));
+        for (const QString& name : dark)
+            QVERIFY2(light.contains(name), qPrintable(name + QStringLiteral(" has no light colour")));
+        // The names that data carries must be in the table, not fall back to the secondary colour.
+        for (FileCategory category : allFileCategories())
+            QVERIFY2(light.contains(colorName(category)), qPrintable(colorName(category)));
+        for (FolderColor color : allFolderColors())
+            QVERIFY2(light.contains(rawValue(color)), qPrintable(rawValue(color)));
+    }
+
+    // Every colour of Theme is the palette's colour of its name in the current appearance, and a
+    // binding to one follows the desktop's switch without anything being loaded again.
+    void themeFollowsTheDesktopLive() {
+        QQmlEngine engine;
+        engine.addImportPath(QStringLiteral(":/"));
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport Tessarine.App\n"
+                          "Rectangle { color: Theme.windowBackground; property QtObject theme: Theme }",
+                          QUrl());
+        std::unique_ptr<QObject> rectangle(component.create());
+        QVERIFY2(rectangle, qPrintable(component.errorString()));
+        const QObject* theme = rectangle->property("theme").value<QObject*>();
+        QVERIFY(!ColorScheme::instance().dark());
+
+        for (const Appearance appearance : {Appearance::dark, Appearance::light}) {
+            QGuiApplication::setPalette(appearance == Appearance::dark
+                                            ? testing::darkDesktopPalette()
+                                            : m_lightPalette);
+            QTRY_COMPARE(rectangle->property("color").value<QColor>(),
+                         paletteColor(u"windowBackground", appearance));
+            const QMetaObject* type = theme->metaObject();
+            for (int i = type->propertyOffset(); i < type->propertyCount(); ++i) {
+                const QMetaProperty property = type->property(i);
+                if (property.metaType() != QMetaType::fromType<QColor>())
+                    continue;
+                const QString name = QString::fromLatin1(property.name());
+                QVERIFY2(paletteColorNames(appearance).contains(name),
+                         qPrintable(name + QStringLiteral(" is not a palette colour")));
+                QCOMPARE(property.read(theme).value<QColor>(), paletteColor(name, appearance));
+            }
+        }
+    }
+
+    // The treemaps paint colours C++ picked: a switch must hand them new cells, laid out as before.
+    void treemapsRepaintInTheNewColours() {
+        const AnalysisResult result = testing::sampleResult();
+        CategoryTreemapModel categories;
+        categories.setResult(result);
+        categories.setAreaWidth(400);
+        categories.setAreaHeight(300);
+        FolderTreemapModel folders;
+        folders.setTree(result.folderTree);
+        folders.setAreaSize(QSizeF(400, 300));
+        const QList<QColor> lightCategories = fills(categories.cells());
+        const QList<QColor> lightFolders = fills(folders.cells());
+        QVERIFY(!lightCategories.isEmpty() && !lightFolders.isEmpty());
+        QSignalSpy categoryCells(&categories, &CategoryTreemapModel::cellsChanged);
+        QSignalSpy folderCells(&folders, &FolderTreemapModel::cellsChanged);
+
+        QGuiApplication::setPalette(testing::darkDesktopPalette());
+        QTRY_COMPARE(categoryCells.count(), 1);
+        QCOMPARE(folderCells.count(), 1);
+        const QList<QColor> darkCategories = fills(categories.cells());
+        const QList<QColor> darkFolders = fills(folders.cells());
+        QCOMPARE(darkCategories.size(), lightCategories.size());
+        QCOMPARE(darkFolders.size(), lightFolders.size());
+        for (qsizetype i = 0; i < darkFolders.size(); ++i)
+            QVERIFY(darkFolders[i] != lightFolders[i]);
+        QVERIFY(darkCategories != lightCategories);
+    }
+
+private:
+    QPalette m_lightPalette;
+};
+
+QTEST_MAIN(ColorSchemeTest)
+#include "ColorSchemeTest.moc"
