@@ -44,7 +44,8 @@ private slots:
         for (const QString& name : light)
             QVERIFY2(dark.contains(name), qPrintable(name + QStringLiteral(" has no dark colour")));
         for (const QString& name : dark)
-            QVERIFY2(light.contains(name), qPrintable(name + QStringLiteral(" has no light colour")));
+            QVERIFY2(light.contains(name),
+                     qPrintable(name + QStringLiteral(" has no light colour")));
         // The names that data carries must be in the table, not fall back to the secondary colour.
         for (FileCategory category : allFileCategories())
             QVERIFY2(light.contains(colorName(category)), qPrintable(colorName(category)));
@@ -58,18 +59,18 @@ private slots:
         QQmlEngine engine;
         engine.addImportPath(QStringLiteral(":/"));
         QQmlComponent component(&engine);
-        component.setData("import QtQuick\nimport Tessarine.App\n"
-                          "Rectangle { color: Theme.windowBackground; property QtObject theme: Theme }",
-                          QUrl());
+        component.setData(
+            "import QtQuick\nimport Tessarine.App\n"
+            "Rectangle { color: Theme.windowBackground; property QtObject theme: Theme }",
+            QUrl());
         std::unique_ptr<QObject> rectangle(component.create());
         QVERIFY2(rectangle, qPrintable(component.errorString()));
         const QObject* theme = rectangle->property("theme").value<QObject*>();
         QVERIFY(!ColorScheme::instance().dark());
 
         for (const Appearance appearance : {Appearance::dark, Appearance::light}) {
-            QGuiApplication::setPalette(appearance == Appearance::dark
-                                            ? testing::darkDesktopPalette()
-                                            : m_lightPalette);
+            QGuiApplication::setPalette(
+                appearance == Appearance::dark ? testing::darkDesktopPalette() : m_lightPalette);
             QTRY_COMPARE(rectangle->property("color").value<QColor>(),
                          paletteColor(u"windowBackground", appearance));
             const QMetaObject* type = theme->metaObject();

@@ -38,19 +38,22 @@ AppearancePortal::AppearancePortal(QObject* parent)
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(service, objectPath, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
     QDBusMessage read =
         QDBusMessage::createMethodCall(service, objectPath, interface, QStringLiteral("Read"));
     read << group << key;
-    // Not waited for: a portal that is slow to start must not hold up the window.
+    // Not waited for: a portal that is slow to start must not hold up the window. Its switches
+    // are listened to once it has answered.
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* call) {
-        const QDBusPendingReply<QDBusVariant> reply = *call;
-        if (!reply.isError())
-            emit preferenceChanged(preferenceOf(reply.argumentAt(0)));
-        call->deleteLater();
-    });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, bus](QDBusPendingCallWatcher* call) mutable {
+                const QDBusPendingReply<QDBusVariant> reply = *call;
+                call->deleteLater();
+                if (reply.isError())
+                    return;
+                bus.connect(service, objectPath, interface, QStringLiteral("SettingChanged"), this,
+                            SLOT(settingChanged(QString, QString, QDBusVariant)));
+                emit preferenceChanged(preferenceOf(reply.argumentAt(0)));
+            });
 }
 
 void AppearancePortal::settingChanged(const QString& changedGroup, const QString& changedKey,

@@ -16,7 +16,8 @@ class AppearancePortal : public QObject {
 public:
     enum class Preference { none, dark, light };
 
-    // Asks the portal without waiting for it, and listens for the desktop's later switches.
+    // Asks the portal without waiting for it and, once it has answered, listens for the desktop's
+    // later switches.
     explicit AppearancePortal(QObject* parent = nullptr);
 
 signals:

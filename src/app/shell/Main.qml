@@ -26,6 +26,7 @@ ApplicationWindow {
     palette.placeholderText: Theme.tertiary
     palette.highlight: Theme.accent
     palette.highlightedText: Theme.labelOnAccent
+    palette.dark: Theme.primary
 
     menuBar: AppMenuBar {
         commands: commands
