@@ -378,6 +378,27 @@ private slots:
         }
     }
 
+    // The screens with painted parts (canvases, treemap cells), switched to dark while shown:
+    // nothing may keep its light colours. Taken once, in the light run.
+    void switchedToDarkWhileShown() {
+        if (ColorScheme::instance().dark())
+            QSKIP("taken in the light run");
+        const QPalette light = QGuiApplication::palette();
+        Scene landing(3);
+        Scene scanning;
+        scanning.state().setCurrentView(AppState::Scanning);
+        scanning.state().setScanProgress(testing::sampleProgress(QStringLiteral("/Users/ann")));
+        Scene dashboard(3);
+        dashboard.state().openResult(dashboardResult());
+        for (Scene* scene : {&landing, &scanning, &dashboard})
+            QVERIFY(QTest::qWaitForWindowExposed(scene->window()));
+        QGuiApplication::setPalette(testing::darkDesktopPalette());
+        landing.save(QStringLiteral("landing-switched"));
+        scanning.save(QStringLiteral("scanning-switched"));
+        dashboard.save(QStringLiteral("dashboard-switched"));
+        QGuiApplication::setPalette(light);
+    }
+
     void errorAlert() {
         Scene scene(3);
         scene.state().setError(
