@@ -11,8 +11,8 @@ namespace tessarine {
 
 enum class Appearance { light, dark };
 
-// The named colours of the system palette the application was designed against, in a light and
-// a dark variant of the same names, in one place for C++ drawing and for QML (Theme reads every
+// The named colours of the system palette the application was designed against, each in a light
+// and a dark variant, in one place for C++ drawing and for QML (Theme reads every
 // colour it has from here). Besides the system's named colours and label tiers, the table holds
 // the surfaces and the materials that stand in for translucent ones.
 // Data carries colour names ("pink" for images, "cyan" for a folder), which this maps to colours.
@@ -20,8 +20,8 @@ enum class Appearance { light, dark };
 QColor paletteColor(QStringView name, Appearance appearance);
 // In the appearance the desktop asks for now (ColorScheme).
 QColor paletteColor(QStringView name);
-// Every name the appearance's table holds, in table order.
-QStringList paletteColorNames(Appearance appearance);
+// Every name the palette holds, in table order.
+QStringList paletteColorNames();
 
 class Palette : public QObject {
     Q_OBJECT
