@@ -12,8 +12,6 @@ using namespace tessarine;
 
 namespace {
 
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-
 // The desktop's settings portal, answering Read as older portals do (the value wrapped in a
 // second variant) and announcing switches with SettingChanged.
 class FakeSettingsPortal : public QObject {
@@ -30,10 +28,7 @@ public:
     }
 
 public slots:
-    QDBusVariant Read(const QString& group, const QString& key) const {
-        if (group != QStringLiteral("org.freedesktop.appearance") ||
-            key != QStringLiteral("color-scheme"))
-            return {};
+    QDBusVariant Read(const QString&, const QString&) const {
         return QDBusVariant(QVariant::fromValue(QDBusVariant(colorScheme)));
     }
 
@@ -41,53 +36,37 @@ signals:
     void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 };
 
-// A session bus of the test's own, made the process's session bus.
-class PrivateSessionBus {
-public:
-    PrivateSessionBus() {
-        const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-        if (daemon.isEmpty())
-            return;
-        m_daemon.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                                QStringLiteral("--print-address")});
-        if (!m_daemon.waitForReadyRead())
-            return;
-        m_address = QString::fromLatin1(m_daemon.readLine()).trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toLatin1());
-    }
-    ~PrivateSessionBus() {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
-    }
-
-    bool isRunning() const { return !m_address.isEmpty(); }
-    const QString& address() const { return m_address; }
-
-private:
-    QProcess m_daemon;
-    QString m_address;
-};
-
 } // namespace
 
-// The desktop's preference from the portal of a session bus of the test's own: it wins over the
+// The desktop's preference from a portal on a session bus of the test's own: it wins over the
 // platform palette and switches live; "no preference" leaves the palette to decide.
 class ColorSchemePortalTest : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase() {
-        if (!m_bus.isRunning())
+        const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
+        if (daemon.isEmpty())
             QSKIP("needs dbus-daemon");
+        m_bus.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                             QStringLiteral("--print-address")});
+        QVERIFY(m_bus.waitForReadyRead());
+        const QByteArray address = m_bus.readLine().trimmed();
+        // The application's session bus from its first use on, which is still to come.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
         QDBusConnection portal =
-            QDBusConnection::connectToBus(m_bus.address(), QStringLiteral("portal"));
+            QDBusConnection::connectToBus(QString::fromLatin1(address), QStringLiteral("portal"));
         QVERIFY(portal.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
                                       QDBusConnection::ExportAllSlots |
                                           QDBusConnection::ExportAllSignals));
-        QVERIFY(portal.registerService(portalService));
+        QVERIFY(portal.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
     }
 
-    void cleanupTestCase() { QDBusConnection::disconnectFromBus(QStringLiteral("portal")); }
+    void cleanupTestCase() {
+        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+        m_bus.kill();
+        m_bus.waitForFinished();
+    }
 
     void portalPreferenceWinsAndSwitchesLive() {
         m_portal.colorScheme = 1;
@@ -107,20 +86,10 @@ private slots:
         QVERIFY(!scheme.dark());
     }
 
-public:
-    explicit ColorSchemePortalTest(const PrivateSessionBus& bus)
-        : m_bus(bus) {}
-
 private:
-    const PrivateSessionBus& m_bus;
+    QProcess m_bus;
     FakeSettingsPortal m_portal;
 };
 
-int main(int argc, char** argv) {
-    // Before the application: it may reach for the session bus as it starts.
-    PrivateSessionBus bus;
-    QGuiApplication application(argc, argv);
-    ColorSchemePortalTest test(bus);
-    return QTest::qExec(&test, argc, argv);
-}
+QTEST_MAIN(ColorSchemePortalTest)
 #include "ColorSchemePortalTest.moc"
