@@ -18,6 +18,8 @@ packages=(
   qml6-module-qtquick-shapes qml6-module-qttest qt6-qpa-plugins
   # fonts: text face and the icon set
   fonts-inter fonts-material-design-icons-iconfont
+  # a session bus of its own for the colour-scheme portal test
+  dbus-daemon
   # benchmark peers and the peak-memory probe
   gdu ncdu time
 )

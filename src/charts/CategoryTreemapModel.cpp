@@ -1,9 +1,16 @@
 #include "charts/CategoryTreemapModel.h"
 
 #include "app/RoleNames.h"
+#include "app/design/ColorScheme.h"
 #include "charts/TreemapCellStyle.h"
 
 namespace tessarine {
+
+CategoryTreemapModel::CategoryTreemapModel(QObject* parent)
+    : QAbstractListModel(parent) {
+    connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this,
+            &CategoryTreemapModel::cellsChanged);
+}
 
 int CategoryTreemapModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : int(m_rects.size());

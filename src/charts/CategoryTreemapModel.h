@@ -10,8 +10,9 @@
 namespace tessarine {
 
 // The category treemap of the result bound to it, laid out in the area's size: the cells that
-// TreemapCells paints and, per cell, what its label and details bar read. Laid
-// out again whenever the size, the result or the selected category changes.
+// TreemapCells paints and, per cell, what its label and details bar read. Laid out again
+// whenever the size, the result or the selected category changes; the cells are coloured again
+// when the desktop switches between light and dark.
 class CategoryTreemapModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -33,7 +34,7 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit CategoryTreemapModel(QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -1,8 +1,18 @@
 #include "charts/FolderTreemapModel.h"
 
+#include "app/design/ColorScheme.h"
 #include "charts/TreemapCellStyle.h"
 
 namespace tessarine {
+
+FolderTreemapModel::FolderTreemapModel(QObject* parent)
+    : QObject(parent) {
+    // The layout stays; only the colours are new.
+    connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this, [this] {
+        m_cells = TreemapCellList(folderTreemapCells(m_treemap));
+        emit cellsChanged();
+    });
+}
 
 void FolderTreemapModel::setTree(const SharedFolderTree& tree) {
     m_tree = tree;

@@ -15,7 +15,8 @@ namespace tessarine {
 
 // The folder treemap card's state: the folders drilled into, the cells of the current folder's
 // nested levels laid out for the area, and the folder the details bar describes. The cells are
-// laid out again whenever the folder or the area changes; nothing else is kept between layouts.
+// laid out again whenever the folder or the area changes, and coloured again when the desktop
+// switches between light and dark; nothing else is kept between layouts.
 class FolderTreemapModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +33,7 @@ class FolderTreemapModel : public QObject {
     Q_PROPERTY(tessarine::FolderSummary details READ details NOTIFY detailsChanged)
 
 public:
-    using QObject::QObject;
+    explicit FolderTreemapModel(QObject* parent = nullptr);
 
     const SharedFolderTree& tree() const { return m_tree; }
     void setTree(const SharedFolderTree& tree);

@@ -1,11 +1,13 @@
 #include "BuildHold.h"
 #include "DashboardResult.h"
+#include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
 #include "app/FolderTreeController.h"
+#include "app/design/ColorScheme.h"
 #include "app/shell/ShellEngine.h"
 #include "charts/FolderTreemapModel.h"
 #include "scanner/FileSystemScanner.h"
@@ -63,7 +65,8 @@ public:
         return window() ? window()->findChild<T*>(objectName) : nullptr;
     }
 
-    // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png.
+    // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png,
+    // or name-dark.png while the desktop is in dark mode.
     // A picture of the pointer's hover is taken at once: the offscreen window forgets the
     // pointer within a few frames. A window of its own (the help window) is saved the same way.
     enum Timing { AfterTransitions, Immediately };
@@ -79,7 +82,9 @@ public:
         QVERIFY(QDir().mkpath(folder));
         const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
-        QVERIFY(image.save(folder + u'/' + name + QStringLiteral(".png")));
+        const QString appearance =
+            ColorScheme::instance().dark() ? QStringLiteral("-dark") : QString();
+        QVERIFY(image.save(folder + u'/' + name + appearance + QStringLiteral(".png")));
     }
 
 private:
@@ -391,6 +396,27 @@ private slots:
         }
     }
 
+    // The screens with painted parts (canvases, treemap cells), switched to dark while shown:
+    // nothing may keep its light colours. Taken once, in the light run.
+    void switchedToDarkWhileShown() {
+        if (ColorScheme::instance().dark())
+            QSKIP("taken in the light run");
+        const QPalette light = QGuiApplication::palette();
+        Scene landing(3);
+        Scene scanning;
+        scanning.state().setCurrentView(AppState::Scanning);
+        scanning.state().setScanProgress(testing::sampleProgress(QStringLiteral("/Users/ann")));
+        Scene dashboard(3);
+        dashboard.state().openResult(dashboardResult());
+        for (Scene* scene : {&landing, &scanning, &dashboard})
+            QVERIFY(QTest::qWaitForWindowExposed(scene->window()));
+        QGuiApplication::setPalette(testing::darkDesktopPalette());
+        landing.save(QStringLiteral("landing-switched"));
+        scanning.save(QStringLiteral("scanning-switched"));
+        dashboard.save(QStringLiteral("dashboard-switched"));
+        QGuiApplication::setPalette(light);
+    }
+
     void errorAlert() {
         Scene scene(3);
         scene.state().setError(
@@ -399,5 +425,13 @@ private slots:
     }
 };
 
-QTEST_MAIN(ScreenshotTest)
+// Every picture as a light desktop shows it, then again after the desktop switched to dark.
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+    application.setAttribute(Qt::AA_Use96Dpi, true);
+    ScreenshotTest test;
+    const int lightFailures = QTest::qExec(&test, argc, argv);
+    QGuiApplication::setPalette(testing::darkDesktopPalette());
+    return lightFailures + QTest::qExec(&test, argc, argv);
+}
 #include "ScreenshotTest.moc"

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import Tessarine.App
 
-// A secondary action: white, hairline border, label in the primary colour (red when destructive).
+// A secondary action: on the control surface, hairline border, label in the primary colour (red when destructive).
 Button {
     id: button
 
@@ -29,7 +29,7 @@ Button {
     background: Rectangle {
         implicitHeight: 28
         radius: Theme.radiusSmall
-        color: button.down ? "#E5E5EA" : (button.hovered ? "#F5F5F7" : Theme.controlBackground)
+        color: button.down ? Theme.controlPressed : (button.hovered ? Theme.controlHovered : Theme.controlBackground)
         border.width: 1
         border.color: Theme.withOpacity(Theme.primary, 0.16)
 

@@ -1,7 +1,7 @@
 import QtQuick
 import Tessarine.App
 
-// The white rounded surface that groups one block of content on the window background, lifted by
+// The rounded control surface that groups one block of content on the window background, lifted by
 // a faint shadow. Set elevated: false for a card inside another surface.
 Rectangle {
     id: card

@@ -35,7 +35,7 @@ Button {
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
-            color: button.down ? Qt.rgba(0, 0, 0, 0.1) : (button.hovered ? Qt.rgba(0, 0, 0, 0.05) : "transparent")
+            color: button.down ? Theme.pressedOverlay : (button.hovered ? Theme.hoverOverlay : "transparent")
         }
 
         FocusRing {

@@ -5,50 +5,68 @@ import QtQuick
 import Tessarine.App as App
 
 // The one palette, type scale and set of measures that every screen shares, so that a card, a
-// caption or a fade looks and moves the same wherever it appears. Named colours come from
-// Palette; the surfaces here are light-mode values.
+// caption or a fade looks and moves the same wherever it appears. Every colour comes from
+// Palette in the appearance the desktop asks for, so that it switches live between light and
+// dark: whatever binds to a colour here is evaluated again when ColorScheme.dark changes.
 QtObject {
     id: theme
 
     // Named colours, from the palette that C++ drawing reads too.
-    readonly property color blue: App.NamedColors.named("blue")
-    readonly property color green: App.NamedColors.named("green")
-    readonly property color teal: App.NamedColors.named("teal")
-    readonly property color orange: App.NamedColors.named("orange")
-    readonly property color pink: App.NamedColors.named("pink")
-    readonly property color purple: App.NamedColors.named("purple")
-    readonly property color red: App.NamedColors.named("red")
-    readonly property color yellow: App.NamedColors.named("yellow")
-    readonly property color brown: App.NamedColors.named("brown")
-    readonly property color indigo: App.NamedColors.named("indigo")
-    readonly property color mint: App.NamedColors.named("mint")
-    readonly property color cyan: App.NamedColors.named("cyan")
-    readonly property color gray: App.NamedColors.named("gray")
-    readonly property color accent: App.NamedColors.named("accent")
+    readonly property color blue: named("blue")
+    readonly property color green: named("green")
+    readonly property color teal: named("teal")
+    readonly property color orange: named("orange")
+    readonly property color pink: named("pink")
+    readonly property color purple: named("purple")
+    readonly property color red: named("red")
+    readonly property color yellow: named("yellow")
+    readonly property color brown: named("brown")
+    readonly property color indigo: named("indigo")
+    readonly property color mint: named("mint")
+    readonly property color cyan: named("cyan")
+    readonly property color gray: named("gray")
+    readonly property color accent: named("accent")
 
     // Label tiers.
-    readonly property color primary: App.NamedColors.named("primary")
-    readonly property color secondary: App.NamedColors.named("secondary")
-    readonly property color tertiary: App.NamedColors.named("tertiary")
-    readonly property color quaternary: App.NamedColors.named("quaternary")
+    readonly property color primary: named("primary")
+    readonly property color secondary: named("secondary")
+    readonly property color tertiary: named("tertiary")
+    readonly property color quaternary: named("quaternary")
 
-    // Surfaces.
-    readonly property color windowBackground: "#ECECEC"
-    readonly property color controlBackground: "#FFFFFF"
-    readonly property color textBackground: "#FFFFFF"
-    readonly property color separator: Qt.rgba(0, 0, 0, 0.1)
+    // Surfaces, and the shades of controls and cards under the pointer or pressed.
+    readonly property color windowBackground: named("windowBackground")
+    readonly property color controlBackground: named("controlBackground")
+    readonly property color controlHovered: named("controlHovered")
+    readonly property color controlPressed: named("controlPressed")
+    readonly property color cardHovered: named("cardHovered")
+    readonly property color cardPressed: named("cardPressed")
+    readonly property color textBackground: named("textBackground")
+    readonly property color separator: named("separator")
+    // Laid over a surface of either appearance to mark hover and press; the dimming behind a modal.
+    readonly property color hoverOverlay: named("hoverOverlay")
+    readonly property color pressedOverlay: named("pressedOverlay")
+    readonly property color scrim: named("scrim")
 
     // Surfaces that stand in for translucent materials, which the scene graph cannot blur.
-    readonly property color sidebarBackground: "#E9E9EB"
-    readonly property color sidebarSelection: Qt.rgba(0, 0, 0, 0.07)
-    readonly property color material: Qt.rgba(1, 1, 1, 0.94)
-    readonly property color contentBackground: "#F5F5F7"
-    readonly property color labelOnAccent: "#FFFFFF"
+    readonly property color sidebarBackground: named("sidebarBackground")
+    readonly property color sidebarSelection: named("sidebarSelection")
+    readonly property color material: named("material")
+    readonly property color materialBorder: named("materialBorder")
+    readonly property color contentBackground: named("contentBackground")
+    readonly property color labelOnAccent: named("labelOnAccent")
+    // The start screen's wash, top to bottom.
+    readonly property color landingTop: named("landingTop")
+    readonly property color landingMiddle: named("landingMiddle")
+    readonly property color landingBottom: named("landingBottom")
+
+    // True while the desktop asks for dark colours.
+    readonly property bool dark: App.ColorScheme.dark
 
     // A colour by its name, so that data carrying a colour name (a category, a folder colour) can
-    // be painted. Unknown names give the secondary colour.
+    // be painted. Unknown names give the secondary colour. Reading `dark` here makes every binding
+    // that calls this depend on the appearance.
     function named(name) {
-        return App.NamedColors.named(name)
+        return App.NamedColors.named(name, theme.dark)
     }
 
     // The colour with its opacity multiplied, so that "secondary at 30%" stays fainter than

@@ -112,7 +112,7 @@ Dialog {
     }
 
     Overlay.modal: Rectangle {
-        color: Qt.rgba(0, 0, 0, 0.18)
+        color: Theme.scrim
     }
 
     enter: Transition {

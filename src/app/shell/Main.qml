@@ -15,6 +15,18 @@ ApplicationWindow {
     title: "Tessarine"
     color: Theme.windowBackground
     font: Theme.body
+    // What the standard controls (text fields, menus, the sort picker's list) draw with, so that
+    // they follow the appearance with everything else.
+    palette.window: Theme.windowBackground
+    palette.windowText: Theme.primary
+    palette.base: Theme.textBackground
+    palette.text: Theme.primary
+    palette.button: Theme.controlBackground
+    palette.buttonText: Theme.primary
+    palette.placeholderText: Theme.tertiary
+    palette.highlight: Theme.accent
+    palette.highlightedText: Theme.labelOnAccent
+    palette.dark: Theme.primary
 
     menuBar: AppMenuBar {
         commands: commands

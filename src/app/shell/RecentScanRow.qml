@@ -41,7 +41,7 @@ AbstractButton {
 
     background: Rectangle {
         radius: Theme.radiusSmall
-        color: row.down ? Qt.rgba(0, 0, 0, 0.1) : (row.hovered ? Theme.sidebarSelection : "transparent")
+        color: row.down ? Theme.pressedOverlay : (row.hovered ? Theme.sidebarSelection : "transparent")
 
         FocusRing {
             shown: row.visualFocus

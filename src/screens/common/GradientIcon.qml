@@ -17,6 +17,8 @@ Canvas {
 
     onSymbolChanged: requestPaint()
     onSizeChanged: requestPaint()
+    onStartColorChanged: requestPaint()
+    onEndColorChanged: requestPaint()
 
     onPaint: {
         const context = getContext("2d")

@@ -23,7 +23,7 @@ Rectangle {
 
     implicitHeight: 72
     radius: Theme.radiusCard
-    color: area.containsMouse ? "#FAFAFC" : Theme.controlBackground
+    color: area.containsMouse ? Theme.cardHovered : Theme.controlBackground
     border.width: selected ? 2 : 0
     border.color: Theme.accent
     // Announced as what a click does: open this scan.

@@ -29,7 +29,7 @@ Column {
             radius: 24
             color: Theme.material
             border.width: 1
-            border.color: Qt.rgba(1, 1, 1, 0.9)
+            border.color: Theme.materialBorder
 
             GradientIcon {
                 anchors.centerIn: parent

@@ -13,9 +13,9 @@ Item {
     Rectangle {
         anchors.fill: parent
         gradient: Gradient {
-            GradientStop { position: 0; color: "#F8F9FD" }
-            GradientStop { position: 0.6; color: "#F1F1F7" }
-            GradientStop { position: 1; color: "#ECE8F5" }
+            GradientStop { position: 0; color: Theme.landingTop }
+            GradientStop { position: 0.6; color: Theme.landingMiddle }
+            GradientStop { position: 1; color: Theme.landingBottom }
         }
     }
 

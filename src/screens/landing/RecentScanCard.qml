@@ -17,7 +17,7 @@ AbstractButton {
 
     background: Rectangle {
         radius: Theme.radiusButton
-        color: card.down ? "#F2F2F5" : Theme.controlBackground
+        color: card.down ? Theme.cardPressed : Theme.controlBackground
         border.width: 1
         border.color: card.hovered ? Theme.withOpacity(Theme.accent, 0.4) : Theme.separator
 

@@ -2,15 +2,21 @@ import QtQuick
 import Tessarine.App
 
 // The ring's spinning arc: a third of the circle with round caps, blue to purple. It is painted
-// once; the spin turns the item, so the canvas never repaints while the scan runs.
+// once; the spin turns the item, so the canvas repaints only when the appearance switches.
 Canvas {
+    property color startColor: Theme.blue
+    property color endColor: Theme.purple
+
+    onStartColorChanged: requestPaint()
+    onEndColorChanged: requestPaint()
+
     onPaint: {
         const context = getContext("2d")
         context.reset()
         const centre = width / 2
         const gradient = context.createLinearGradient(0, 0, width, height)
-        gradient.addColorStop(0, Theme.blue)
-        gradient.addColorStop(1, Theme.purple)
+        gradient.addColorStop(0, startColor)
+        gradient.addColorStop(1, endColor)
         context.lineWidth = 5
         context.lineCap = "round"
         context.strokeStyle = gradient
