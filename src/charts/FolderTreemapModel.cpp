@@ -9,7 +9,7 @@ FolderTreemapModel::FolderTreemapModel(QObject* parent)
     : QObject(parent) {
     // The layout stays; only the colours are new.
     connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this, [this] {
-        m_cells = TreemapCellList(folderTreemapCells(m_treemap));
+        m_cells = styledCells();
         emit cellsChanged();
     });
 }
@@ -111,12 +111,17 @@ void FolderTreemapModel::setPath(std::vector<const FolderInfo*> path) {
     emit navigated();
 }
 
+TreemapCellList FolderTreemapModel::styledCells() const {
+    const FolderInfo* folder = currentFolder();
+    return TreemapCellList(folderTreemapCells(m_treemap, folder ? folder->totalSize : 0));
+}
+
 void FolderTreemapModel::relayout() {
     const FolderInfo* folder = currentFolder();
     m_treemap = folder && !m_areaSize.isEmpty()
                     ? layoutNestedTreemap(*folder, QRectF(QPointF(0, 0), m_areaSize))
                     : NestedTreemap();
-    m_cells = TreemapCellList(folderTreemapCells(m_treemap, folder ? folder->totalSize : 0));
+    m_cells = styledCells();
     // Whatever was hovered is gone or elsewhere; the pointer's next move finds it again.
     m_hoveredIndex = -1;
     emit cellsChanged();

@@ -72,6 +72,8 @@ private:
     const FolderInfo* currentFolder() const;
     void setPath(std::vector<const FolderInfo*> path);
     void relayout();
+    // The laid-out cells in the current appearance's colours.
+    TreemapCellList styledCells() const;
 
     SharedFolderTree m_tree;
     std::vector<const FolderInfo*> m_path;
