@@ -119,6 +119,9 @@ Rectangle {
             implicitHeight: 30
             radius: Theme.radiusSmall
             color: Theme.withOpacity(Theme.secondary, 0.08)
+            // Where typing goes shows, as on the history's search field.
+            border.width: 1
+            border.color: search.activeFocus ? Theme.accent : "transparent"
 
             RowLayout {
                 anchors.fill: parent

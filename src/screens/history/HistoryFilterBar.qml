@@ -19,6 +19,7 @@ RowLayout {
     }
 
     ComboBox {
+        id: sortPicker
         objectName: "sortPicker"
         Layout.preferredWidth: 160
         model: bar.scans.sortOrderLabels
@@ -34,6 +35,11 @@ RowLayout {
             color: Theme.controlBackground
             border.width: 1
             border.color: Theme.withOpacity(Theme.primary, 0.16)
+
+            FocusRing {
+                shown: sortPicker.visualFocus
+                controlRadius: parent.radius
+            }
         }
     }
 
