@@ -1,6 +1,7 @@
 #include "ShellEngine.h"
 
 #include "app/design/EmbeddedFonts.h"
+#include "scanner/DirectoryWalker.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -22,6 +23,7 @@ void prepareShell() {
     QFont font(QStringLiteral("Inter"));
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
+    DirectoryWalker::setExtraThreadsYield(true);
 }
 
 void prepareEngine(QQmlEngine& engine) {
