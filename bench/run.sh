@@ -143,10 +143,10 @@ if [[ $EUID -eq 0 ]] && drop_cache; then
     for ((run = 1; run <= cold_runs; run++)); do
         for name in "${cold_names[@]}"; do
             drop_cache
-            measure "$name" cold-
+            measure "$name" cold_
         done
     done
-    table cold- "$cold_runs" "${cold_names[@]}"
+    table cold_ "$cold_runs" "${cold_names[@]}"
     cold_vs_gdu=$(ratio "$wall_cold_tessarine" "$wall_cold_gdu")
     cold_vs_walker=$(ratio "$wall_cold_tessarine" "$best_cold_walker")
     echo
