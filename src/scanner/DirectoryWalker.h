@@ -49,8 +49,8 @@ public:
         : m_options(std::move(options)) {}
 
     // For a process with an interface to keep responsive, called once at start-up: the threads
-    // beyond one per core then run at the lowest priority. When the disk is slow they wait on it
-    // anyway; when everything is cached they would otherwise take turns on the cores with the
+    // beyond one per core then run at a low priority (nice 10). When the disk is slow they wait on
+    // it anyway; when everything is cached they would otherwise take turns on the cores with the
     // interface thread and make each of its frames wait behind them all.
     static void setExtraThreadsYield(bool yield);
 
