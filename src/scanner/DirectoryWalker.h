@@ -28,7 +28,8 @@ struct WalkProgress {
 class DirectoryWalker {
 public:
     struct Options {
-        // Worker threads; 0 means one per hardware thread.
+        // Worker threads; 0 means one per hardware thread and a few more, which wait on the disk
+        // while the others list and stat.
         int threadCount = 0;
         // How many parent descriptors may stay open for sub-folders still waiting to be opened;
         // past it a sub-folder is reopened component by component from the root. 0 means half of
@@ -46,6 +47,12 @@ public:
     DirectoryWalker() = default;
     explicit DirectoryWalker(Options options)
         : m_options(std::move(options)) {}
+
+    // For a process with an interface to keep responsive, called once at start-up: the threads
+    // beyond one per core then run at a low priority (nice 10). When the disk is slow they wait on
+    // it anyway; when everything is cached they would otherwise take turns on the cores with the
+    // interface thread and make each of its frames wait behind them all.
+    static void setExtraThreadsYield(bool yield);
 
     // Blocks until the whole hierarchy is listed. `rootPath` should be absolute and clean (see
     // cleanRootPath in model/PathNames.h); an unreadable or missing root gives an empty listing

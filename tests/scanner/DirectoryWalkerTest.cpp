@@ -38,7 +38,7 @@ private slots:
     void matchesSequentialWalk_data() {
         QTest::addColumn<int>("threads");
         QTest::addColumn<int>("heldDescriptors");
-        QTest::newRow("all cores") << 0 << 0;
+        QTest::newRow("default, more threads than cores") << 0 << 0;
         QTest::newRow("one thread") << 1 << 0;
         QTest::newRow("four threads") << 4 << 0;
         // One held descriptor forces most folders to be reopened from the root, level by level.

@@ -2,6 +2,7 @@
 
 #include "app/design/EmbeddedFonts.h"
 #include "app/design/ReturnKeyClicks.h"
+#include "scanner/DirectoryWalker.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -24,6 +25,7 @@ void prepareShell() {
     font.setPixelSize(13);
     QGuiApplication::setFont(font);
     installReturnKeyClicks(*QGuiApplication::instance());
+    DirectoryWalker::setExtraThreadsYield(true);
 }
 
 void prepareEngine(QQmlEngine& engine) {
