@@ -3,12 +3,13 @@
 #include "scanner/DirectoryListing.h"
 #include "scanner/ScanAggregator.h"
 
-#include <QByteArray>
-#include <QHash>
 #include <QString>
 
 #include <atomic>
 #include <functional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace tessarine {
 
@@ -39,8 +40,13 @@ private:
     const qint64 m_interval;
     IntervalCallback m_onInterval;
     // Raw extension bytes (as named on disk) to their tally: each distinct spelling is decoded,
-    // lowercased and categorised once, not once per file.
-    QHash<QByteArray, ExtensionTally*> m_tallies;
+    // lowercased and categorised once, not once per file. Looked up by a view of the name, so a
+    // file costs one short hash and no copy.
+    struct ExtensionHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view bytes) const noexcept;
+    };
+    std::unordered_map<std::string, ExtensionTally*, ExtensionHash, std::equal_to<>> m_tallies;
 };
 
 } // namespace tessarine
