@@ -48,6 +48,16 @@ ChartCard {
         Layout.fillWidth: true
         implicitHeight: 200
 
+        // The keyboard picks levels as the pointer does: Tab reaches the chart, Left and Right
+        // step through the levels and the strip below follows. Only Tab focuses it (the hover
+        // area takes no clicks), so its ring never shows for a mouse user.
+        activeFocusOnTab: true
+        Accessible.role: Accessible.List
+        Accessible.name: "Depth levels"
+        Keys.onLeftPressed: card.selectedRow = Math.max(card.selectedRow - 1, 0)
+        Keys.onRightPressed: card.selectedRow = Math.min(card.selectedRow + 1, levels.count - 1)
+        onActiveFocusChanged: card.selectedRow = activeFocus ? Math.max(card.selectedRow, 0) : -1
+
         Rectangle {
             id: plot
 
@@ -56,6 +66,11 @@ ChartCard {
             height: chart.height - chart.axisHeight
             radius: Theme.radiusMedium
             color: Theme.withOpacity(Theme.secondary, 0.05)
+
+            FocusRing {
+                shown: chart.activeFocus
+                controlRadius: parent.radius
+            }
 
             DashedGrid {
                 anchors.fill: parent

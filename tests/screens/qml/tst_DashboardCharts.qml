@@ -118,6 +118,17 @@ ScreenTestCase {
         saveScreenshot(view, "dashboard-depth-hover")
         mouseMove(area, -10, -10)
         tryVerify(() => ViewSearch.named(view, "depthSummary") !== null)
+
+        // The keys step through the levels from the first, and leaving gives the summary back.
+        let card = area
+        while (!card.hasOwnProperty("selectedRow"))
+            card = card.parent
+        area.parent.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Right)
+        compare(card.selectedRow, 1)
+        verify(!ViewSearch.named(view, "depthSummary"))
+        area.parent.focus = false
+        tryVerify(() => ViewSearch.named(view, "depthSummary") !== null)
     }
 
     function test_tableSortsSearchesSelectsAndActs() {
