@@ -42,14 +42,10 @@ private slots:
         makeScannableFolder(folder.path());
         PersistenceService store(home.path());
         AppState state(store);
-        QCOMPARE(state.currentView(), AppState::Landing);
-        QCOMPARE(state.scanHistory()->count(), 0);
-        QVERIFY(!state.hasError());
         QSignalSpy views(&state, &AppState::currentViewChanged);
 
         state.startScan(QUrl::fromLocalFile(folder.path()));
         QCOMPARE(state.currentView(), AppState::Scanning);
-        QVERIFY(state.isScanning());
         QVERIFY(state.hasCurrentScanner());
         QVERIFY(!state.hasScanProgress());
         settle(state);
@@ -65,7 +61,6 @@ private slots:
                  QStringList{QStringLiteral("scan_%1.json")
                                  .arg(shown.id.toString(QUuid::WithoutBraces).toUpper())});
         QVERIFY(!state.hasCurrentScanner());
-        QVERIFY(!state.hasError());
         // The screen is left with the scanner's final counters.
         QCOMPARE(state.scanProgress()->phase, ScanPhase::complete);
 
@@ -108,7 +103,6 @@ private slots:
         state.startScan(folder.path());
         state.cancelScan();
         QCOMPARE(state.currentView(), AppState::Landing);
-        QVERIFY(!state.isScanning());
         QVERIFY(!state.hasCurrentScanner());
         const std::optional<ScanProgress> atCancel = state.scanProgress();
         QSignalSpy progress(&state, &AppState::scanProgressChanged);
@@ -119,7 +113,6 @@ private slots:
         QVERIFY(!state.hasCurrentResult());
         QCOMPARE(state.scanHistory()->count(), 0);
         QVERIFY(historyFiles(store).isEmpty());
-        QCOMPARE(state.currentView(), AppState::Landing);
         QCOMPARE(progress.count(), 0);
         QCOMPARE(state.scanProgress(), atCancel);
     }
@@ -133,8 +126,6 @@ private slots:
 
         state.startScan(first.path());
         state.startScan(second.path());
-        QCOMPARE(state.currentView(), AppState::Scanning);
-        QVERIFY(state.isScanning());
         settle(state);
 
         QCOMPARE(state.currentView(), AppState::Dashboard);
@@ -144,24 +135,8 @@ private slots:
         QVERIFY(!state.hasError());
     }
 
-    void unsavableResultStaysOnDisplayWithTheSaveError() {
-        QTemporaryDir home, folder;
-        makeScannableFolder(folder.path());
-        PersistenceService store(home.path());
-        AppState state(store);
-        // The history folder turns into a file after start: loading worked, saving cannot.
-        QVERIFY(QDir(store.storagePath()).removeRecursively());
-        testing::writeFile(store.storagePath(), 1);
-
-        state.startScan(folder.path());
-        settle(state);
-
-        QCOMPARE(state.currentView(), AppState::Dashboard);
-        QVERIFY(state.hasCurrentResult());
-        QCOMPARE(state.scanHistory()->count(), 0);
-        QVERIFY(state.error()->errorDescription().startsWith(QStringLiteral("Failed to save: ")));
-    }
-
+    // The result of a scan that cannot be saved stays on display, with the save's error (how
+    // the store fails to write is HistoryStoreTest's).
     void unusableHistoryFolderReportsLoadFailureAndStaysUsable() {
         QTemporaryDir home, folder;
         makeScannableFolder(folder.path());
@@ -178,6 +153,8 @@ private slots:
         QVERIFY(state.error()->errorDescription().startsWith(QStringLiteral("Failed to load: ")));
         settle(state);
         QCOMPARE(state.currentView(), AppState::Dashboard);
+        QVERIFY(state.hasCurrentResult());
+        QCOMPARE(state.scanHistory()->count(), 0);
         QVERIFY(state.error()->errorDescription().startsWith(
             QStringLiteral("Failed to save: Storage directory not accessible")));
     }
@@ -200,7 +177,6 @@ private slots:
         QCOMPARE(state.currentView(), AppState::Dashboard);
         QCOMPARE(state.scanHistory()->results(), QList{older});
         QCOMPARE(historyFiles(store).size(), 1);
-        QVERIFY(!state.hasError());
     }
 
     // Newest first, broken files skipped and left alone; another process (tessarine-cli scan

@@ -67,18 +67,24 @@ ScreenTestCase {
         compare(cards(view).filter(card => card.selected).length, 2)
         verify(ViewSearch.named(view, "compareButton"))
 
-        mouseClick(ViewSearch.named(view, "deleteButton"))
+        // Escape leaves without deleting; Return confirms.
         const confirmation = findChild(view, "deleteConfirmation")
+        mouseClick(ViewSearch.named(view, "deleteButton"))
+        tryVerify(() => confirmation.opened)
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !confirmation.visible)
+        compare(AppState.scanHistory.count, 3)
+        mouseClick(ViewSearch.named(view, "deleteButton"))
         tryVerify(() => confirmation.opened)
         compare(findChild(confirmation.contentItem, "deleteMessage").text,
                 "This will permanently delete 2 scan(s) from history.")
-        mouseClick(findChild(confirmation.contentItem, "confirmDelete"))
+        keyClick(Qt.Key_Return)
         tryCompare(AppState.scanHistory, "count", 1)
         tryVerify(() => cards(view).length === 1)
         verify(!ViewSearch.named(view, "deleteButton"))
     }
 
-    // Picked newest first, the older scan is still "Before"; Return dismisses the sheet.
+    // Picked newest first, the older scan is still "Before"; Escape and Return dismiss the sheet.
     function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
         Fixture.fillHistory(2)
         const view = createTemporaryObject(historyComponent, testCase)
@@ -93,6 +99,10 @@ ScreenTestCase {
         const texts = ViewSearch.texts(sheet.contentItem)
         verify(texts.indexOf("Scan 1") < texts.indexOf("Scan 2"))
         compare(texts[texts.indexOf("Before") + 1], "Scan 1")
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !sheet.visible)
+        sheet.open()
+        tryVerify(() => sheet.opened)
         keyClick(Qt.Key_Return)
         tryVerify(() => !sheet.visible)
     }

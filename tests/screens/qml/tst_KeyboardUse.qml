@@ -6,7 +6,8 @@ import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
 // What a keyboard user can do on each screen: reach every control with Tab, move through lists
-// with the arrows, act with Return and Space, and leave sheets with Escape.
+// with the arrows, act with Return and Space. Escape and Return on sheets: DashboardCharts and
+// HistoryView.
 ScreenTestCase {
     id: testCase
 
@@ -26,11 +27,16 @@ ScreenTestCase {
         return ViewSearch.withProperty(view, "scans").filter(item => item.hasOwnProperty("rootPath"))
     }
 
-    function historyWithTwoSelected() {
+    function history() {
         Fixture.fillHistory(3)
         AppState.currentView = AppState.History
         const view = createTemporaryObject(historyComponent, testCase)
         tryVerify(() => cards(view).length === 3)
+        return view
+    }
+
+    function historyWithTwoSelected() {
+        const view = history()
         const scans = findChild(view, "historyScans")
         scans.toggleSelection(cards(view)[0].result)
         scans.toggleSelection(cards(view)[1].result)
@@ -98,10 +104,7 @@ ScreenTestCase {
     // The list is one Tab stop: the arrows move between cards, Space selects for a comparison,
     // Return opens the scan.
     function test_historyListByKeys() {
-        Fixture.fillHistory(3)
-        AppState.currentView = AppState.History
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 3)
+        const view = history()
         const list = findChild(view, "historyList")
         list.forceActiveFocus(Qt.TabFocusReason)
         keyClick(Qt.Key_Down)
@@ -113,32 +116,5 @@ ScreenTestCase {
         keyClick(Qt.Key_Return)
         compare(AppState.currentResult.rootName, "Scan 2")
         compare(AppState.currentView, AppState.Dashboard)
-    }
-
-    // Escape leaves each sheet without its action; Return runs the default one.
-    function test_escapeClosesSheetsAndReturnConfirms() {
-        Fixture.showFullResult()
-        const dashboard = createTemporaryObject(dashboardComponent, testCase)
-        dashboard.exportSheet.open()
-        tryVerify(() => dashboard.exportSheet.opened)
-        keyClick(Qt.Key_Escape)
-        tryVerify(() => !dashboard.exportSheet.visible)
-        dashboard.destroy()
-
-        const view = historyWithTwoSelected()
-        for (const name of ["comparisonSheet", "deleteConfirmation"]) {
-            const sheet = findChild(view, name)
-            sheet.open()
-            tryVerify(() => sheet.opened)
-            keyClick(Qt.Key_Escape)
-            tryVerify(() => !sheet.visible)
-        }
-        compare(AppState.scanHistory.count, 3)
-
-        const confirmation = findChild(view, "deleteConfirmation")
-        confirmation.open()
-        tryVerify(() => confirmation.opened)
-        keyClick(Qt.Key_Return)
-        tryCompare(AppState.scanHistory, "count", 1)
     }
 }

@@ -59,7 +59,6 @@ ScreenTestCase {
         compare(strip.itemAtIndex(4).result.rootName, "Scan 3")
         strip.positionViewAtBeginning()
 
-        saveScreenshot(view, "landing")
 
         mouseClick(recentCards(view)[1])
         compare(AppState.currentView, AppState.Dashboard)
@@ -108,7 +107,6 @@ ScreenTestCase {
         drag.Drag.active = true
         tryVerify(() => view.isTargeted)
         verify(zone.targeted)
-        saveScreenshot(view, "landing-targeted")
 
         drag.Drag.active = false
         tryVerify(() => !view.isTargeted)

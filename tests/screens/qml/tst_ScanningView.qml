@@ -39,7 +39,6 @@ ScreenTestCase {
         verify(texts.indexOf("items") < 0)
         verify(texts.indexOf("Progress") < 0)
         compare(logRows(view).length, 0)
-        saveScreenshot(view, "scanning-waiting")
     }
 
     function test_liveSnapshot() {
@@ -59,7 +58,6 @@ ScreenTestCase {
         verify(texts.indexOf("ann") < 0 && texts.indexOf("Users") < 0)
         verify(texts.indexOf("Preparing to scan...") < 0)
         wait(Theme.standardDuration) // lets the progress bar finish filling for the picture
-        saveScreenshot(view, "scanning-live")
     }
 
     function test_activityLogShowsTheFifteenNewest() {

@@ -42,9 +42,8 @@ FolderInfo folder(const QString& name, qint64 size, FolderInfoList children = {}
 
 } // namespace
 
-AppFixture::AppFixture(const QString& screenshotFolder, QObject* parent)
+AppFixture::AppFixture(QObject* parent)
     : QObject(parent)
-    , m_screenshotFolder(screenshotFolder)
     , m_store(std::make_unique<PersistenceService>(m_home.path())) {
     testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
     testing::storeSampleHistory(*m_store, storedScanCount());
@@ -236,11 +235,6 @@ void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
 
 QStringList AppFixture::unreachableControls(QQuickItem* root) const {
     return testing::unreachableControls(root);
-}
-
-QString AppFixture::screenshotPath(const QString& name) const {
-    QDir().mkpath(m_screenshotFolder);
-    return m_screenshotFolder + u'/' + name + QStringLiteral(".png");
 }
 
 } // namespace tessarine

@@ -31,8 +31,7 @@ class AppFixture : public QObject {
     Q_PROPERTY(int storedScanCount READ storedScanCount CONSTANT)
 
 public:
-    // Pictures the tests save go to `screenshotFolder`.
-    explicit AppFixture(const QString& screenshotFolder, QObject* parent = nullptr);
+    explicit AppFixture(QObject* parent = nullptr);
     ~AppFixture() override;
 
     QUrl folderUrl() const;
@@ -76,8 +75,6 @@ public:
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
     // The controls under root that the mouse can use and Tab cannot reach (KeyboardReach.h).
     Q_INVOKABLE QStringList unreachableControls(QQuickItem* root) const;
-    // Where a test saves what it rendered, for a person to look at.
-    Q_INVOKABLE QString screenshotPath(const QString& name) const;
 
     // For the folder analysis: a folder of three sub-folders, one nested two deep, with files of
     // its own; a path that does not exist yet, and the way to make it.
@@ -94,7 +91,6 @@ public:
     Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service, const QString& phase);
 
 private:
-    QString m_screenshotFolder;
     QTemporaryDir m_home;
     QTemporaryDir m_files;
     std::unique_ptr<PersistenceService> m_store;
