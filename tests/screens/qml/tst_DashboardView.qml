@@ -71,6 +71,17 @@ ScreenTestCase {
         verify(!AppState.hasError)
     }
 
+    // Tab to a control below the fold scrolls it into sight.
+    function test_scrollsToTheFocusedControl() {
+        Fixture.showFullResult()
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        const search = findChild(view, "largestFilesSearch")
+        verify(search.mapToItem(view, 0, 0).y > view.height)
+        search.forceActiveFocus(Qt.TabFocusReason)
+        const top = search.mapToItem(view, 0, 0).y
+        verify(top > 0 && top + search.height < view.height, "search field at " + top)
+    }
+
     function test_newScanOpensThePicker() {
         Fixture.showResult("/Users/ann/Movies")
         const view = createTemporaryObject(dashboardComponent, testCase)

@@ -84,6 +84,25 @@ ScreenTestCase {
         verify(!ViewSearch.named(view, "deleteButton"))
     }
 
+    // The list is one Tab stop: the arrows move between cards, Space selects for a comparison,
+    // Return opens the scan.
+    function test_listByKeys() {
+        Fixture.fillHistory(3)
+        const view = createTemporaryObject(historyComponent, testCase)
+        tryVerify(() => cards(view).length === 3)
+        const list = findChild(view, "historyList")
+        list.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Up)
+        compare(list.currentIndex, 1)
+        keyClick(Qt.Key_Space)
+        compare(cards(view).filter(card => card.selected).map(card => card.rootName), ["Scan 2"])
+        keyClick(Qt.Key_Return)
+        compare(AppState.currentResult.rootName, "Scan 2")
+        compare(AppState.currentView, AppState.Dashboard)
+    }
+
     // Picked newest first, the older scan is still "Before"; Escape and Return dismiss the sheet.
     function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
         Fixture.fillHistory(2)

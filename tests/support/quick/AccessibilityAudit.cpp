@@ -91,16 +91,20 @@ void audit(QAccessibleInterface* element, const QString& context, Audit& found) 
         audit(element->child(i), inner, found);
 }
 
-// Whether a click on the item does something: a mouse area taking buttons, or a tap handler.
-bool isClickable(const QQuickItem& item) {
-    if (item.inherits("QQuickMouseArea"))
-        return item.isEnabled() && item.property("acceptedButtons").toInt() != Qt::NoButton;
+// Only handlers the application declared: Qt's own views add some for their selection.
+bool hasTapHandler(const QQuickItem& item) {
     const QObjectList& children = item.children();
-    // Only handlers the application declared: Qt's own views add some for their selection.
     return std::any_of(children.begin(), children.end(), [](QObject* child) {
         return child->inherits("QQuickTapHandler") && qmlContext(child) &&
                child->property("enabled").toBool();
     });
+}
+
+// Whether a click on the item does something: a mouse area taking buttons, or a tap handler.
+bool isClickable(const QQuickItem& item) {
+    if (item.inherits("QQuickMouseArea"))
+        return item.isEnabled() && item.property("acceptedButtons").toInt() != Qt::NoButton;
+    return hasTapHandler(item);
 }
 
 // Controls and fields, which a screen reader must list as elements of their own: in Qt 6.4 a
@@ -146,7 +150,63 @@ void auditReach(QQuickItem* item, Audit& found) {
         auditReach(child, found);
 }
 
+// The window's Tab chain, walked from its content and from root: an open pop-up fences its own
+// chain off, so the walk into a sheet starts inside it.
+QSet<const QQuickItem*> tabChainAround(QQuickItem* root) {
+    QSet<const QQuickItem*> chain;
+    for (QQuickItem* start : {root->window()->contentItem(), root}) {
+        QQuickItem* item = start->nextItemInFocusChain(true);
+        while (item && !chain.contains(item)) {
+            chain.insert(item);
+            item = item->nextItemInFocusChain(true);
+        }
+    }
+    return chain;
+}
+
+// Controls (panes, pop-ups), flickables and texts take the mouse to keep it from what lies below,
+// to scroll or for links (the application shows none); only buttons, combo boxes and fields
+// among them are something to use. A split view's handle resizes its panes, as the window does.
+bool takesClicks(const QQuickItem& item) {
+    if ((isControlItem(item) && !item.property("readOnly").toBool()) || hasTapHandler(item))
+        return true;
+    const bool scaffolding = item.inherits("QQuickControl") || item.inherits("QQuickFlickable") ||
+                             item.inherits("QQuickOverlay") || item.inherits("QQuickText") ||
+                             (item.parentItem() && item.parentItem()->inherits("QQuickSplitView"));
+    return !scaffolding && item.acceptedMouseButtons() != Qt::NoButton;
+}
+
+bool reachable(const QQuickItem* item, const QSet<const QQuickItem*>& chain) {
+    for (; item; item = item->parentItem()) {
+        if (chain.contains(item))
+            return true;
+    }
+    return false;
+}
+
+void collectUnreachable(const QQuickItem& item, const QSet<const QQuickItem*>& chain,
+                        QStringList& found) {
+    if (!item.isVisible() || !item.isEnabled())
+        return;
+    if (takesClicks(item) && !reachable(&item, chain)) {
+        const QString text = item.property("text").toString();
+        found.append(!item.objectName().isEmpty()
+                         ? item.objectName()
+                         : QString::fromLatin1(item.metaObject()->className()) +
+                               (text.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(text)));
+    }
+    for (const QQuickItem* child : item.childItems())
+        collectUnreachable(*child, chain, found);
+}
+
 } // namespace
+
+QStringList AccessibilityAudit::unreachableControls(QQuickItem* root) {
+    QStringList found;
+    if (root && root->window())
+        collectUnreachable(*root, tabChainAround(root), found);
+    return found;
+}
 
 void AccessibilityAudit::activate() {
     QAccessible::setActive(true);

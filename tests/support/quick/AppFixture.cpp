@@ -1,6 +1,5 @@
 #include "AppFixture.h"
 
-#include "KeyboardReach.h"
 #include "SampleHistory.h"
 #include "ScanFolders.h"
 
@@ -231,10 +230,6 @@ void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
     testing::holdBuildInPhase(*service, phase == QLatin1String("building")
                                             ? FolderTreeProgress::Phase::building
                                             : FolderTreeProgress::Phase::enumerating);
-}
-
-QStringList AppFixture::unreachableControls(QQuickItem* root) const {
-    return testing::unreachableControls(root);
 }
 
 } // namespace tessarine

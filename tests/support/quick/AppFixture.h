@@ -73,8 +73,6 @@ public:
     Q_INVOKABLE QString makeFolder(const QString& name);
     Q_INVOKABLE QString makeFile(const QString& name);
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
-    // The controls under root that the mouse can use and Tab cannot reach (KeyboardReach.h).
-    Q_INVOKABLE QStringList unreachableControls(QQuickItem* root) const;
 
     // For the folder analysis: a folder of three sub-folders, one nested two deep, with files of
     // its own; a path that does not exist yet, and the way to make it.
