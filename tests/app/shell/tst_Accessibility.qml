@@ -96,6 +96,11 @@ TestCase {
 
         Fixture.showFullResult()
         verifyNamed(content, "a full dashboard")
+        // A button that changes its label is announced by its new one.
+        const showAll = ViewSearch.named(content, "showAllExtensionsButton")
+        compare(Accessibility.nameOf(showAll), "Show All")
+        showAll.clicked()
+        compare(Accessibility.nameOf(showAll), "Show Less")
         const analysis = findChild(content, "folderAnalysis")
         Fixture.holdBuild(analysis.controller.service, "building")
         analysis.controller.build(analysis.result.rootPath)
@@ -142,14 +147,22 @@ TestCase {
         }
     }
 
-    // A button that changes its label is announced by its new one.
-    function test_namesFollowTheLabels() {
-        const content = createTemporaryObject(contentComponent, testCase)
-        Fixture.showFullResult()
-        AppState.currentView = AppState.Dashboard
-        const showAll = ViewSearch.named(content, "showAllExtensionsButton")
-        compare(Accessibility.nameOf(showAll), "Show All")
-        showAll.clicked()
-        compare(Accessibility.nameOf(showAll), "Show Less")
+    // Alt and one letter reach every menu and entry: no letter stands for two menus of the bar,
+    // nor for two entries of one menu.
+    function test_everyMenuHasItsOwnMnemonic() {
+        const menus = Array.from(createTemporaryObject(menuBarComponent, testCase).menus)
+        const unique = texts => {
+            const letters = texts.map(text => (/&(\w)/.exec(text) || ["", text])[1].toLowerCase())
+            return letters.every(letter => letter.length === 1)
+                   && new Set(letters).size === letters.length
+        }
+        verify(unique(menus.map(menu => menu.title)))
+        for (const menu of menus) {
+            const texts = []
+            for (let i = 0; i < menu.count; ++i)
+                if (menu.itemAt(i).text)
+                    texts.push(menu.itemAt(i).text)
+            verify(texts.length > 0 && unique(texts), texts.join(", "))
+        }
     }
 }

@@ -93,12 +93,11 @@ ScreenTestCase {
         const extensionRows = () => ViewSearch.withProperty(view, "fraction").length
         compare(extensionRows(), 10)
         verify(ViewSearch.shows(view, "+ 5 more extensions"))
+        // The button's labels: tst_Accessibility.qml.
         const button = ViewSearch.named(view, "showAllExtensionsButton")
-        compare(button.text, "Show All")
         clickCenter(button)
         compare(extensionRows(), 15)
         verify(!ViewSearch.named(view, "moreExtensionsFooter"))
-        compare(button.text, "Show Less")
         clickCenter(button)
         compare(extensionRows(), 10)
     }
