@@ -28,7 +28,6 @@ TestCase {
     }
 
     function test_recentRowsShowTheFiveNewestScans() {
-        compare(AppState.scanHistory.count, Fixture.storedScanCount)
         const sidebar = createTemporaryObject(sidebarComponent, testCase)
         verify(findChild(sidebar, "recentSection").visible)
         const rows = recentRows(sidebar)
@@ -37,7 +36,6 @@ TestCase {
         compare(rows[0].folderName, "")
         compare(rows[1].folderName, "Project 1")
         compare(rows[4].folderName, "Project 4")
-        compare(rows[1].totalSize, rows[1].result.totalSize)
     }
 
     function test_aRunningScanKeepsARowThatLeadsBackToIt() {
@@ -64,10 +62,6 @@ TestCase {
         const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
         verify(currentAnalysis.visible)
         verify(currentAnalysis.selected)
-
-        mouseClick(recentRows(sidebar)[0])
-        compare(AppState.currentResult.rootPath, "/")
-        compare(AppState.currentView, AppState.Dashboard)
     }
 
     // Up and Down walk the rows as a sidebar list does: a view's row shows its view at once, a

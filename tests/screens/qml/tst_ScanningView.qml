@@ -57,7 +57,6 @@ ScreenTestCase {
             verify(texts.indexOf(expected) >= 0, expected)
         verify(texts.indexOf("ann") < 0 && texts.indexOf("Users") < 0)
         verify(texts.indexOf("Preparing to scan...") < 0)
-        wait(Theme.standardDuration) // lets the progress bar finish filling for the picture
     }
 
     function test_activityLogShowsTheFifteenNewest() {
