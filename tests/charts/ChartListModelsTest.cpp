@@ -140,10 +140,8 @@ private slots:
         QCOMPARE(column(model, CategoryListModel::NameRole),
                  QStringList({"Images", "Videos", "Code", "Audio"}));
         QCOMPARE(model.cells().count(), 4);
-        // A screen reader hears each cell as one element: what it is, its size and its share.
-        const TreemapCellSpeech& speech = model.cells().cells().at(1).speech;
-        QCOMPARE(speech.name, "Videos category");
-        QCOMPARE(speech.value(), "30 bytes, 30 percent");
+        // A screen reader hears each cell as one element (its value: TreemapAccessibilityTest).
+        QCOMPARE(model.cells().cells().at(1).speech.name, "Videos category");
         QCOMPARE(model.cells().cells().at(1).border.width, 0);
         model.setSelectedCategory(int(FileCategory::videos));
         QCOMPARE(model.cells().cells().at(1).border.width, 3);

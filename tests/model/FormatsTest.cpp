@@ -1,8 +1,11 @@
 #include "model/Format.h"
+#include "model/PathNames.h"
 #include "model/ScanProgress.h"
 
+#include <QDir>
 #include <QLocale>
 #include <QTest>
+
 #include <limits>
 
 using namespace tessarine;
@@ -138,6 +141,50 @@ private slots:
             progress(files, folders, estimated < 0 ? std::nullopt : std::optional(estimated));
         const std::optional<QString> remaining = snapshot.formattedRemainingTime(after(elapsed));
         QCOMPARE(remaining.value_or(QString()), text);
+    }
+
+    void namesIgnoreTrailingSeparators_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("cleaned");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("parent");
+        QTest::newRow("trailing separators") << "/home/ann/Music//"
+                                             << "/home/ann/Music"
+                                             << "Music"
+                                             << "/home/ann";
+        QTest::newRow("root") << "/"
+                              << "/"
+                              << "/"
+                              << "/";
+        QTest::newRow("top level") << "/srv"
+                                   << "/srv"
+                                   << "srv"
+                                   << "/";
+        QTest::newRow("separators only") << "//"
+                                         << "/"
+                                         << "/"
+                                         << "/";
+        QTest::newRow("dot segments") << "/a/./b/../c"
+                                      << "/a/c"
+                                      << "c"
+                                      << "/a/./b/..";
+        QTest::newRow("relative") << "notes.md" << QDir::currentPath() + "/notes.md"
+                                  << "notes.md"
+                                  << "";
+        QTest::newRow("empty") << ""
+                               << ""
+                               << ""
+                               << "";
+    }
+
+    void namesIgnoreTrailingSeparators() {
+        QFETCH(QString, path);
+        QFETCH(QString, cleaned);
+        QFETCH(QString, name);
+        QFETCH(QString, parent);
+        QCOMPARE(lastPathComponent(path), name);
+        QCOMPARE(cleanRootPath(path), cleaned);
+        QCOMPARE(parentFolder(path), parent);
     }
 };
 

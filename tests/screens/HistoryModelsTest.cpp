@@ -80,23 +80,6 @@ private slots:
         QCOMPARE(names(filteredHistory(history, search, HistorySortOrder(order))), expected);
     }
 
-    void selectsAtMostTwoAndComparesInDateOrder() {
-        const AnalysisResult older = scan("/a", 0), middle = scan("/b", 1), newer = scan("/a", 2);
-        const QList<AnalysisResult> history{newer, middle, older};
-        ScanSelection selection;
-        QVERIFY(selection.toggle(newer.id));
-        QVERIFY(!selection.comparisonPair(history));
-        QVERIFY(selection.toggle(older.id));
-        QVERIFY(!selection.toggle(middle.id));
-        QVERIFY(!selection.contains(middle.id));
-        QVERIFY(selection.comparisonPair(history));
-        QVERIFY(selection.toggle(older.id));
-        QVERIFY(selection.toggle(middle.id));
-        QCOMPARE(selection.selectedScans(history).size(), 2);
-        QVERIFY(selection.keepOnly({newer}));
-        QCOMPARE(selection.count(), 1);
-    }
-
     void differencesShowSignArrowAndColour_data() {
         QTest::addColumn<qint64>("before");
         QTest::addColumn<qint64>("after");

@@ -15,46 +15,22 @@ namespace {
 
 // The roles of something a click acts on.
 bool isControl(QAccessible::Role role) {
-    switch (role) {
-    case QAccessible::Button:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::EditableText:
-    case QAccessible::SpinBox:
-    case QAccessible::Slider:
-    case QAccessible::PageTab:
-    case QAccessible::MenuItem:
-    case QAccessible::Link:
-    case QAccessible::ListItem:
-    case QAccessible::Row:
-    case QAccessible::Cell:
-    case QAccessible::ColumnHeader:
-        return true;
-    default:
-        return false;
-    }
+    using enum QAccessible::Role;
+    static const QSet<QAccessible::Role> controls{
+        Button,  CheckBox, RadioButton, ComboBox, EditableText, SpinBox, Slider,
+        PageTab, MenuItem, Link,        ListItem, Row,          Cell,    ColumnHeader};
+    return controls.contains(role);
 }
 
 // The roles a screen reader announces by their name: controls, and what holds or shows
 // information (cards, charts, lists, tables, dialogs, headings, texts). Plain items, panes,
 // separators and scroll bars are left out.
 bool needsName(QAccessible::Role role) {
-    switch (role) {
-    case QAccessible::ProgressBar:
-    case QAccessible::List:
-    case QAccessible::Table:
-    case QAccessible::Chart:
-    case QAccessible::Graphic:
-    case QAccessible::Grouping:
-    case QAccessible::Dialog:
-    case QAccessible::AlertMessage:
-    case QAccessible::Heading:
-    case QAccessible::StaticText:
-        return true;
-    default:
-        return isControl(role);
-    }
+    using enum QAccessible::Role;
+    static const QSet<QAccessible::Role> informing{ProgressBar, List,      Table,  Chart,
+                                                   Graphic,     Grouping,  Dialog, AlertMessage,
+                                                   Heading,     StaticText};
+    return informing.contains(role) || isControl(role);
 }
 
 // An icon font's glyphs lie in the private use area: a reader spells them as nonsense.
