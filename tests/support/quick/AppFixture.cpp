@@ -90,13 +90,14 @@ bool AppFixture::dragOver(QQuickItem* over, const QUrl& url) {
     return m_drag->enter();
 }
 
+// A drag ends with its drop or its leave: the item it was over may be gone by the next test.
 int AppFixture::drop() {
-    return m_drag ? m_drag->drop() : Qt::IgnoreAction;
+    return m_drag ? std::exchange(m_drag, nullptr)->drop() : Qt::IgnoreAction;
 }
 
 void AppFixture::leave() {
     if (m_drag)
-        m_drag->leave();
+        std::exchange(m_drag, nullptr)->leave();
 }
 
 void AppFixture::forgetFolderScans() {

@@ -4,10 +4,12 @@ import Tessarine
 import Tessarine.App
 import Tessarine.Testing
 
+// The content view as a user drives it: the menu commands and their shortcuts, and folders
+// dropped from a file manager.
 TestCase {
     id: testCase
 
-    name: "Commands"
+    name: "ContentView"
     width: 1200
     height: 800
     // Hover, drags and shortcuts reach only items in a shown window.
@@ -52,11 +54,17 @@ TestCase {
     }
 
     function cleanup() {
+        Fixture.leave()
         if (AppState.isScanning)
             AppState.cancelScan()
         if (content.folderPicker.visible)
             content.folderPicker.reject()
+        AppState.clearError()
         Fixture.forgetFolderScans()
+    }
+
+    function overlay() {
+        return findChild(content, "dropOverlay")
     }
 
     function test_newScanOpensThePickerWhoseChoiceIsScanned() {
@@ -100,5 +108,36 @@ TestCase {
         keyClick(Qt.Key_Question, Qt.ControlModifier | Qt.ShiftModifier)
         compare(helpSpy.count, 2)
         compare(AppState.currentView, AppState.Landing)
+    }
+
+    function test_droppedFolderStartsAScan() {
+        // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
+        verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
+        verify(content.isDropTargeted)
+        verify(overlay().shown)
+        verify(!overlay().startsNewScan)
+        compare(Fixture.drop(), Qt.CopyAction)
+        verify(!content.isDropTargeted)
+        tryCompare(AppState, "currentView", AppState.Scanning)
+        tryCompare(AppState, "isScanning", false, 30000)
+        compare(AppState.currentView, AppState.Dashboard)
+        compare(AppState.currentResult.rootPath, Fixture.folderPath)
+
+        // Over the dashboard the overlay says that a new scan replaces the one on display.
+        verify(Fixture.dragOver(content, Fixture.folderUrl))
+        verify(overlay().startsNewScan)
+        Fixture.leave()
+        verify(!content.isDropTargeted)
+        tryCompare(overlay(), "visible", false)
+    }
+
+    function test_dropsAreRefusedWhileScanning() {
+        AppState.startScan(Fixture.folderUrl)
+        verify(AppState.isScanning)
+        verify(!Fixture.dragOver(content, Fixture.folderUrl))
+        verify(!content.isDropTargeted)
+        verify(!overlay().shown)
+        compare(Fixture.drop(), Qt.IgnoreAction)
+        compare(AppState.currentView, AppState.Scanning)
     }
 }
