@@ -114,19 +114,6 @@ private slots:
         QCOMPARE(folderSnapshot(history.path()), before);
     }
 
-    void loadsLatestScanFirst() {
-        QTemporaryDir base;
-        PersistenceService store(base.path());
-        const QList<QDateTime> dates{utc(10), utc(12), utc(9), utc(11), utc(9)};
-        for (const QDateTime& date : dates)
-            QVERIFY(!store.save(sampleResult(date)));
-
-        QList<QDateTime> loadedDates;
-        for (const AnalysisResult& result : loadedResults(store))
-            loadedDates.append(result.scanDate);
-        QCOMPARE(loadedDates, (QList<QDateTime>{utc(12), utc(11), utc(10), utc(9), utc(9)}));
-    }
-
     void savingAgainReplacesAndDeletingTwiceSucceeds() {
         QTemporaryDir base;
         PersistenceService store(base.path());

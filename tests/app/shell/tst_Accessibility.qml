@@ -2,6 +2,7 @@ import QtQuick
 import QtTest
 import Tessarine
 import Tessarine.App
+import Tessarine.Screens
 import Tessarine.Testing
 import "../../screens/qml/ViewSearch.js" as ViewSearch
 
@@ -137,13 +138,17 @@ TestCase {
         verifyNamed(content, "the error alert", null)
     }
 
+    // The help's keys are this platform's: the text's Command key is Ctrl here.
     function test_everyHelpSectionNamesWhatItShows() {
         const help = createTemporaryObject(helpComponent, testCase)
         help.showHelp()
         const sidebar = findChild(help.contentItem, "helpSidebar")
+        verify(ViewSearch.shows(sidebar, "Version " + AppVersion.text))
         for (let section = 0; section < 7; ++section) {
             sidebar.currentIndex = section
             verifyNamed(help.contentItem, "help section " + (section + 1))
+            verify(!ViewSearch.shows(help.contentItem, "Cmd"), "help section " + (section + 1))
+            verify(section !== 5 || ViewSearch.shows(help.contentItem, "Ctrl"))
         }
     }
 
