@@ -40,7 +40,7 @@ AnalysisResult smallResult() {
     readme.depth = 1;
     readme.modificationDate = QDateTime(QDate(2023, 1, 2), QTime(3, 4, 5), Qt::UTC);
     result.largestFiles = {readme};
-    result.depthDistribution = {{1, {1, 0, 1500}}, {2, {0, 1, 0}}, {10, {0, 1, 0}}};
+    result.depthDistribution = {{2, {0, 1, 0}}, {10, {0, 1, 0}}};
     ExtensionStats none;
     none.id = fixedId(4);
     none.fileCount = 1;
@@ -64,11 +64,6 @@ const char* const smallResultText = R"({
     }
   ],
   "depthDistribution" : {
-    "1" : {
-      "fileCount" : 1,
-      "folderCount" : 0,
-      "totalSize" : 1500
-    },
     "10" : {
       "fileCount" : 0,
       "folderCount" : 1,

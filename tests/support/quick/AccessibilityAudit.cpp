@@ -49,6 +49,15 @@ QString describe(QAccessibleInterface* element, const QString& context) {
              context);
 }
 
+// An item as a fault names it: by its objectName, else by its type and text.
+QString itemName(const QQuickItem& item) {
+    const QString text = item.property("text").toString();
+    if (!item.objectName().isEmpty())
+        return item.objectName();
+    return QString::fromLatin1(item.metaObject()->className()) +
+           (text.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(text));
+}
+
 // The items a screen reader meets, and what is wrong with them.
 struct Audit {
     QSet<const QObject*> elements;
@@ -99,10 +108,7 @@ void auditReach(QQuickItem* item, Audit& found) {
         return;
     if (isControlItem(*item)) {
         if (!found.elements.contains(item))
-            found.faults.append(
-                QStringLiteral("%1 \"%2\" in %3 is no element")
-                    .arg(QString::fromLatin1(item->metaObject()->className()), item->objectName(),
-                         QString::fromLatin1(item->parentItem()->metaObject()->className())));
+            found.faults.append(itemName(*item) + QStringLiteral(" is no element"));
         // What lies inside a control (the face of a combo box) is the control's own.
         return;
     }
@@ -116,11 +122,9 @@ void auditReach(QQuickItem* item, Audit& found) {
         }
         if (!speaker || !isControl(element->role()))
             found.faults.append(
-                QStringLiteral("clickable %1 in %2 \"%3\" speaks as %4")
-                    .arg(QString::fromLatin1(item->metaObject()->className()),
-                         QString::fromLatin1(item->parentItem()->metaObject()->className()),
-                         item->parentItem()->objectName(),
-                         speaker ? describe(element, QString()) : QStringLiteral("nothing")));
+                QStringLiteral("clickable %1 in %2 speaks as %3")
+                    .arg(itemName(*item), itemName(*item->parentItem()),
+                         speaker ? describe(element, {}) : QStringLiteral("nothing")));
     }
     for (QQuickItem* child : item->childItems())
         auditReach(child, found);
@@ -164,13 +168,8 @@ void collectUnreachable(const QQuickItem& item, const QSet<const QQuickItem*>& c
                         QStringList& found) {
     if (!item.isVisible() || !item.isEnabled())
         return;
-    if (takesClicks(item) && !reachable(&item, chain)) {
-        const QString text = item.property("text").toString();
-        found.append(!item.objectName().isEmpty()
-                         ? item.objectName()
-                         : QString::fromLatin1(item.metaObject()->className()) +
-                               (text.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(text)));
-    }
+    if (takesClicks(item) && !reachable(&item, chain))
+        found.append(itemName(item));
     for (const QQuickItem* child : item.childItems())
         collectUnreachable(*child, chain, found);
 }
