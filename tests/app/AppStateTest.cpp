@@ -57,9 +57,7 @@ private slots:
         QCOMPARE(shown.rootPath, folder.path());
         QCOMPARE(shown.fileCount, 6);
         QCOMPARE(state.scanHistory()->results(), QList{shown});
-        QCOMPARE(historyFiles(store),
-                 QStringList{QStringLiteral("scan_%1.json")
-                                 .arg(shown.id.toString(QUuid::WithoutBraces).toUpper())});
+        QCOMPARE(historyFiles(store).size(), 1);
         QVERIFY(!state.hasCurrentScanner());
         // The screen is left with the scanner's final counters.
         QCOMPARE(state.scanProgress()->phase, ScanPhase::complete);

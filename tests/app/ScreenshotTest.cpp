@@ -179,40 +179,40 @@ private slots:
     }
 
     void landing() {
-        Scene(0).save(QStringLiteral("landing-empty"));
-        Scene(7).save(QStringLiteral("landing-recent"));
+        Scene(0).save("landing-empty");
+        Scene(7).save("landing-recent");
         Scene scene(3);
         scene.state().setError(
             AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
-        scene.save(QStringLiteral("error-alert"));
+        scene.save("error-alert");
     }
 
     void scanning() {
         Scene()
             .scanning(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app"))
-            .save(QStringLiteral("scanning"));
+            .save("scanning");
     }
 
     // The dashboard, a drag over it, and where the keys went: the ring around a button Tab
     // reached, then around the treemap cell the arrows moved to, with its details below.
     void dashboard() {
         Scene scene(3);
-        scene.showing(dashboardResult()).save(QStringLiteral("dashboard"));
+        scene.showing(dashboardResult()).save("dashboard");
         testing::WindowDrag drag(scene.window()->contentItem(),
                                  {QUrl::fromLocalFile(QDir::tempPath())});
         QVERIFY(drag.enter());
-        scene.save(QStringLiteral("drop-overlay"));
+        scene.save("drop-overlay");
         drag.leave();
 
         auto* button = findItem(scene.window(), "exportToolbarButton");
         QVERIFY(button);
         button->forceActiveFocus(Qt::TabFocusReason);
-        scene.save(QStringLiteral("focus-ring"));
+        scene.save("focus-ring");
         auto* cells = findItem(scene.window(), "categoryTreemapCells");
         QVERIFY(cells);
         cells->forceActiveFocus(Qt::TabFocusReason);
         QTest::keyClick(scene.window(), Qt::Key_Right);
-        scene.save(QStringLiteral("focus-ring-treemap"));
+        scene.save("focus-ring-treemap");
     }
 
     // Every screen at the smallest window and at full HD, with names long enough to need
@@ -229,16 +229,13 @@ private slots:
         const QString longFolder = QStringLiteral(
             "/Users/ann/Documents/Client Projects 2025/Quarterly Reports and Presentations/"
             "Final Versions Approved by the Board of Directors");
-        Scene(7).resized(size).save(QStringLiteral("landing") + suffix);
+        Scene(7).resized(size).save("landing" + suffix);
         Scene()
             .resized(size)
             .scanning(longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data"))
-            .save(QStringLiteral("scanning") + suffix);
-        Scene(3)
-            .resized(size)
-            .showing(dashboardResult(longFolder))
-            .save(QStringLiteral("dashboard") + suffix);
-        Scene(5, true).resized(size).history().save(QStringLiteral("history") + suffix);
+            .save("scanning" + suffix);
+        Scene(3).resized(size).showing(dashboardResult(longFolder)).save("dashboard" + suffix);
+        Scene(5, true).resized(size).history().save("history" + suffix);
     }
 
     void folderAnalysis() {
@@ -256,13 +253,13 @@ private slots:
         testing::holdBuildInPhase(*controller->service(), FolderTreeProgress::Phase::building);
         controller->build(result.rootPath);
         QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
-        scene.save(QStringLiteral("folder-analysis-building"));
+        scene.save("folder-analysis-building");
         controller->cancel();
 
         controller->build(result.rootPath);
         QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
         scrollTo(scene.window(), "folderAnalysis");
-        scene.save(QStringLiteral("folder-analysis-tree"));
+        scene.save("folder-analysis-tree");
 
         auto* treemap = findItem(section, QStringLiteral("folderTreemap"))
                             ->property("treemap")
@@ -273,7 +270,7 @@ private slots:
                 ++drillable;
         }
         QCOMPARE(treemap->pathNames().size(), 2);
-        scene.save(QStringLiteral("folder-treemap-drilled"));
+        scene.save("folder-treemap-drilled");
 
         // The treemap itself in sight, wherever drilling left the page.
         scrollTo(scene.window(), "folderTreemap");
@@ -281,7 +278,7 @@ private slots:
         const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
         QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
         QTRY_VERIFY(treemap->hoveredIndex() >= 0);
-        scene.save(QStringLiteral("folder-treemap-hover"));
+        scene.save("folder-treemap-hover");
     }
 
     // Every page of the dashboard of a real scan of a generated tree, then its interactive states.
@@ -295,7 +292,7 @@ private slots:
         Scene scene(3);
         scene.resized(QSize(1200, 800))
             .showing(std::get<AnalysisResult>(scanned))
-            .save(QStringLiteral("dashboard-full-1"));
+            .save("dashboard-full-1");
         auto* flickable = QQmlProperty::read(findItem(scene.window(), "dashboardScroller"),
                                              QStringLiteral("contentItem"))
                               .value<QQuickItem*>();
@@ -310,10 +307,10 @@ private slots:
         QQuickItem* treemap = inSight(window, "categoryTreemapCells");
         QTest::mouseMove(window, centerOf(treemap, 0.6));
         QTRY_VERIFY(treemap->property("hoveredIndex").toInt() >= 0);
-        scene.save(QStringLiteral("dashboard-treemap-hover"), Scene::Immediately);
+        scene.save("dashboard-treemap-hover", Scene::Immediately);
         QTest::mouseClick(window, Qt::LeftButton, {}, centerOf(treemap, 0.6));
         QTest::mouseMove(window, QPoint(5, 5));
-        scene.save(QStringLiteral("dashboard-category-selected"));
+        scene.save("dashboard-category-selected");
 
         QTest::mouseClick(window, Qt::LeftButton, {},
                           centerOf(inSight(window, "showAllExtensionsButton")));
@@ -321,7 +318,7 @@ private slots:
         QTest::mouseMove(window, centerOf(depth, 0.25));
         QTest::mouseMove(window, centerOf(depth, 0.3));
         QTRY_VERIFY(!findItem(window, "depthSummary")->isVisible());
-        scene.save(QStringLiteral("dashboard-depth-hover-extensions-all"), Scene::Immediately);
+        scene.save("dashboard-depth-hover-extensions-all", Scene::Immediately);
 
         QTest::mouseClick(window, Qt::LeftButton, {},
                           centerOf(inSight(window, "largestFilesSearch")));
@@ -332,43 +329,43 @@ private slots:
             findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
         QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);
         QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, firstRow + QPoint(0, 80));
-        scene.save(QStringLiteral("dashboard-table-search-selection"));
+        scene.save("dashboard-table-search-selection");
 
         QTest::mouseClick(window, Qt::LeftButton, {},
                           centerOf(findItem(window, "exportToolbarButton")));
-        scene.save(QStringLiteral("dashboard-export-sheet"));
+        scene.save("dashboard-export-sheet");
     }
 
     void dashboardVariants() {
-        Scene(0).showing(fullResult(12)).save(QStringLiteral("dashboard-12-categories"));
+        Scene(0).showing(fullResult(12)).save("dashboard-12-categories");
         Scene scene(0);
         scene.showing(fullResult(4, false));
         // The end of the page, where the insights would be.
         QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
-        scene.save(QStringLiteral("dashboard-no-insights"));
+        scene.save("dashboard-no-insights");
     }
 
     void history() {
-        Scene(0).history().save(QStringLiteral("history-empty"));
+        Scene(0).history().save("history-empty");
         Scene scene(5, true);
-        scene.history().save(QStringLiteral("history-trend"));
+        scene.history().save("history-trend");
 
         auto* scans = scene.find("historyScans");
         QVERIFY(scans);
         scans->setProperty("searchText", QStringLiteral("Project 2"));
-        scene.save(QStringLiteral("history-search-hides-trend"));
+        scene.save("history-search-hides-trend");
         scans->setProperty("searchText", QString());
 
         const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
         for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
             QMetaObject::invokeMethod(scans, "toggleSelection",
                                       Q_ARG(tessarine::AnalysisResult, picked));
-        scene.save(QStringLiteral("history-selected"));
+        scene.save("history-selected");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "open");
-        scene.save(QStringLiteral("history-delete-confirmation"));
+        scene.save("history-delete-confirmation");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
         QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
-        scene.save(QStringLiteral("history-comparison"));
+        scene.save("history-comparison");
     }
 
     void help() {
@@ -399,9 +396,9 @@ private slots:
         for (Scene* scene : {&landing, &scanning, &dashboard})
             QVERIFY(QTest::qWaitForWindowExposed(scene->window()));
         QGuiApplication::setPalette(testing::darkDesktopPalette());
-        landing.save(QStringLiteral("landing-switched"));
-        scanning.save(QStringLiteral("scanning-switched"));
-        dashboard.save(QStringLiteral("dashboard-switched"));
+        landing.save("landing-switched");
+        scanning.save("scanning-switched");
+        dashboard.save("dashboard-switched");
         QGuiApplication::setPalette(light);
     }
 };

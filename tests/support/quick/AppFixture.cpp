@@ -45,7 +45,7 @@ AppFixture::AppFixture(QObject* parent)
     : QObject(parent)
     , m_store(std::make_unique<PersistenceService>(m_home.path())) {
     testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
-    testing::storeSampleHistory(*m_store, storedScanCount());
+    testing::storeSampleHistory(*m_store, 7);
     m_state = std::make_unique<AppState>(*m_store);
     AppState::setSharedInstance(m_state.get());
     FileActions::setServices(&m_desktop);

@@ -28,7 +28,6 @@ class AppFixture : public QObject {
     Q_PROPERTY(QUrl folderUrl READ folderUrl CONSTANT)
     Q_PROPERTY(QString folderPath READ folderPath CONSTANT)
     Q_PROPERTY(QUrl largeFolderUrl READ largeFolderUrl CONSTANT)
-    Q_PROPERTY(int storedScanCount READ storedScanCount CONSTANT)
 
 public:
     explicit AppFixture(QObject* parent = nullptr);
@@ -38,7 +37,6 @@ public:
     QString folderPath() const;
     // A folder of some thousands of files, for a scan that is still running a moment later.
     QUrl largeFolderUrl() const;
-    static int storedScanCount() { return 7; }
 
     // Drags `url` from outside over the centre of `over`; true when a drop target takes it.
     Q_INVOKABLE bool dragOver(QQuickItem* over, const QUrl& url);
