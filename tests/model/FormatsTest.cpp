@@ -148,33 +148,18 @@ private slots:
         QTest::addColumn<QString>("cleaned");
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("parent");
-        QTest::newRow("trailing separators") << "/home/ann/Music//"
-                                             << "/home/ann/Music"
-                                             << "Music"
-                                             << "/home/ann";
-        QTest::newRow("root") << "/"
-                              << "/"
-                              << "/"
-                              << "/";
-        QTest::newRow("top level") << "/srv"
-                                   << "/srv"
-                                   << "srv"
-                                   << "/";
-        QTest::newRow("separators only") << "//"
-                                         << "/"
-                                         << "/"
-                                         << "/";
-        QTest::newRow("dot segments") << "/a/./b/../c"
-                                      << "/a/c"
-                                      << "c"
-                                      << "/a/./b/..";
-        QTest::newRow("relative") << "notes.md" << QDir::currentPath() + "/notes.md"
-                                  << "notes.md"
-                                  << "";
-        QTest::newRow("empty") << ""
-                               << ""
-                               << ""
-                               << "";
+        const auto row = [](const char* tag, const char* path, const QString& cleaned,
+                            const char* name, const char* parent) {
+            QTest::newRow(tag) << QString::fromUtf8(path) << cleaned << QString::fromUtf8(name)
+                               << QString::fromUtf8(parent);
+        };
+        row("trailing separators", "/home/ann/Music//", "/home/ann/Music", "Music", "/home/ann");
+        row("root", "/", "/", "/", "/");
+        row("top level", "/srv", "/srv", "srv", "/");
+        row("separators only", "//", "/", "/", "/");
+        row("dot segments", "/a/./b/../c", "/a/c", "c", "/a/./b/..");
+        row("relative", "notes.md", QDir::currentPath() + "/notes.md", "notes.md", "");
+        row("empty", "", "", "", "");
     }
 
     void namesIgnoreTrailingSeparators() {
