@@ -27,19 +27,22 @@ ScreenTestCase {
         return ViewSearch.withProperty(view, "scans").filter(item => item.hasOwnProperty("rootPath"))
     }
 
-    function test_emptyHistoryInvitesAScan() {
-        Fixture.fillHistory(0)
+    // The view shows the history's scans, once they are listed.
+    function historyOf(count) {
+        Fixture.fillHistory(count)
         const view = createTemporaryObject(historyComponent, testCase)
-        verify(ViewSearch.shows(view, "No Scan History"))
-        verify(ViewSearch.shows(view, "0 scans saved"))
-        compare(cards(view).length, 0)
+        tryVerify(() => cards(view).length === count)
+        return view
     }
 
-    // A scan saved by the command-line tool appears, and with a second scan of one folder the
-    // trend appears; a search narrows the chart but not the section.
+    // An empty history invites a scan; scans appear, one saved by the command-line tool too, and
+    // with a second scan of one folder the trend appears; a search narrows the chart but not the
+    // section.
     function test_scanSavedElsewhereAppearsWithItsTrend() {
+        const view = historyOf(0)
+        verify(ViewSearch.shows(view, "No Scan History"))
+        verify(ViewSearch.shows(view, "0 scans saved"))
         Fixture.fillHistory(3)
-        const view = createTemporaryObject(historyComponent, testCase)
         tryVerify(() => cards(view).length === 3)
         verify(!ViewSearch.shows(view, "Storage Trend"))
 
@@ -57,9 +60,7 @@ ScreenTestCase {
     }
 
     function test_twoAtMostAreSelectedAndDeletedTogether() {
-        Fixture.fillHistory(3)
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 3)
+        const view = historyOf(3)
         const circles = ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle")
         compare(circles.length, 3)
         for (const circle of circles)
@@ -87,9 +88,7 @@ ScreenTestCase {
     // The list is one Tab stop: the arrows move between cards, Space selects for a comparison,
     // Return opens the scan.
     function test_listByKeys() {
-        Fixture.fillHistory(3)
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 3)
+        const view = historyOf(3)
         const list = findChild(view, "historyList")
         list.forceActiveFocus(Qt.TabFocusReason)
         keyClick(Qt.Key_Down)
@@ -105,9 +104,7 @@ ScreenTestCase {
 
     // Picked newest first, the older scan is still "Before"; Escape and Return dismiss the sheet.
     function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
-        Fixture.fillHistory(2)
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 2)
+        const view = historyOf(2)
         for (const circle of ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle"))
             mouseClick(circle)
         tryVerify(() => ViewSearch.named(view, "compareButton"))
