@@ -1,7 +1,8 @@
-#include "DashboardResult.h"
-#include "ScanFolders.h"
-
 #include "app/AppState.h"
+#include "DashboardResult.h"
+#include "FileTrees.h"
+#include "ScanFolders.h"
+#include "app/FolderTreeController.h"
 #include "model/ScanProgress.h"
 #include "storage/PersistenceService.h"
 
@@ -11,6 +12,8 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <unistd.h>
 
 using namespace tessarine;
 using testing::makeScannableFolder;
@@ -31,6 +34,8 @@ QStringList historyFiles(const PersistenceService& store) {
 
 } // namespace
 
+// The work the application runs in the background, a scan for AppState and a folder tree build
+// for its controller: started, replaced, cancelled, failed, and what reaches the screen of it.
 class AppStateTest : public QObject {
     Q_OBJECT
 
@@ -207,6 +212,40 @@ private slots:
         QTRY_COMPARE(history.results(), (QList{saved, recent}));
         QVERIFY(QFile::exists(brokenPath));
         QVERIFY(!state.hasError());
+    }
+
+    // A folder that cannot be listed fails the build with its name. A missing folder and a file
+    // fail the same way: FolderAnalysisSection (through this controller) and CliScanTest.
+    void unreadableRootFails() {
+        if (geteuid() == 0)
+            QSKIP("the superuser lists any folder");
+        QTemporaryDir dir;
+        const QString locked = dir.filePath("locked");
+        QVERIFY(QDir().mkdir(locked));
+        QVERIFY(QFile::setPermissions(locked, QFileDevice::Permissions()));
+        FolderTreeController controller;
+
+        controller.build(locked);
+        QTRY_COMPARE(controller.state(), FolderTreeController::Failed);
+        QCOMPARE(controller.errorText(), "Failed to load: Cannot access: " + locked);
+        QVERIFY(!controller.hasTree());
+        QVERIFY(QFile::setPermissions(locked, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                  QFileDevice::ExeOwner));
+    }
+
+    // A dashboard closed right after Build: its controller goes, and the build with it.
+    void destroyedDuringABuildStopsIt() {
+        const QTemporaryDir large = testing::makeFastTemporaryDir();
+        testing::generateTree(large.path(), 20000, 3u);
+        QList<FolderTreeProgress> records;
+        {
+            FolderTreeController controller;
+            controller.service()->setProgressObserver(
+                [&](const FolderTreeProgress& record) { records.append(record); });
+            controller.build(large.path());
+        }
+        QVERIFY(!records.isEmpty());
+        QCOMPARE(records.last().phase, FolderTreeProgress::Phase::enumerating);
     }
 };
 
