@@ -61,8 +61,6 @@ private slots:
             << "EMM" << int(HistoryOrder::DateDescending) << QStringList{"emma"};
         QTest::newRow("path finds what the name does not")
             << "projects" << int(HistoryOrder::DateDescending) << QStringList{"zoe", "Adam"};
-        QTest::newRow("no match") << "nothing" << int(HistoryOrder::DateDescending)
-                                  << QStringList{};
     }
     void ordersAndSearches() {
         QFETCH(QString, search);

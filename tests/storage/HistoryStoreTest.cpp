@@ -94,22 +94,21 @@ private slots:
         writeFile(history.filePath("Upper.JSON"), valid);
         writeFile(history.filePath(".hidden.json"), valid);
         writeFile(history.filePath("notes.txt"), valid);
+        // A truncated file fails the same way: JsonCodecTest's malformed documents.
         writeFile(history.filePath("foreign.json"), R"({"hello": "world"})");
-        writeFile(history.filePath("truncated.json"), valid.left(valid.size() / 2));
         const QMap<QString, QByteArray> before = folderSnapshot(history.path());
 
         StandardOutputCapture output;
         const QList<AnalysisResult> loaded = loadedResults(store);
-        QStringList lines = QString::fromUtf8(output.finish()).split(u'\n', Qt::SkipEmptyParts);
+        const QStringList lines =
+            QString::fromUtf8(output.finish()).split(u'\n', Qt::SkipEmptyParts);
 
         QCOMPARE(loaded.size(), 1);
         QCOMPARE(loaded.first().id, stored.id);
-        lines.sort();
-        QCOMPARE(lines.size(), 2);
-        QVERIFY2(lines[0].startsWith("Failed to load foreign.json: "), qPrintable(lines[0]));
-        QVERIFY2(lines[1].startsWith("Failed to load truncated.json: "), qPrintable(lines[1]));
-        for (const QString& line : std::as_const(lines))
-            QVERIFY2(line.size() > line.indexOf(u':') + 2, "the reason is missing");
+        QCOMPARE(lines.size(), 1);
+        // With its reason after the name.
+        QVERIFY2(lines[0].startsWith("Failed to load foreign.json: ") && lines[0].size() > 30,
+                 qPrintable(lines[0]));
         QCOMPARE(folderSnapshot(history.path()), before);
     }
 
