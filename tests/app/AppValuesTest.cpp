@@ -1,7 +1,8 @@
+#include "ReleaseInfo.h"
 #include "ScanFolders.h"
-
 #include "app/FolderDrop.h"
 #include "app/SymbolTable.h"
+#include "app/shell/LaunchOptions.h"
 #include "model/FileCategory.h"
 
 #include <QFile>
@@ -9,7 +10,9 @@
 #include <QTest>
 
 using namespace tessarine;
+using Action = LaunchOptions::Action;
 
+// What the application makes of its input: launch arguments, dropped URLs, category symbols.
 class AppValuesTest : public QObject {
     Q_OBJECT
 
@@ -34,6 +37,55 @@ private slots:
                      qPrintable(iconName(category)));
         QCOMPARE(SymbolTable::codepoint(QStringLiteral("no.such.symbol")),
                  SymbolTable::fallbackCodepoint());
+    }
+
+    void folderToScan_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("folder"); // null: the window opens without a scan
+        QTest::newRow("none") << QStringList{} << QString();
+        QTest::newRow("relative") << QStringList{"Photos/2024"} << "/home/ann/Photos/2024";
+        QTest::newRow("absolute, trailing slash")
+            << QStringList{"/srv/My Files/"} << "/srv/My Files";
+        QTest::newRow("parent") << QStringList{".."} << "/home";
+        QTest::newRow("file URL") << QStringList{"file:///srv/My%20Files"} << "/srv/My Files";
+        QTest::newRow("named like an option") << QStringList{"--", "-v"} << "/home/ann/-v";
+        // Left to the scan, which reports it in the window like any folder it cannot read.
+        QTest::newRow("empty") << QStringList{""} << QStringLiteral("");
+    }
+
+    void folderToScan() {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, folder);
+        const LaunchOptions launch =
+            parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
+        QCOMPARE(launch.action, Action::OpenWindow);
+        QCOMPARE(launch.folder, folder.isNull() ? std::nullopt : std::optional(folder));
+    }
+
+    void answersWithoutWindow_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<Action>("action");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("help") << QStringList{"-h"} << Action::PrintAndExit << "[FOLDER]";
+        QTest::newRow("help after a folder")
+            << QStringList{"/srv", "--help"} << Action::PrintAndExit << "[FOLDER]";
+        QTest::newRow("version") << QStringList{"--version"} << Action::PrintAndExit
+                                 << QStringLiteral("Tessarine %1\n").arg(versionText);
+        QTest::newRow("two folders")
+            << QStringList{"/a", "/b"} << Action::FailWithUsage << "one FOLDER";
+        QTest::newRow("unknown option")
+            << QStringList{"--fast", "/a"} << Action::FailWithUsage << "fast";
+    }
+
+    void answersWithoutWindow() {
+        QFETCH(QStringList, arguments);
+        QFETCH(Action, action);
+        QFETCH(QString, text);
+        const LaunchOptions launch =
+            parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
+        QCOMPARE(launch.action, action);
+        QVERIFY2(launch.text.contains(text), qPrintable(launch.text));
+        QCOMPARE(launch.folder, std::nullopt);
     }
 };
 

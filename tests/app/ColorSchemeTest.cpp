@@ -7,11 +7,15 @@
 #include "model/FileCategory.h"
 #include "model/FolderColor.h"
 
+#include <QDBusConnection>
+#include <QDBusVariant>
 #include <QMetaProperty>
+#include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -19,13 +23,88 @@ Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
 
 using namespace tessarine;
 
-// The palette's two appearances, and the switch between them while the application runs.
+namespace {
+
+// The desktop's settings portal, answering Read as older portals do (the value wrapped in a
+// second variant) and announcing switches with SettingChanged.
+class FakeSettingsPortal : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
+
+public:
+    uint colorScheme = 0;
+
+    void switchTo(uint scheme) {
+        colorScheme = scheme;
+        emit SettingChanged(QStringLiteral("org.freedesktop.appearance"),
+                            QStringLiteral("color-scheme"), QDBusVariant(scheme));
+    }
+
+public slots:
+    QDBusVariant Read(const QString&, const QString&) const {
+        return QDBusVariant(QVariant::fromValue(QDBusVariant(colorScheme)));
+    }
+
+signals:
+    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+};
+
+} // namespace
+
+// The palette's two appearances, and the switch between them while the application runs: from
+// the desktop's settings portal (a fake one on a session bus of the test's own) where it answers,
+// else from the platform palette.
 class ColorSchemeTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_lightPalette = QGuiApplication::palette(); }
+    void initTestCase() {
+        m_lightPalette = QGuiApplication::palette();
+        const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
+        if (daemon.isEmpty())
+            return;
+        m_bus.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                             QStringLiteral("--print-address")});
+        QVERIFY(m_bus.waitForReadyRead());
+        const QByteArray address = m_bus.readLine().trimmed();
+        // The application's session bus from its first use on, which is still to come.
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        QDBusConnection portal =
+            QDBusConnection::connectToBus(QString::fromLatin1(address), QStringLiteral("portal"));
+        QVERIFY(portal.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
+                                      QDBusConnection::ExportAllSlots |
+                                          QDBusConnection::ExportAllSignals));
+        QVERIFY(portal.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+    }
+
+    void cleanupTestCase() {
+        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
+        m_bus.kill();
+        m_bus.waitForFinished();
+    }
+
     void cleanup() { QGuiApplication::setPalette(m_lightPalette); }
+
+    // First, so that the scheme's first question finds the portal's preference. It ends with
+    // "no preference", which leaves the palette to decide for the cases below.
+    void portalPreferenceWinsAndSwitchesLive() {
+        if (m_bus.state() != QProcess::Running)
+            QSKIP("needs dbus-daemon");
+        m_portal.colorScheme = 1;
+        const ColorScheme& scheme = ColorScheme::instance();
+        QTRY_VERIFY(scheme.dark());
+
+        m_portal.switchTo(2);
+        QTRY_VERIFY(!scheme.dark());
+        // A light preference holds against a dark palette.
+        QGuiApplication::setPalette(testing::darkDesktopPalette());
+        QVERIFY(!scheme.dark());
+
+        m_portal.switchTo(0);
+        QTRY_VERIFY(scheme.dark());
+        QGuiApplication::setPalette(m_lightPalette);
+        QVERIFY(!scheme.dark());
+    }
 
     // A name missing from the palette would show in the secondary colour instead of failing.
     void namesThatDataCarriesAreInThePalette() {
@@ -103,6 +182,8 @@ private slots:
 
 private:
     QPalette m_lightPalette;
+    QProcess m_bus;
+    FakeSettingsPortal m_portal;
 };
 
 QTEST_MAIN(ColorSchemeTest)

@@ -40,6 +40,10 @@ void storeProjectsTrend(PersistenceService& store) {
     }
 }
 
+AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
+    return testing::sampleResult(root, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC));
+}
+
 // The main window over a history of its own, for one picture.
 class Scene {
 public:
@@ -60,9 +64,26 @@ public:
                    ? nullptr
                    : qobject_cast<QQuickWindow*>(m_engine.rootObjects().first());
     }
+    template <typename T = QObject> T* find(const char* objectName) const {
+        return window() ? window()->findChild<T*>(QString::fromLatin1(objectName)) : nullptr;
+    }
 
-    template <typename T = QObject> T* find(const QString& objectName) const {
-        return window() ? window()->findChild<T*>(objectName) : nullptr;
+    Scene& resized(QSize size) {
+        window()->resize(size);
+        return *this;
+    }
+    Scene& scanning(const QString& currentPath) {
+        m_state->setCurrentView(AppState::Scanning);
+        m_state->setScanProgress(testing::sampleProgress(currentPath));
+        return *this;
+    }
+    Scene& showing(const AnalysisResult& result) {
+        m_state->openResult(result);
+        return *this;
+    }
+    Scene& history() {
+        m_state->setCurrentView(AppState::History);
+        return *this;
     }
 
     // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png,
@@ -94,10 +115,6 @@ private:
     // Made after the state and so destroyed before it: QML holds the state as a singleton.
     QQmlApplicationEngine m_engine;
 };
-
-AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
-    return testing::sampleResult(root, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC));
-}
 
 // A full result as a scan of a busy projects folder gives it.
 AnalysisResult fullResult(int categories, bool withInsights = true) {
@@ -137,6 +154,13 @@ QQuickItem* scrollTo(QQuickWindow* window, const char* objectName) {
     return item;
 }
 
+// The named item scrolled into sight, once the page has moved.
+QQuickItem* inSight(QQuickWindow* window, const char* objectName) {
+    QQuickItem* item = scrollTo(window, objectName);
+    QTest::qWait(100);
+    return item;
+}
+
 QPoint centerOf(const QQuickItem* item, qreal fractionX = 0.5) {
     return item->mapToScene(QPointF(item->width() * fractionX, item->height() / 2)).toPoint();
 }
@@ -155,43 +179,40 @@ private slots:
     }
 
     void landing() {
-        Scene(0).save(QStringLiteral("landing-empty"));
-        Scene(7).save(QStringLiteral("landing-recent"));
+        Scene(0).save("landing-empty");
+        Scene(7).save("landing-recent");
+        Scene scene(3);
+        scene.state().setError(
+            AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
+        scene.save("error-alert");
     }
 
     void scanning() {
-        Scene scene;
-        scene.state().setCurrentView(AppState::Scanning);
-        scene.state().setScanProgress(
-            testing::sampleProgress(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app")));
-        scene.save(QStringLiteral("scanning"));
+        Scene()
+            .scanning(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app"))
+            .save("scanning");
     }
 
-    void dashboardWithDropOverlay() {
+    // The dashboard, a drag over it, and where the keys went: the ring around a button Tab
+    // reached, then around the treemap cell the arrows moved to, with its details below.
+    void dashboard() {
         Scene scene(3);
-        scene.state().openResult(dashboardResult());
-        scene.save(QStringLiteral("dashboard"));
+        scene.showing(dashboardResult()).save("dashboard");
         testing::WindowDrag drag(scene.window()->contentItem(),
                                  {QUrl::fromLocalFile(QDir::tempPath())});
         QVERIFY(drag.enter());
-        scene.save(QStringLiteral("drop-overlay"));
+        scene.save("drop-overlay");
         drag.leave();
-    }
 
-    // Where the keys went: the ring around a button Tab reached, then around a treemap cell.
-    void focusRing() {
-        Scene scene(3);
-        scene.state().openResult(dashboardResult());
         auto* button = findItem(scene.window(), "exportToolbarButton");
         QVERIFY(button);
         button->forceActiveFocus(Qt::TabFocusReason);
-        scene.save(QStringLiteral("focus-ring"));
-        // A treemap cell the arrows moved to: the ring of the cell, with its details below.
+        scene.save("focus-ring");
         auto* cells = findItem(scene.window(), "categoryTreemapCells");
         QVERIFY(cells);
         cells->forceActiveFocus(Qt::TabFocusReason);
         QTest::keyClick(scene.window(), Qt::Key_Right);
-        scene.save(QStringLiteral("focus-ring-treemap"));
+        scene.save("focus-ring-treemap");
     }
 
     // Every screen at the smallest window and at full HD, with names long enough to need
@@ -208,31 +229,13 @@ private slots:
         const QString longFolder = QStringLiteral(
             "/Users/ann/Documents/Client Projects 2025/Quarterly Reports and Presentations/"
             "Final Versions Approved by the Board of Directors");
-        {
-            Scene scene(7);
-            scene.window()->resize(size);
-            scene.save(QStringLiteral("landing") + suffix);
-        }
-        {
-            Scene scene;
-            scene.window()->resize(size);
-            scene.state().setCurrentView(AppState::Scanning);
-            scene.state().setScanProgress(testing::sampleProgress(
-                longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data")));
-            scene.save(QStringLiteral("scanning") + suffix);
-        }
-        {
-            Scene scene(3);
-            scene.window()->resize(size);
-            scene.state().openResult(dashboardResult(longFolder));
-            scene.save(QStringLiteral("dashboard") + suffix);
-        }
-        {
-            Scene scene(5, true);
-            scene.window()->resize(size);
-            scene.state().setCurrentView(AppState::History);
-            scene.save(QStringLiteral("history") + suffix);
-        }
+        Scene(7).resized(size).save("landing" + suffix);
+        Scene()
+            .resized(size)
+            .scanning(longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data"))
+            .save("scanning" + suffix);
+        Scene(3).resized(size).showing(dashboardResult(longFolder)).save("dashboard" + suffix);
+        Scene(5, true).resized(size).history().save("history" + suffix);
     }
 
     void folderAnalysis() {
@@ -242,7 +245,7 @@ private slots:
         result.rootPath = folders.path();
         result.folderTree = {};
         Scene scene(3);
-        scene.state().openResult(result);
+        scene.showing(result);
         QQuickItem* section = scrollTo(scene.window(), "folderAnalysis");
         QVERIFY(section);
         auto* controller = section->property("controller").value<FolderTreeController*>();
@@ -250,13 +253,13 @@ private slots:
         testing::holdBuildInPhase(*controller->service(), FolderTreeProgress::Phase::building);
         controller->build(result.rootPath);
         QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
-        scene.save(QStringLiteral("folder-analysis-building"));
+        scene.save("folder-analysis-building");
         controller->cancel();
 
         controller->build(result.rootPath);
         QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
         scrollTo(scene.window(), "folderAnalysis");
-        scene.save(QStringLiteral("folder-analysis-tree"));
+        scene.save("folder-analysis-tree");
 
         auto* treemap = findItem(section, QStringLiteral("folderTreemap"))
                             ->property("treemap")
@@ -267,7 +270,7 @@ private slots:
                 ++drillable;
         }
         QCOMPARE(treemap->pathNames().size(), 2);
-        scene.save(QStringLiteral("folder-treemap-drilled"));
+        scene.save("folder-treemap-drilled");
 
         // The treemap itself in sight, wherever drilling left the page.
         scrollTo(scene.window(), "folderTreemap");
@@ -275,7 +278,7 @@ private slots:
         const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
         QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
         QTRY_VERIFY(treemap->hoveredIndex() >= 0);
-        scene.save(QStringLiteral("folder-treemap-hover"));
+        scene.save("folder-treemap-hover");
     }
 
     // Every page of the dashboard of a real scan of a generated tree, then its interactive states.
@@ -287,104 +290,87 @@ private slots:
         ScanOutcome scanned = scanner.scan(projects);
         QVERIFY(std::holds_alternative<AnalysisResult>(scanned));
         Scene scene(3);
-        scene.window()->resize(1200, 800);
-        scene.state().openResult(std::get<AnalysisResult>(scanned));
-        scene.save(QStringLiteral("dashboard-full-1"));
-        auto* scroller = findItem(scene.window(), "dashboardScroller");
-        QVERIFY(scroller);
-        auto* flickable =
-            QQmlProperty::read(scroller, QStringLiteral("contentItem")).value<QQuickItem*>();
+        scene.resized(QSize(1200, 800))
+            .showing(std::get<AnalysisResult>(scanned))
+            .save("dashboard-full-1");
+        auto* flickable = QQmlProperty::read(findItem(scene.window(), "dashboardScroller"),
+                                             QStringLiteral("contentItem"))
+                              .value<QQuickItem*>();
+        QVERIFY(flickable);
         const qreal end = flickable->property("contentHeight").toReal() - flickable->height();
         for (int page = 2; (page - 1) * flickable->height() < end + flickable->height(); ++page) {
             flickable->setProperty("contentY", std::min((page - 1) * flickable->height(), end));
             scene.save(QStringLiteral("dashboard-full-%1").arg(page));
         }
+        QQuickWindow* window = scene.window();
 
-        QQuickItem* treemap = scrollTo(scene.window(), "categoryTreemapCells");
-        QVERIFY(treemap);
-        QTest::qWait(100);
-        QTest::mouseMove(scene.window(), centerOf(treemap, 0.6));
+        QQuickItem* treemap = inSight(window, "categoryTreemapCells");
+        QTest::mouseMove(window, centerOf(treemap, 0.6));
         QTRY_VERIFY(treemap->property("hoveredIndex").toInt() >= 0);
-        scene.save(QStringLiteral("dashboard-treemap-hover"), Scene::Immediately);
-        QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(treemap, 0.6));
-        QTest::mouseMove(scene.window(), QPoint(5, 5));
-        scene.save(QStringLiteral("dashboard-category-selected"));
+        scene.save("dashboard-treemap-hover", Scene::Immediately);
+        QTest::mouseClick(window, Qt::LeftButton, {}, centerOf(treemap, 0.6));
+        QTest::mouseMove(window, QPoint(5, 5));
+        scene.save("dashboard-category-selected");
 
-        QQuickItem* showAll = scrollTo(scene.window(), "showAllExtensionsButton");
-        QVERIFY(showAll);
-        QTest::qWait(100);
-        QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(showAll));
-        QQuickItem* depth = scrollTo(scene.window(), "depthHoverArea");
-        QTest::qWait(100);
-        QTest::mouseMove(scene.window(), centerOf(depth, 0.25));
-        QTest::mouseMove(scene.window(), centerOf(depth, 0.3));
-        QTRY_VERIFY(!findItem(scene.window(), "depthSummary")->isVisible());
-        scene.save(QStringLiteral("dashboard-depth-hover-extensions-all"), Scene::Immediately);
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(inSight(window, "showAllExtensionsButton")));
+        QQuickItem* depth = inSight(window, "depthHoverArea");
+        QTest::mouseMove(window, centerOf(depth, 0.25));
+        QTest::mouseMove(window, centerOf(depth, 0.3));
+        QTRY_VERIFY(!findItem(window, "depthSummary")->isVisible());
+        scene.save("dashboard-depth-hover-extensions-all", Scene::Immediately);
 
-        QQuickItem* search = scrollTo(scene.window(), "largestFilesSearch");
-        QVERIFY(search);
-        QTest::qWait(100);
-        QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(search));
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(inSight(window, "largestFilesSearch")));
         for (const char typed : std::string_view("file-1"))
-            QTest::keyClick(scene.window(), typed);
-        QQuickItem* table = findItem(scene.window(), "largestFilesTableView");
-        QVERIFY(table);
+            QTest::keyClick(window, typed);
         QTest::qWait(100);
-        const QPoint firstRow = table->mapToScene(QPointF(150, 20)).toPoint();
-        QTest::mouseClick(scene.window(), Qt::LeftButton, {}, firstRow);
-        QTest::mouseClick(scene.window(), Qt::LeftButton, Qt::ControlModifier,
-                          firstRow + QPoint(0, 80));
-        scene.save(QStringLiteral("dashboard-table-search-selection"));
+        const QPoint firstRow =
+            findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
+        QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);
+        QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, firstRow + QPoint(0, 80));
+        scene.save("dashboard-table-search-selection");
 
-        QQuickItem* exportButton = findItem(scene.window(), "exportToolbarButton");
-        QVERIFY(exportButton);
-        QTest::mouseClick(scene.window(), Qt::LeftButton, {}, centerOf(exportButton));
-        scene.save(QStringLiteral("dashboard-export-sheet"));
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(findItem(window, "exportToolbarButton")));
+        scene.save("dashboard-export-sheet");
     }
 
     void dashboardVariants() {
-        {
-            Scene scene(0);
-            scene.state().openResult(fullResult(12));
-            scene.save(QStringLiteral("dashboard-12-categories"));
-        }
+        Scene(0).showing(fullResult(12)).save("dashboard-12-categories");
         Scene scene(0);
-        scene.state().openResult(fullResult(4, false));
+        scene.showing(fullResult(4, false));
         // The end of the page, where the insights would be.
         QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
-        scene.save(QStringLiteral("dashboard-no-insights"));
+        scene.save("dashboard-no-insights");
     }
 
     void history() {
-        Scene empty(0);
-        empty.state().setCurrentView(AppState::History);
-        empty.save(QStringLiteral("history-empty"));
-
+        Scene(0).history().save("history-empty");
         Scene scene(5, true);
-        scene.state().setCurrentView(AppState::History);
-        scene.save(QStringLiteral("history-trend"));
+        scene.history().save("history-trend");
 
-        auto* scans = scene.find(QStringLiteral("historyScans"));
+        auto* scans = scene.find("historyScans");
         QVERIFY(scans);
         scans->setProperty("searchText", QStringLiteral("Project 2"));
-        scene.save(QStringLiteral("history-search-hides-trend"));
+        scene.save("history-search-hides-trend");
         scans->setProperty("searchText", QString());
 
         const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
         for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
             QMetaObject::invokeMethod(scans, "toggleSelection",
                                       Q_ARG(tessarine::AnalysisResult, picked));
-        scene.save(QStringLiteral("history-selected"));
-        QMetaObject::invokeMethod(scene.find(QStringLiteral("deleteConfirmation")), "open");
-        scene.save(QStringLiteral("history-delete-confirmation"));
-        QMetaObject::invokeMethod(scene.find(QStringLiteral("deleteConfirmation")), "close");
-        QMetaObject::invokeMethod(scene.find(QStringLiteral("comparisonSheet")), "open");
-        scene.save(QStringLiteral("history-comparison"));
+        scene.save("history-selected");
+        QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "open");
+        scene.save("history-delete-confirmation");
+        QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
+        QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
+        scene.save("history-comparison");
     }
 
     void help() {
         Scene scene;
-        auto* help = scene.find<QQuickWindow>(QStringLiteral("helpWindow"));
+        auto* help = scene.find<QQuickWindow>("helpWindow");
         QVERIFY(help);
         QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
         help->show();
@@ -404,24 +390,16 @@ private slots:
         const QPalette light = QGuiApplication::palette();
         Scene landing(3);
         Scene scanning;
-        scanning.state().setCurrentView(AppState::Scanning);
-        scanning.state().setScanProgress(testing::sampleProgress(QStringLiteral("/Users/ann")));
+        scanning.scanning(QStringLiteral("/Users/ann"));
         Scene dashboard(3);
-        dashboard.state().openResult(dashboardResult());
+        dashboard.showing(dashboardResult());
         for (Scene* scene : {&landing, &scanning, &dashboard})
             QVERIFY(QTest::qWaitForWindowExposed(scene->window()));
         QGuiApplication::setPalette(testing::darkDesktopPalette());
-        landing.save(QStringLiteral("landing-switched"));
-        scanning.save(QStringLiteral("scanning-switched"));
-        dashboard.save(QStringLiteral("dashboard-switched"));
+        landing.save("landing-switched");
+        scanning.save("scanning-switched");
+        dashboard.save("dashboard-switched");
         QGuiApplication::setPalette(light);
-    }
-
-    void errorAlert() {
-        Scene scene(3);
-        scene.state().setError(
-            AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
-        scene.save(QStringLiteral("error-alert"));
     }
 };
 

@@ -19,7 +19,7 @@ public slots:
     void applicationAvailable() {
         QStandardPaths::setTestModeEnabled(true);
         prepareShell();
-        m_fixture = std::make_unique<AppFixture>(QStringLiteral(SCREENSHOT_DIR));
+        m_fixture = std::make_unique<AppFixture>();
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Accessibility", &m_audit);
     }

@@ -2,9 +2,13 @@
 #include "charts/CategoryTreemapModel.h"
 #include "charts/DepthListModel.h"
 #include "charts/ExtensionListModel.h"
+#include "charts/TreemapCells.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QLocale>
+#include <QQuickWindow>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace tessarine;
@@ -41,6 +45,13 @@ AnalysisResult resultWithExtensions(int count) {
         result.totalSize += stats.totalSize;
     }
     return result;
+}
+
+TreemapCell cell(const QRectF& rect, const QString& name, qint64 size) {
+    TreemapCell made;
+    made.rect = rect;
+    made.speech = {name, size, 1000};
+    return made;
 }
 
 } // namespace
@@ -140,16 +151,55 @@ private slots:
         QCOMPARE(column(model, CategoryListModel::NameRole),
                  QStringList({"Images", "Videos", "Code", "Audio"}));
         QCOMPARE(model.cells().count(), 4);
-        // A screen reader hears each cell as one element: what it is, its size and its share.
-        const TreemapCellSpeech& speech = model.cells().cells().at(1).speech;
-        QCOMPARE(speech.name, "Videos category");
-        QCOMPARE(speech.value(), "30 bytes, 30 percent");
+        // A screen reader hears each cell as one element (its value: everyCellIsAnElementOfItsOwn).
+        QCOMPARE(model.cells().cells().at(1).speech.name, "Videos category");
         QCOMPARE(model.cells().cells().at(1).border.width, 0);
         model.setSelectedCategory(int(FileCategory::videos));
         QCOMPARE(model.cells().cells().at(1).border.width, 3);
     }
+
+    // What a screen reader finds in a treemap whose cells are painted, not items.
+    void everyCellIsAnElementOfItsOwn() {
+        QQuickWindow window;
+        window.resize(400, 300);
+        TreemapCells cells(window.contentItem());
+        cells.setSize(QSizeF(400, 300));
+        // A nested cell lies over its parent and is the one found under the pointer.
+        cells.setCells(TreemapCellList({cell(QRectF(0, 0, 300, 300), "Documents", 750),
+                                        cell(QRectF(300, 0, 100, 300), "Music", 255),
+                                        cell(QRectF(10, 10, 50, 50), "Taxes", 5)}));
+
+        QAccessibleInterface* treemap = QAccessible::queryAccessibleInterface(&cells);
+        QVERIFY(treemap);
+        QCOMPARE(treemap->role(), QAccessible::List);
+        QCOMPARE(treemap->childCount(), 3);
+        QAccessibleInterface* music = treemap->child(1);
+        QCOMPARE(music->role(), QAccessible::ListItem);
+        QCOMPARE(music->text(QAccessible::Name), "Music");
+        // The share is truncated, never rounded up.
+        QCOMPARE(music->text(QAccessible::Value), "255 bytes, 25 percent");
+        QCOMPARE(music->parent(), treemap);
+        QCOMPARE(treemap->indexOfChild(music), 1);
+
+        const QPoint insideTaxes = window.mapToGlobal(QPoint(20, 20));
+        QCOMPARE(treemap->childAt(insideTaxes.x(), insideTaxes.y()), treemap->child(2));
+
+        QSignalSpy clicked(&cells, &TreemapCells::clicked);
+        QSignalSpy opened(&cells, &TreemapCells::doubleClicked);
+        music->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(clicked.count(), 1);
+        QCOMPARE(clicked.at(0).at(0).toInt(), 1);
+        QCOMPARE(opened.count(), 1);
+
+        // Laid out anew, the treemap speaks of its new cells only.
+        const QAccessible::Id stale = QAccessible::uniqueId(treemap->child(2));
+        cells.setCells(TreemapCellList({cell(QRectF(0, 0, 400, 300), "Everything", 1000)}));
+        QCOMPARE(treemap->childCount(), 1);
+        QVERIFY(!QAccessible::accessibleInterface(stale));
+        QCOMPARE(treemap->child(0)->text(QAccessible::Name), "Everything");
+    }
 };
 
-QTEST_GUILESS_MAIN(ChartListModelsTest)
+QTEST_MAIN(ChartListModelsTest)
 
 #include "ChartListModelsTest.moc"

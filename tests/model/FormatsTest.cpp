@@ -1,11 +1,34 @@
 #include "model/Format.h"
+#include "model/PathNames.h"
+#include "model/ScanProgress.h"
 
+#include <QDir>
 #include <QLocale>
 #include <QTest>
 
 #include <limits>
 
 using namespace tessarine;
+
+namespace {
+
+const QDateTime start(QDate(2025, 6, 1), QTime(12, 0), Qt::UTC);
+
+QDateTime after(double seconds) {
+    return start.addMSecs(qint64(seconds * 1000));
+}
+
+ScanProgress progress(qint64 files, qint64 folders, std::optional<qint64> estimated) {
+    ScanProgress snapshot;
+    snapshot.phase = ScanPhase::analyzing;
+    snapshot.filesScanned = files;
+    snapshot.foldersScanned = folders;
+    snapshot.startTime = start;
+    snapshot.estimatedTotalFiles = estimated;
+    return snapshot;
+}
+
+} // namespace
 
 class FormatsTest : public QObject {
     Q_OBJECT
@@ -18,14 +41,12 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("zero") << 0LL << "Zero KB";
         QTest::newRow("one") << 1LL << "1 byte";
-        QTest::newRow("two") << 2LL << "2 bytes";
         QTest::newRow("most bytes") << 999LL << "999 bytes";
         QTest::newRow("one KB") << 1000LL << "1 KB";
         QTest::newRow("KB rounded") << 1500LL << "2 KB";
         QTest::newRow("rounds into MB") << 999'999LL << "1 MB";
         QTest::newRow("MB one decimal") << 1'234'567LL << "1.2 MB";
         QTest::newRow("MB trailing zero dropped") << 3'000'000LL << "3 MB";
-        QTest::newRow("rounds into GB") << 999'999'999LL << "1 GB";
         QTest::newRow("GB two decimals") << 1'234'567'890LL << "1.23 GB";
         QTest::newRow("largest") << std::numeric_limits<qint64>::max() << "9.22 EB";
         QTest::newRow("most negative") << std::numeric_limits<qint64>::min() << "-9.22 EB";
@@ -75,6 +96,79 @@ private slots:
         QFETCH(QString, text);
         const QDateTime now(QDate(2025, 6, 15), QTime(12, 0), Qt::UTC);
         QCOMPARE(format::relativeDate(now.addSecs(offset), now), text);
+    }
+
+    void elapsedTime_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("just started") << 0.0 << "< 1s";
+        QTest::newRow("clock behind the start") << -5.0 << "< 1s";
+        QTest::newRow("rounds up to 60s") << 59.6 << "60s";
+        QTest::newRow("one minute") << 60.0 << "1m 0s";
+        QTest::newRow("truncated") << 61.9 << "1m 1s";
+    }
+
+    void elapsedTime() {
+        QFETCH(double, seconds);
+        QFETCH(QString, text);
+        QCOMPARE(progress(0, 0, std::nullopt).formattedElapsedTime(after(seconds)), text);
+    }
+
+    void remainingTime_data() {
+        QTest::addColumn<qint64>("files");
+        QTest::addColumn<qint64>("folders");
+        QTest::addColumn<qint64>("estimated"); // -1: not known yet
+        QTest::addColumn<double>("elapsed");
+        QTest::addColumn<QString>("text"); // empty: no text
+        QTest::newRow("total unknown") << 500LL << 0LL << -1LL << 10.0 << "";
+        QTest::newRow("total zero") << 500LL << 0LL << 0LL << 10.0 << "";
+        QTest::newRow("exactly one percent") << 6LL << 4LL << 1000LL << 10.0 << "";
+        QTest::newRow("just past one percent")
+            << 7LL << 4LL << 1000LL << 10.0 << "14m 59s remaining";
+        QTest::newRow("half done") << 300LL << 200LL << 1000LL << 100.0 << "1m 40s remaining";
+        QTest::newRow("past the estimate") << 1500LL << 20LL << 1000LL << 90.0 << "< 1s remaining";
+        QTest::newRow("at the start") << 500LL << 0LL << 1000LL << 0.0 << "< 1s remaining";
+    }
+
+    void remainingTime() {
+        QFETCH(qint64, files);
+        QFETCH(qint64, folders);
+        QFETCH(qint64, estimated);
+        QFETCH(double, elapsed);
+        QFETCH(QString, text);
+        const auto snapshot =
+            progress(files, folders, estimated < 0 ? std::nullopt : std::optional(estimated));
+        const std::optional<QString> remaining = snapshot.formattedRemainingTime(after(elapsed));
+        QCOMPARE(remaining.value_or(QString()), text);
+    }
+
+    void namesIgnoreTrailingSeparators_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("cleaned");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("parent");
+        const auto row = [](const char* tag, const char* path, const QString& cleaned,
+                            const char* name, const char* parent) {
+            QTest::newRow(tag) << QString::fromUtf8(path) << cleaned << QString::fromUtf8(name)
+                               << QString::fromUtf8(parent);
+        };
+        row("trailing separators", "/home/ann/Music//", "/home/ann/Music", "Music", "/home/ann");
+        row("root", "/", "/", "/", "/");
+        row("top level", "/srv", "/srv", "srv", "/");
+        row("separators only", "//", "/", "/", "/");
+        row("dot segments", "/a/./b/../c", "/a/c", "c", "/a/./b/..");
+        row("relative", "notes.md", QDir::currentPath() + "/notes.md", "notes.md", "");
+        row("empty", "", "", "", "");
+    }
+
+    void namesIgnoreTrailingSeparators() {
+        QFETCH(QString, path);
+        QFETCH(QString, cleaned);
+        QFETCH(QString, name);
+        QFETCH(QString, parent);
+        QCOMPARE(lastPathComponent(path), name);
+        QCOMPARE(cleanRootPath(path), cleaned);
+        QCOMPARE(parentFolder(path), parent);
     }
 };
 

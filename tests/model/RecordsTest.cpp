@@ -1,6 +1,11 @@
 #include "model/Records.h"
+#include "model/FileCategory.h"
+#include "model/FolderColor.h"
 
 #include <QTest>
+
+#include <thread>
+#include <vector>
 
 using namespace tessarine;
 
@@ -31,10 +36,64 @@ ExtensionStats extension(const QString& ext, qint64 totalSize) {
 
 } // namespace
 
+// The records, what they derive, and the category table they are filed by.
 class RecordsTest : public QObject {
     Q_OBJECT
 
 private slots:
+    // First, so that the threads race to build the table.
+    void concurrentFirstLookups() {
+        std::vector<FileCategory> found(8, FileCategory::other);
+        std::vector<std::thread> threads;
+        for (std::size_t i = 0; i < found.size(); ++i)
+            threads.emplace_back([&found, i] { found[i] = categoryForExtension(u"flac"); });
+        for (std::thread& thread : threads)
+            thread.join();
+        for (FileCategory category : found)
+            QCOMPARE(category, FileCategory::audio);
+    }
+
+    // Every key is reachable through the lookup, whatever its length or spelling.
+    void everyKnownExtensionLeadsBack() {
+        for (FileCategory category : allFileCategories()) {
+            for (const QString& extension : knownExtensions(category)) {
+                QCOMPARE(extension, extension.toLower().trimmed());
+                QCOMPARE(categoryForExtension(extension), category);
+                QCOMPARE(categoryForExtension(extension.toUpper()), category);
+            }
+        }
+        QVERIFY(knownExtensions(FileCategory::other).isEmpty());
+    }
+
+    void lookup_data() {
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<FileCategory>("category");
+        QTest::newRow("no-break spaces") << "\u00a0JPG\u2003" << FileCategory::images;
+        QTest::newRow("newline is kept") << "jpg\n" << FileCategory::other;
+        QTest::newRow("inner space") << "j pg" << FileCategory::other;
+        QTest::newRow("with dot") << ".jpg" << FileCategory::other;
+        QTest::newRow("empty") << "" << FileCategory::other;
+        QTest::newRow("Kelvin sign lowercases to k") << "\u212aDC" << FileCategory::images;
+        QTest::newRow("non-ASCII") << "\u00e9t\u00e9" << FileCategory::other;
+        // Extensions that fit two categories belong to the later one.
+        QTest::newRow("pdf") << "pdf" << FileCategory::documents;
+        QTest::newRow("ai") << "ai" << FileCategory::design;
+        QTest::newRow("dmg") << "dmg" << FileCategory::applications;
+    }
+
+    void lookup() {
+        QFETCH(QString, extension);
+        QFETCH(FileCategory, category);
+        QCOMPARE(categoryForExtension(extension), category);
+    }
+
+    void folderColoursWrapAround() {
+        QCOMPARE(folderColorAt(0), FolderColor::blue);
+        QCOMPARE(folderColorAt(12), FolderColor::blue);
+        QCOMPARE(folderColorAt(13), FolderColor::green);
+        QCOMPARE(folderColorAt(-1), FolderColor::cyan);
+    }
+
     void folderDerivedValues() {
         const FolderInfo leaf = folder(QStringLiteral("leaf"), 700);
         QCOMPARE(leaf.directFilesSize(), 700);
@@ -66,7 +125,6 @@ private slots:
         const std::vector<const FolderInfo*> all = root->flattened();
         QCOMPARE(all.size(), std::size_t(levels + 1));
         QCOMPARE(all.back(), tip);
-        QCOMPARE(all[5000]->depth, 5000);
         QVERIFY(tip->path().startsWith("/r/0/1/2/") && tip->path().endsWith("/9999/10000"));
         QCOMPARE(root->directFilesSize(), 1);
 
@@ -113,6 +171,7 @@ private slots:
         tip.reset();
     }
 
+    // Depths in numeric order: ChartListModelsTest's depth levels.
     void resultDerivedValues() {
         AnalysisResult result;
         result.extensionStats = {{QStringLiteral("mp4"), extension(QStringLiteral("mp4"), 500)},
@@ -122,12 +181,6 @@ private slots:
         for (const ExtensionStats& stats : result.sortedExtensions())
             order.append(stats.displayName());
         QCOMPARE(order, QStringList({"No Extension", ".mp4", ".txt"}));
-
-        result.depthDistribution = {{10, {1, 0, 5}}, {1, {2, 3, 7}}, {2, {0, 1, 0}}};
-        QList<qint64> depths;
-        for (const auto& [depth, stats] : result.sortedDepths())
-            depths.append(depth);
-        QCOMPARE(depths, (QList<qint64>{1, 2, 10}));
     }
 
     void formattedDuration_data() {
@@ -149,21 +202,10 @@ private slots:
         QCOMPARE(result.formattedDuration(), text);
     }
 
-    void identityAndOrder() {
-        FileInfo small;
-        small.size = 10;
-        FileInfo large = small;
-        QCOMPARE(large, small);
-        large.size = 20;
-        QVERIFY(small < large && !(large < small));
-
-        // Size alone orders files, while equality looks at every field.
-        FileInfo sameSize = small;
-        sameSize.name = QStringLiteral("other");
-        QVERIFY(!(small < sameSize) && !(sameSize < small));
-        QVERIFY(sameSize != small);
-        // Every record gets an identity of its own.
-        QVERIFY(FileInfo{}.id != small.id);
+    // Every record gets an identity of its own (a result's names its history file).
+    void identities() {
+        QVERIFY(AnalysisResult{}.id != AnalysisResult{}.id);
+        QVERIFY(FileInfo{}.id != FileInfo{}.id);
         QCOMPARE(PatternInsight{}.id.version(), QUuid::Random);
     }
 };

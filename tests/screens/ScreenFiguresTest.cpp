@@ -1,8 +1,17 @@
+#include "screens/common/FirstRowsModel.h"
 #include "screens/dashboard/SummaryFigures.h"
+#include "screens/scanning/ActivityLogModel.h"
+#include "screens/scanning/PhaseStepsModel.h"
 #include "screens/scanning/ScanFigures.h"
+#include "screens/scanning/ScanPaths.h"
+#include "screens/scanning/ScanPhaseDisplay.h"
 #include "screens/scanning/ScanStatus.h"
+#include "screens/scanning/Throughput.h"
 
+#include <QAbstractItemModelTester>
 #include <QLocale>
+#include <QSignalSpy>
+#include <QStringListModel>
 #include <QTest>
 
 using namespace tessarine;
@@ -24,6 +33,13 @@ ScanProgress progress(qint64 files, qint64 folders, qint64 bytes) {
     scan.bytesScanned = bytes;
     scan.startTime = QDateTime(QDate(2026, 3, 14), QTime(9, 0), Qt::UTC);
     return scan;
+}
+
+QStringList column(const QAbstractItemModel& model, int role) {
+    QStringList result;
+    for (int row = 0; row < model.rowCount(); ++row)
+        result.append(model.index(row, 0).data(role).toString());
+    return result;
 }
 
 } // namespace
@@ -109,6 +125,159 @@ private slots:
     void summaryCardsFormatSizesCountsAndPlainDepths() {
         const auto figures = summaryFigures({2'500'000'000, 1'234'567, 4'321, 12'345});
         QCOMPARE(values(figures), (QStringList{"2.5 GB", "1,234,567", "4,321", "12345"}));
+    }
+
+    void throughputSwitchesUnitAtEachBinaryStep_data() {
+        QTest::addColumn<qint64>("bytesPerSecond");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("largest byte value") << qint64(1023) << "1023 B";
+        QTest::newRow("one kilobyte") << qint64(1024) << "1.0 KB";
+        QTest::newRow("just below a megabyte") << qint64(1048575) << "1024.0 KB";
+        QTest::newRow("one gigabyte") << qint64(1073741824) << "1.00 GB";
+        QTest::newRow("gigabytes keep two decimals") << qint64(5) * 1073741824 / 2 << "2.50 GB";
+        QTest::newRow("a counter that went back") << qint64(-300) << "-300 B";
+    }
+
+    void throughputSwitchesUnitAtEachBinaryStep() {
+        QFETCH(qint64, bytesPerSecond);
+        QFETCH(QString, text);
+        QCOMPARE(formatThroughput(bytesPerSecond), text);
+    }
+
+    void throughputIgnoresTheLocale() {
+        // Rates are printf-formatted like the screen's other live figures ("%.0f", "%.1f"), so
+        // they all keep the full stop whatever the locale.
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        const QString text = formatThroughput(2560);
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        QCOMPARE(text, QStringLiteral("2.5 KB"));
+    }
+
+    void locationCrumbsKeepTheDeepestSix_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QStringList>("crumbs");
+        QTest::newRow("root") << "/" << QStringList{};
+        QTest::newRow("doubled and trailing slashes")
+            << "//Users//ann/" << QStringList{"Users", "ann"};
+        QTest::newRow("six pieces stay whole")
+            << "/a/b/c/d/e/f" << QStringList{"a", "b", "c", "d", "e", "f"};
+        QTest::newRow("seven pieces lose the first")
+            << "/a/b/c/d/e/f/g" << QStringList{"b", "c", "d", "e", "f", "g"};
+        QTest::newRow("relative, with spaces and accents")
+            << "Mes Documents/été" << QStringList{"Mes Documents", "été"};
+    }
+
+    void locationCrumbsKeepTheDeepestSix() {
+        QFETCH(QString, path);
+        QFETCH(QStringList, crumbs);
+        QCOMPARE(locationCrumbs(path), crumbs);
+    }
+
+    void activityEntriesTellFoldersFromFiles_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("folder");
+        QTest::newRow("file with an extension") << "/x/a.txt" << false;
+        QTest::newRow("name without a dot") << "/x/README" << true;
+        QTest::newRow("trailing slash") << "/x/y/" << true;
+        QTest::newRow("dotted folder with trailing slash") << "/x/v1.2/" << true;
+        QTest::newRow("root") << "/" << true;
+    }
+
+    void activityEntriesTellFoldersFromFiles() {
+        QFETCH(QString, path);
+        QFETCH(bool, folder);
+        QCOMPARE(looksLikeFolder(path), folder);
+    }
+
+    void phaseStepsFollowTheCurrentPhase_data() {
+        QTest::addColumn<ScanPhase>("phase");
+        QTest::addColumn<int>("completedSteps");
+        QTest::addColumn<int>("currentStep");
+        QTest::newRow("initializing") << ScanPhase::initializing << 0 << 0;
+        QTest::newRow("analyzing") << ScanPhase::analyzing << 2 << 2;
+        QTest::newRow("finalizing") << ScanPhase::finalizing << 4 << 4;
+        QTest::newRow("complete") << ScanPhase::complete << 5 << -1;
+        QTest::newRow("cancelled") << ScanPhase::cancelled << 0 << -1;
+    }
+
+    void phaseStepsFollowTheCurrentPhase() {
+        QFETCH(ScanPhase, phase);
+        QFETCH(int, completedSteps);
+        QFETCH(int, currentStep);
+        const auto steps = phaseSteps(phase);
+        for (int i = 0; i < int(steps.size()); ++i) {
+            QCOMPARE(steps[std::size_t(i)].phase, static_cast<ScanPhase>(i));
+            QCOMPARE(steps[std::size_t(i)].completed, i < completedSteps);
+            QCOMPARE(steps[std::size_t(i)].current, i == currentStep);
+        }
+    }
+
+    void activityLogKeepsTheHundredNewestFirst() {
+        ActivityLogModel log;
+        QAbstractItemModelTester tester(&log);
+        QSignalSpy countChanges(&log, &ActivityLogModel::countChanged);
+        for (int i = 1; i <= 130; ++i)
+            log.setCurrentPath(QStringLiteral("/scan/file%1.dat").arg(i));
+
+        QCOMPARE(log.rowCount(), ActivityLogModel::capacity);
+        QCOMPARE(countChanges.count(), ActivityLogModel::capacity);
+        const QStringList names = column(log, ActivityLogModel::NameRole);
+        QCOMPARE(names.first(), QStringLiteral("file130.dat"));
+        QCOMPARE(names.last(), QStringLiteral("file31.dat"));
+    }
+
+    void activityLogRecordsChangesToAPathAndStampsEachEntry() {
+        ActivityLogModel log;
+        log.setCurrentPath(QString());
+        QCOMPARE(log.rowCount(), 0);
+
+        const QDateTime afternoon(QDate(2026, 3, 14), QTime(15, 9, 26));
+        log.setCurrentPath(QStringLiteral("/x/README"), afternoon);
+        log.setCurrentPath(QStringLiteral("/x/README"), afternoon);
+        QCOMPARE(log.rowCount(), 1);
+        log.setCurrentPath(QStringLiteral("/x/a.txt"), afternoon.addSecs(1));
+        const QModelIndex newest = log.index(0);
+        QCOMPARE(newest.data(ActivityLogModel::TimestampRole).toString(),
+                 QStringLiteral("15:09:27"));
+
+        // The same path reported again after a pause between items is a new line.
+        log.setCurrentPath(QString());
+        log.setCurrentPath(QStringLiteral("/x/a.txt"));
+        QCOMPARE(log.rowCount(), 3);
+    }
+
+    void firstRowsFollowRowsEnteringAndLeavingTheTop() {
+        QStringListModel source({"c", "b", "a"});
+        FirstRowsModel first;
+        QAbstractItemModelTester tester(&first);
+        first.setLimit(5);
+        first.setSourceModel(&source);
+        QCOMPARE(column(first, Qt::DisplayRole), (QStringList{"c", "b", "a"}));
+
+        for (const char* newest : {"d", "e", "f", "g"}) {
+            source.insertRows(0, 1);
+            source.setData(source.index(0), QString::fromLatin1(newest));
+        }
+        QCOMPARE(column(first, Qt::DisplayRole), (QStringList{"g", "f", "e", "d", "c"}));
+        QCOMPARE(first.count(), 5);
+
+        source.removeRows(0, 2);
+        QCOMPARE(column(first, Qt::DisplayRole), (QStringList{"e", "d", "c", "b", "a"}));
+        source.removeRows(1, 4);
+        QCOMPARE(column(first, Qt::DisplayRole), (QStringList{"e"}));
+
+        QSignalSpy countChanges(&first, &FirstRowsModel::countChanged);
+        first.setLimit(0);
+        QCOMPARE(first.count(), 0);
+        QVERIFY(!countChanges.isEmpty());
+    }
+
+    void phaseStepsFollowThePhase() {
+        PhaseStepsModel steps;
+        QAbstractItemModelTester tester(&steps);
+        steps.setPhase(ScanPhase::analyzing);
+        QCOMPARE(column(steps, PhaseStepsModel::CompletedRole),
+                 (QStringList{"true", "true", "false", "false", "false"}));
     }
 };
 

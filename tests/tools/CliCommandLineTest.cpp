@@ -1,14 +1,50 @@
 #include "CliRun.h"
+#include "FileTrees.h"
+#include "HistoryTable.h"
+#include "ProgressLine.h"
+#include "ProgressText.h"
+#include "model/ScanProgress.h"
 
+#include <QDir>
+#include <QFile>
+#include <QLocale>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
+using namespace tessarine;
+using namespace tessarine::cli;
 using namespace tessarine::testing;
+
+namespace {
+
+// What a terminal would act on: escape sequences, bells, carriage returns.
+bool holdsRawControlCharacters(const QByteArray& text) {
+    return std::any_of(text.begin(), text.end(), [](char byte) {
+        return (byte >= 0 && byte < 0x20 && byte != '\n') || byte == 0x7f;
+    });
+}
+
+const QString escapeName = QStringLiteral("\x1b]0;owned\x07\x1b[2J");
+const QString escapeShown = QStringLiteral("\\x1B]0;owned\\x07\\x1B[2J");
+
+} // namespace
 
 class CliCommandLineTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase() {
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        writeFolders(m_folder.path(), 100, 20);
+    }
+
+    void init() {
+        QFile::remove(historyDirectory());
+        QVERIFY(QDir(historyDirectory()).removeRecursively());
+        QVERIFY(QDir().mkpath(historyDirectory()));
+    }
+
     void helpGoesToStandardOutput_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::newRow("--help") << QStringList{"--help"};
@@ -67,6 +103,136 @@ private slots:
         QCOMPARE(run.errorText(),
                  QStringLiteral("Cannot access directory: ") + QDir::tempPath() + "/--help\n");
     }
+
+    // Ctrl-C during the long-running commands: a clean stop with the cancellation's own text and
+    // the status a shell gives an interrupted job.
+    void ctrlCCancels_data() {
+        QTest::addColumn<QString>("command");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("scan") << "scan"
+                              << "Scan was cancelled\n";
+        QTest::newRow("tree") << "tree"
+                              << "Folder tree building was cancelled\n";
+    }
+
+    void ctrlCCancels() {
+        QFETCH(QString, command);
+        QFETCH(QString, message);
+        const auto run = runCliInterrupted({command, m_folder.path()});
+        if (!run)
+            QSKIP("the command ended before it caught Ctrl-C");
+        QCOMPARE(run->exitCode, 130);
+        QCOMPARE(run->errorText(), message);
+        QCOMPARE(run->output, QByteArray());
+    }
+
+    // Hostile names and arguments, as a user runs into them at a terminal.
+    void controlCharactersReachNoTerminal_data() {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("scan of a missing folder")
+            << QStringList{"scan", "/nowhere/" + escapeName}
+            << "Cannot access directory: /nowhere/" + escapeShown;
+        QTest::newRow("unknown command")
+            << QStringList{escapeName} << "Unknown command: " + escapeShown;
+        QTest::newRow("unknown option")
+            << QStringList{"tree", "--" + escapeName} << "Unknown option: --" + escapeShown;
+        QTest::newRow("scan id") << QStringList{"history", "delete", escapeName}
+                                 << "Not a scan id: " + escapeShown;
+        QTest::newRow("history file name")
+            << QStringList{"history"} << "Failed to load scan_" + escapeShown + ".json: ";
+    }
+
+    void controlCharactersReachNoTerminal() {
+        QFETCH(QStringList, arguments);
+        QFETCH(QString, shown);
+        writeFile(historyDirectory() + "/scan_" + escapeName + ".json", 3);
+
+        const CliRun run = runCli(arguments);
+        QVERIFY(run.exitCode != 0 || arguments == QStringList{"history"});
+        QVERIFY2(run.errorText().startsWith(shown), run.errors);
+        QVERIFY2(!holdsRawControlCharacters(run.errors), run.errors);
+        QVERIFY2(!holdsRawControlCharacters(run.output), run.output);
+    }
+
+    // Data for programs keeps every byte of a name: JSON escapes it its own way, CSV not at all.
+    void dataOutputStaysExact() {
+        QTemporaryDir folder;
+        writeFile(folder.filePath(escapeName), 10);
+
+        const CliRun csv = runCli({"scan", "--csv", folder.path()});
+        QCOMPARE(csv.exitCode, 0);
+        QVERIFY2(csv.output.contains(escapeName.toUtf8()), csv.output);
+
+        const CliRun json = runCli({"scan", folder.path()});
+        QCOMPARE(json.exitCode, 0);
+        QVERIFY2(json.output.contains(R"(\u001b]0;owned\u0007\u001b[2J)"), json.output);
+    }
+
+    // The texts a person reads on the terminal, checked without a terminal.
+    void scanLineShowsWhatIsKnown() {
+        ProgressText<ScanProgress> text;
+        ScanProgress discovery{ScanPhase::scanning, 4000, 1000, "/x", 0, m_start, std::nullopt};
+        // No rate before the phase has run a while, no bytes while discovery reads none.
+        QCOMPARE(text.describe(discovery, m_start.addSecs(1)), "Discovering files...  5,000 items");
+        discovery.filesScanned = 8000;
+        QCOMPARE(text.describe(discovery, m_start.addSecs(3)),
+                 "Discovering files...  9,000 items  2,000 items/s");
+
+        // Analysis counts from zero again, so its rate starts afresh.
+        ScanProgress analysis{ScanPhase::analyzing, 0, 0, "/x", 0, m_start, 10000};
+        QCOMPARE(text.describe(analysis, m_start.addSecs(3)),
+                 "Analyzing files...  0 / 10,000 items");
+        analysis.filesScanned = 4500;
+        analysis.foldersScanned = 500;
+        analysis.bytesScanned = 1'500'000;
+        QCOMPARE(text.describe(analysis, m_start.addSecs(5)),
+                 "Analyzing files...  5,000 / 10,000 items  1.5 MB  2,500 items/s  5s remaining");
+    }
+
+    void linesFitTheTerminal() {
+        QCOMPARE(fitToWidth("short", 80), "short");
+        QCOMPARE(fitToWidth("exactly", 8), "exactly");
+        // One column stays free so the line never wraps.
+        QCOMPARE(fitToWidth("exactly", 7), "exactl");
+        QCOMPARE(fitToWidth("anything", 0), "");
+        // A character outside the basic plane is never cut in half.
+        const QString emoji = QString::fromUtf8("ab\U0001F600");
+        QCOMPARE(fitToWidth(emoji, 4), "ab");
+        QCOMPARE(fitToWidth(emoji, 5), emoji);
+    }
+
+    void historyTableIsAlignedAndSafe() {
+        AnalysisResult small;
+        small.scanDate = m_start;
+        small.rootPath = "/home/a\nb\033[2J";
+        small.totalSize = 999;
+        small.fileCount = 3;
+        AnalysisResult large = small;
+        large.id = QUuid::createUuid();
+        large.rootPath = "/srv/much/longer/path";
+        large.totalSize = 1'230'000'000;
+        large.fileCount = 1'234'567;
+
+        const QStringList lines = historyTable({large, small}).split('\n');
+        QCOMPARE(lines.size(), 4);
+        QCOMPARE(lines[3], QString());
+        // Control characters cannot break the line or reach the terminal.
+        QVERIFY(lines[2].contains("/home/a\\nb\\x1B[2J "));
+        const qsizetype idColumn = lines[0].indexOf("ID");
+        QCOMPARE(lines[1].indexOf(large.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
+        QCOMPARE(lines[2].indexOf(small.id.toString(QUuid::WithoutBraces).toUpper()), idColumn);
+        // Figures are right-aligned: their last digits share a column.
+        const qsizetype filesEnd = lines[0].indexOf("Files") + 5;
+        QCOMPARE(lines[1].indexOf("1,234,567") + 9, filesEnd);
+        QCOMPARE(lines[2].indexOf(" 3 ") + 2, filesEnd);
+        QVERIFY(lines[1].contains("1.23 GB"));
+        QVERIFY(!lines[0].endsWith(' '));
+    }
+
+private:
+    QTemporaryDir m_folder;
+    const QDateTime m_start = QDateTime(QDate(2024, 3, 5), QTime(14, 0), Qt::UTC);
 };
 
 QTEST_GUILESS_MAIN(CliCommandLineTest)

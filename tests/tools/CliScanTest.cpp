@@ -1,15 +1,28 @@
 #include "CliRun.h"
 #include "FileTrees.h"
-
 #include "model/Json.h"
 
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessarine;
 using namespace tessarine::testing;
+
+namespace {
+
+QStringList childNames(const QJsonObject& folder) {
+    QStringList names;
+    for (const QJsonValue child : folder["childFolders"].toArray())
+        names.append(child.toObject()["name"].toString());
+    return names;
+}
+
+} // namespace
 
 class CliScanTest : public QObject {
     Q_OBJECT
@@ -62,15 +75,17 @@ private slots:
         QCOMPARE(lines[4], QByteArray());
     }
 
+    // An empty folder fails the scan the same way: AppStateTest.
     void failuresPrintTheErrorText() {
-        const QString missing = m_folder->path() + "/missing";
-        const QString empty = m_folder->path() + "/empty";
-        QVERIFY(QDir().mkpath(empty));
-        for (const QString& folder : {missing, empty, m_folder->path() + "/a.txt"}) {
-            const CliRun run = runCli({"scan", folder});
-            QCOMPARE(run.exitCode, 1);
-            QCOMPARE(run.errorText(), "Cannot access directory: " + folder + "\n");
-            QCOMPARE(run.output, QByteArray());
+        for (const auto& [command, message] :
+             {std::pair{"scan", "Cannot access directory: "}, {"tree", "Cannot access: "}}) {
+            for (const QString& folder :
+                 {m_folder->path() + "/missing", m_folder->path() + "/a.txt"}) {
+                const CliRun run = runCli({command, folder});
+                QCOMPARE(run.exitCode, 1);
+                QCOMPARE(run.errorText(), message + folder + "\n");
+                QCOMPARE(run.output, QByteArray());
+            }
         }
     }
 
@@ -78,6 +93,63 @@ private slots:
         const CliRun run = runCli({"scan", m_folder->path()}, {.outputFile = "/dev/full"});
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.errorText().startsWith("Cannot write the output: "), run.errors);
+    }
+
+    // Largest first; hidden and empty folders are left out.
+    void treeHoldsEveryFolderBySize() {
+        const QString root = m_folder->path();
+        // The tree counts a link at its own size (the scan leaves it out): FolderTreeShapeTest.
+        QVERIFY(QFile::remove(root + "/link-to-a"));
+        writeFile(root + "/small/y", 10);
+        writeFile(root + "/.cache/z", 999);
+        QVERIFY(QDir().mkpath(root + "/empty"));
+
+        const CliRun run = runCli({"tree", "."}, {.workingDirectory = root});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.errors, QByteArray());
+        QJsonParseError error;
+        const QJsonObject tree = QJsonDocument::fromJson(run.output, &error).object();
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QCOMPARE(tree["path"].toString(), root);
+        QCOMPARE(tree["depth"].toInteger(), 0);
+        QCOMPARE(tree["totalSize"].toInteger(), 5110);
+        QCOMPARE(tree["fileCount"].toInteger(), 4);
+        QCOMPARE(childNames(tree), (QStringList{"photos", "small"}));
+        const QJsonObject photos = tree["childFolders"].toArray()[0].toObject();
+        QCOMPARE(photos["totalSize"].toInteger(), 5000);
+        QCOMPARE(childNames(photos), QStringList{"raw, \"odd\""});
+    }
+
+    void treeDeeperThanJsonReadersIsRefused_data() {
+        QTest::addColumn<int>("levels");
+        QTest::newRow("as deep as readers go") << 510;
+        QTest::newRow("one level deeper") << 511;
+    }
+
+    // A tree that readers could not take back is not written; one level less is, and reads back.
+    void treeDeeperThanJsonReadersIsRefused() {
+        QFETCH(int, levels);
+        const QTemporaryDir folder = makeFastTemporaryDir();
+        const QString root = folder.path();
+        writeFile(root + QStringLiteral("/d").repeated(levels) + "/leaf", 1);
+
+        const CliRun run = runCli({"tree", root});
+
+        if (levels > 510) {
+            QCOMPARE(run.exitCode, 1);
+            QCOMPARE(run.errorText(),
+                     QStringLiteral("Folder tree too deep for JSON: 511 levels of folders below "
+                                    "%1, but JSON readers stop at 510\n")
+                         .arg(root));
+            QCOMPARE(run.output, QByteArray());
+            return;
+        }
+        QCOMPARE(run.exitCode, 0);
+        // Qt's reader, like the others, takes it back whole.
+        QJsonParseError error;
+        QJsonDocument::fromJson(run.output, &error);
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QVERIFY(run.output.contains("\"depth\" : 510"));
     }
 
 private:

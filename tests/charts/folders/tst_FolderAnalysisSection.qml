@@ -43,26 +43,15 @@ TestCase {
         return [...new Set(ViewSearch.texts(section).filter(text => text.startsWith("Failed to load: ")))]
     }
 
-    function test_buildShowsTheTree() {
-        const section = makeSection(Fixture.resultWithoutTree(Fixture.makeTree("built")))
-        verify(ViewSearch.shows(section, "4 folders to analyze"))
-        mouseClick(button(section, "Build Folder Treemap"))
-        tryVerify(() => section.controller.hasTree)
-        // The bars follow the tree's walk: the largest branch, then what lies inside it.
-        verify(ViewSearch.shows(section, "4 folders"))
-        verify(ViewSearch.shows(section, "4 of 4 folders shown"))
-        const treemap = ViewSearch.named(section, "folderTreemap").treemap
-        compare(treemap.rootName, "built")
-        verify(treemap.cellNamed("media") >= 0 && treemap.cellNamed("clips") >= 0)
-    }
-
     function test_cancel_data() {
         return [{ tag: "enumerating", phase: "enumerating", step: "Scan" },
                 { tag: "building", phase: "building", step: "Build" }]
     }
 
+    // A build cancelled in either phase, then one that shows its tree.
     function test_cancel(data) {
         const section = makeSection(Fixture.resultWithoutTree(Fixture.makeTree("cancel-" + data.phase)))
+        verify(ViewSearch.shows(section, "4 folders to analyze"))
         let failures = 0
         section.controller.stateChanged.connect(() => {
             if (section.controller.state === FolderTreeController.Failed)
@@ -85,6 +74,11 @@ TestCase {
         tryVerify(() => section.controller.hasTree)
         compare(failures, 0)
         compare(errorRows(section), [])
+        // What the tree holds shows in the bars and the treemap.
+        verify(ViewSearch.shows(section, "4 of 4 folders shown"))
+        const treemap = ViewSearch.named(section, "folderTreemap").treemap
+        compare(treemap.rootName, "cancel-" + data.phase)
+        verify(treemap.cellNamed("media") >= 0 && treemap.cellNamed("clips") >= 0)
     }
 
     function test_failedBuildAndRetry() {

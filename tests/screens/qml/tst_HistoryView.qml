@@ -27,19 +27,22 @@ ScreenTestCase {
         return ViewSearch.withProperty(view, "scans").filter(item => item.hasOwnProperty("rootPath"))
     }
 
-    function test_emptyHistoryInvitesAScan() {
-        Fixture.fillHistory(0)
+    // The view shows the history's scans, once they are listed.
+    function historyOf(count) {
+        Fixture.fillHistory(count)
         const view = createTemporaryObject(historyComponent, testCase)
-        verify(ViewSearch.shows(view, "No Scan History"))
-        verify(ViewSearch.shows(view, "0 scans saved"))
-        compare(cards(view).length, 0)
+        tryVerify(() => cards(view).length === count)
+        return view
     }
 
-    // A scan saved by the command-line tool appears, and with a second scan of one folder the
-    // trend appears; a search narrows the chart but not the section.
+    // An empty history invites a scan; scans appear, one saved by the command-line tool too, and
+    // with a second scan of one folder the trend appears; a search narrows the chart but not the
+    // section.
     function test_scanSavedElsewhereAppearsWithItsTrend() {
+        const view = historyOf(0)
+        verify(ViewSearch.shows(view, "No Scan History"))
+        verify(ViewSearch.shows(view, "0 scans saved"))
         Fixture.fillHistory(3)
-        const view = createTemporaryObject(historyComponent, testCase)
         tryVerify(() => cards(view).length === 3)
         verify(!ViewSearch.shows(view, "Storage Trend"))
 
@@ -57,9 +60,7 @@ ScreenTestCase {
     }
 
     function test_twoAtMostAreSelectedAndDeletedTogether() {
-        Fixture.fillHistory(3)
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 3)
+        const view = historyOf(3)
         const circles = ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle")
         compare(circles.length, 3)
         for (const circle of circles)
@@ -67,22 +68,43 @@ ScreenTestCase {
         compare(cards(view).filter(card => card.selected).length, 2)
         verify(ViewSearch.named(view, "compareButton"))
 
-        mouseClick(ViewSearch.named(view, "deleteButton"))
+        // Escape leaves without deleting; Return confirms.
         const confirmation = findChild(view, "deleteConfirmation")
+        mouseClick(ViewSearch.named(view, "deleteButton"))
+        tryVerify(() => confirmation.opened)
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !confirmation.visible)
+        compare(AppState.scanHistory.count, 3)
+        mouseClick(ViewSearch.named(view, "deleteButton"))
         tryVerify(() => confirmation.opened)
         compare(findChild(confirmation.contentItem, "deleteMessage").text,
                 "This will permanently delete 2 scan(s) from history.")
-        mouseClick(findChild(confirmation.contentItem, "confirmDelete"))
+        keyClick(Qt.Key_Return)
         tryCompare(AppState.scanHistory, "count", 1)
         tryVerify(() => cards(view).length === 1)
         verify(!ViewSearch.named(view, "deleteButton"))
     }
 
-    // Picked newest first, the older scan is still "Before"; Return dismisses the sheet.
+    // The list is one Tab stop: the arrows move between cards, Space selects for a comparison,
+    // Return opens the scan.
+    function test_listByKeys() {
+        const view = historyOf(3)
+        const list = findChild(view, "historyList")
+        list.forceActiveFocus(Qt.TabFocusReason)
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Down)
+        keyClick(Qt.Key_Up)
+        compare(list.currentIndex, 1)
+        keyClick(Qt.Key_Space)
+        compare(cards(view).filter(card => card.selected).map(card => card.rootName), ["Scan 2"])
+        keyClick(Qt.Key_Return)
+        compare(AppState.currentResult.rootName, "Scan 2")
+        compare(AppState.currentView, AppState.Dashboard)
+    }
+
+    // Picked newest first, the older scan is still "Before"; Escape and Return dismiss the sheet.
     function test_comparisonShowsTheEarlierScanFirstAndClosesOnReturn() {
-        Fixture.fillHistory(2)
-        const view = createTemporaryObject(historyComponent, testCase)
-        tryVerify(() => cards(view).length === 2)
+        const view = historyOf(2)
         for (const circle of ViewSearch.visibleItems(view, item => item.objectName === "selectionCircle"))
             mouseClick(circle)
         tryVerify(() => ViewSearch.named(view, "compareButton"))
@@ -93,6 +115,10 @@ ScreenTestCase {
         const texts = ViewSearch.texts(sheet.contentItem)
         verify(texts.indexOf("Scan 1") < texts.indexOf("Scan 2"))
         compare(texts[texts.indexOf("Before") + 1], "Scan 1")
+        keyClick(Qt.Key_Escape)
+        tryVerify(() => !sheet.visible)
+        sheet.open()
+        tryVerify(() => sheet.opened)
         keyClick(Qt.Key_Return)
         tryVerify(() => !sheet.visible)
     }

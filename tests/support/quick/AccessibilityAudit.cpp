@@ -15,46 +15,22 @@ namespace {
 
 // The roles of something a click acts on.
 bool isControl(QAccessible::Role role) {
-    switch (role) {
-    case QAccessible::Button:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::EditableText:
-    case QAccessible::SpinBox:
-    case QAccessible::Slider:
-    case QAccessible::PageTab:
-    case QAccessible::MenuItem:
-    case QAccessible::Link:
-    case QAccessible::ListItem:
-    case QAccessible::Row:
-    case QAccessible::Cell:
-    case QAccessible::ColumnHeader:
-        return true;
-    default:
-        return false;
-    }
+    using enum QAccessible::Role;
+    static const QSet<QAccessible::Role> controls{
+        Button,  CheckBox, RadioButton, ComboBox, EditableText, SpinBox, Slider,
+        PageTab, MenuItem, Link,        ListItem, Row,          Cell,    ColumnHeader};
+    return controls.contains(role);
 }
 
 // The roles a screen reader announces by their name: controls, and what holds or shows
 // information (cards, charts, lists, tables, dialogs, headings, texts). Plain items, panes,
 // separators and scroll bars are left out.
 bool needsName(QAccessible::Role role) {
-    switch (role) {
-    case QAccessible::ProgressBar:
-    case QAccessible::List:
-    case QAccessible::Table:
-    case QAccessible::Chart:
-    case QAccessible::Graphic:
-    case QAccessible::Grouping:
-    case QAccessible::Dialog:
-    case QAccessible::AlertMessage:
-    case QAccessible::Heading:
-    case QAccessible::StaticText:
-        return true;
-    default:
-        return isControl(role);
-    }
+    using enum QAccessible::Role;
+    static const QSet<QAccessible::Role> informing{ProgressBar, List,      Table,  Chart,
+                                                   Graphic,     Grouping,  Dialog, AlertMessage,
+                                                   Heading,     StaticText};
+    return informing.contains(role) || isControl(role);
 }
 
 // An icon font's glyphs lie in the private use area: a reader spells them as nonsense.
@@ -71,6 +47,15 @@ QString describe(QAccessibleInterface* element, const QString& context) {
     return QStringLiteral("%1 %2 \"%3\" in \"%4\"")
         .arg(QString::fromLatin1(role ? role : "?"), type, element->text(QAccessible::Name),
              context);
+}
+
+// An item as a fault names it: by its objectName, else by its type and text.
+QString itemName(const QQuickItem& item) {
+    const QString text = item.property("text").toString();
+    if (!item.objectName().isEmpty())
+        return item.objectName();
+    return QString::fromLatin1(item.metaObject()->className()) +
+           (text.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(text));
 }
 
 // The items a screen reader meets, and what is wrong with them.
@@ -91,16 +76,20 @@ void audit(QAccessibleInterface* element, const QString& context, Audit& found) 
         audit(element->child(i), inner, found);
 }
 
-// Whether a click on the item does something: a mouse area taking buttons, or a tap handler.
-bool isClickable(const QQuickItem& item) {
-    if (item.inherits("QQuickMouseArea"))
-        return item.isEnabled() && item.property("acceptedButtons").toInt() != Qt::NoButton;
+// Only handlers the application declared: Qt's own views add some for their selection.
+bool hasTapHandler(const QQuickItem& item) {
     const QObjectList& children = item.children();
-    // Only handlers the application declared: Qt's own views add some for their selection.
     return std::any_of(children.begin(), children.end(), [](QObject* child) {
         return child->inherits("QQuickTapHandler") && qmlContext(child) &&
                child->property("enabled").toBool();
     });
+}
+
+// Whether a click on the item does something: a mouse area taking buttons, or a tap handler.
+bool isClickable(const QQuickItem& item) {
+    if (item.inherits("QQuickMouseArea"))
+        return item.isEnabled() && item.property("acceptedButtons").toInt() != Qt::NoButton;
+    return hasTapHandler(item);
 }
 
 // Controls and fields, which a screen reader must list as elements of their own: in Qt 6.4 a
@@ -119,10 +108,7 @@ void auditReach(QQuickItem* item, Audit& found) {
         return;
     if (isControlItem(*item)) {
         if (!found.elements.contains(item))
-            found.faults.append(
-                QStringLiteral("%1 \"%2\" in %3 is no element")
-                    .arg(QString::fromLatin1(item->metaObject()->className()), item->objectName(),
-                         QString::fromLatin1(item->parentItem()->metaObject()->className())));
+            found.faults.append(itemName(*item) + QStringLiteral(" is no element"));
         // What lies inside a control (the face of a combo box) is the control's own.
         return;
     }
@@ -136,17 +122,66 @@ void auditReach(QQuickItem* item, Audit& found) {
         }
         if (!speaker || !isControl(element->role()))
             found.faults.append(
-                QStringLiteral("clickable %1 in %2 \"%3\" speaks as %4")
-                    .arg(QString::fromLatin1(item->metaObject()->className()),
-                         QString::fromLatin1(item->parentItem()->metaObject()->className()),
-                         item->parentItem()->objectName(),
-                         speaker ? describe(element, QString()) : QStringLiteral("nothing")));
+                QStringLiteral("clickable %1 in %2 speaks as %3")
+                    .arg(itemName(*item), itemName(*item->parentItem()),
+                         speaker ? describe(element, {}) : QStringLiteral("nothing")));
     }
     for (QQuickItem* child : item->childItems())
         auditReach(child, found);
 }
 
+// The window's Tab chain, walked from its content and from root: an open pop-up fences its own
+// chain off, so the walk into a sheet starts inside it.
+QSet<const QQuickItem*> tabChainAround(QQuickItem* root) {
+    QSet<const QQuickItem*> chain;
+    for (QQuickItem* start : {root->window()->contentItem(), root}) {
+        QQuickItem* item = start->nextItemInFocusChain(true);
+        while (item && !chain.contains(item)) {
+            chain.insert(item);
+            item = item->nextItemInFocusChain(true);
+        }
+    }
+    return chain;
+}
+
+// Controls (panes, pop-ups), flickables and texts take the mouse to keep it from what lies below,
+// to scroll or for links (the application shows none); only buttons, combo boxes and fields
+// among them are something to use. A split view's handle resizes its panes, as the window does.
+bool takesClicks(const QQuickItem& item) {
+    if ((isControlItem(item) && !item.property("readOnly").toBool()) || hasTapHandler(item))
+        return true;
+    const bool scaffolding = item.inherits("QQuickControl") || item.inherits("QQuickFlickable") ||
+                             item.inherits("QQuickOverlay") || item.inherits("QQuickText") ||
+                             (item.parentItem() && item.parentItem()->inherits("QQuickSplitView"));
+    return !scaffolding && item.acceptedMouseButtons() != Qt::NoButton;
+}
+
+bool reachable(const QQuickItem* item, const QSet<const QQuickItem*>& chain) {
+    for (; item; item = item->parentItem()) {
+        if (chain.contains(item))
+            return true;
+    }
+    return false;
+}
+
+void collectUnreachable(const QQuickItem& item, const QSet<const QQuickItem*>& chain,
+                        QStringList& found) {
+    if (!item.isVisible() || !item.isEnabled())
+        return;
+    if (takesClicks(item) && !reachable(&item, chain))
+        found.append(itemName(item));
+    for (const QQuickItem* child : item.childItems())
+        collectUnreachable(*child, chain, found);
+}
+
 } // namespace
+
+QStringList AccessibilityAudit::unreachableControls(QQuickItem* root) {
+    QStringList found;
+    if (root && root->window())
+        collectUnreachable(*root, tabChainAround(root), found);
+    return found;
+}
 
 void AccessibilityAudit::activate() {
     QAccessible::setActive(true);

@@ -1,6 +1,5 @@
 #include "AppFixture.h"
 
-#include "KeyboardReach.h"
 #include "SampleHistory.h"
 #include "ScanFolders.h"
 
@@ -42,12 +41,11 @@ FolderInfo folder(const QString& name, qint64 size, FolderInfoList children = {}
 
 } // namespace
 
-AppFixture::AppFixture(const QString& screenshotFolder, QObject* parent)
+AppFixture::AppFixture(QObject* parent)
     : QObject(parent)
-    , m_screenshotFolder(screenshotFolder)
     , m_store(std::make_unique<PersistenceService>(m_home.path())) {
     testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
-    testing::storeSampleHistory(*m_store, storedScanCount());
+    testing::storeSampleHistory(*m_store, 7);
     m_state = std::make_unique<AppState>(*m_store);
     AppState::setSharedInstance(m_state.get());
     FileActions::setServices(&m_desktop);
@@ -92,13 +90,14 @@ bool AppFixture::dragOver(QQuickItem* over, const QUrl& url) {
     return m_drag->enter();
 }
 
+// A drag ends with its drop or its leave: the item it was over may be gone by the next test.
 int AppFixture::drop() {
-    return m_drag ? m_drag->drop() : Qt::IgnoreAction;
+    return m_drag ? std::exchange(m_drag, nullptr)->drop() : Qt::IgnoreAction;
 }
 
 void AppFixture::leave() {
     if (m_drag)
-        m_drag->leave();
+        std::exchange(m_drag, nullptr)->leave();
 }
 
 void AppFixture::forgetFolderScans() {
@@ -232,15 +231,6 @@ void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
     testing::holdBuildInPhase(*service, phase == QLatin1String("building")
                                             ? FolderTreeProgress::Phase::building
                                             : FolderTreeProgress::Phase::enumerating);
-}
-
-QStringList AppFixture::unreachableControls(QQuickItem* root) const {
-    return testing::unreachableControls(root);
-}
-
-QString AppFixture::screenshotPath(const QString& name) const {
-    QDir().mkpath(m_screenshotFolder);
-    return m_screenshotFolder + u'/' + name + QStringLiteral(".png");
 }
 
 } // namespace tessarine

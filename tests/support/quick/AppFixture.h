@@ -28,18 +28,15 @@ class AppFixture : public QObject {
     Q_PROPERTY(QUrl folderUrl READ folderUrl CONSTANT)
     Q_PROPERTY(QString folderPath READ folderPath CONSTANT)
     Q_PROPERTY(QUrl largeFolderUrl READ largeFolderUrl CONSTANT)
-    Q_PROPERTY(int storedScanCount READ storedScanCount CONSTANT)
 
 public:
-    // Pictures the tests save go to `screenshotFolder`.
-    explicit AppFixture(const QString& screenshotFolder, QObject* parent = nullptr);
+    explicit AppFixture(QObject* parent = nullptr);
     ~AppFixture() override;
 
     QUrl folderUrl() const;
     QString folderPath() const;
     // A folder of some thousands of files, for a scan that is still running a moment later.
     QUrl largeFolderUrl() const;
-    static int storedScanCount() { return 7; }
 
     // Drags `url` from outside over the centre of `over`; true when a drop target takes it.
     Q_INVOKABLE bool dragOver(QQuickItem* over, const QUrl& url);
@@ -74,10 +71,6 @@ public:
     Q_INVOKABLE QString makeFolder(const QString& name);
     Q_INVOKABLE QString makeFile(const QString& name);
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
-    // The controls under root that the mouse can use and Tab cannot reach (KeyboardReach.h).
-    Q_INVOKABLE QStringList unreachableControls(QQuickItem* root) const;
-    // Where a test saves what it rendered, for a person to look at.
-    Q_INVOKABLE QString screenshotPath(const QString& name) const;
 
     // For the folder analysis: a folder of three sub-folders, one nested two deep, with files of
     // its own; a path that does not exist yet, and the way to make it.
@@ -94,7 +87,6 @@ public:
     Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service, const QString& phase);
 
 private:
-    QString m_screenshotFolder;
     QTemporaryDir m_home;
     QTemporaryDir m_files;
     std::unique_ptr<PersistenceService> m_store;

@@ -5,7 +5,6 @@
 #include "app/design/ReturnKeyClicks.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QLocale>
 #include <QQmlEngine>
 #include <QStandardPaths>
@@ -23,8 +22,7 @@ void QuickTestSetup::applicationAvailable() {
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
     engine->addImportPath(QStringLiteral(":/"));
-    m_fixture =
-        std::make_unique<AppFixture>(QDir::current().filePath(QStringLiteral("screenshots")));
+    m_fixture = std::make_unique<AppFixture>();
     qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
 }
 

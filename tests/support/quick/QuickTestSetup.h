@@ -11,8 +11,7 @@ namespace tessarine {
 class AppFixture;
 
 // The set-up of a Qt Quick Test of the application's views: an English locale, no real history,
-// and for every test file a fresh AppFixture as the Fixture singleton of Tessarine.Testing, whose
-// pictures go to screenshots/ in the test's working folder.
+// and for every test file a fresh AppFixture as the Fixture singleton of Tessarine.Testing.
 class QuickTestSetup : public QObject {
     Q_OBJECT
 

@@ -5,12 +5,12 @@ import Tessarine.Testing
 import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
-// The charts, the largest-files table and the export sheet of a full result, driven with the
+// The dashboard's header, cards, charts, largest-files table and export sheet, driven with the
 // pointer and the keyboard. The view is as tall as its content so that every card can be reached.
 ScreenTestCase {
     id: testCase
 
-    name: "DashboardCharts"
+    name: "Dashboard"
     height: 3200
 
     Component {
@@ -23,8 +23,14 @@ ScreenTestCase {
     }
 
     function init() {
+        AppState.currentView = AppState.Dashboard
+        AppState.showFolderPicker = false
         AppState.clearError()
         Fixture.takeDesktopRequests()
+    }
+
+    function summaryCards(view) {
+        return ViewSearch.withProperty(view, "isAnimated").filter(item => item.hasOwnProperty("subtitle"))
     }
 
     function dashboard(categories, extensions) {
@@ -85,7 +91,6 @@ ScreenTestCase {
         const texts = ViewSearch.texts(ViewSearch.named(view, "treemapDetailsBar"))
         verify(texts.indexOf(label.name) >= 0)
         verify(texts.indexOf(label.share) >= 0)
-        saveScreenshot(view, "dashboard-treemap-hover")
         mouseMove(treemap, -5, -5)
     }
 
@@ -94,13 +99,11 @@ ScreenTestCase {
         const extensionRows = () => ViewSearch.withProperty(view, "fraction").length
         compare(extensionRows(), 10)
         verify(ViewSearch.shows(view, "+ 5 more extensions"))
+        // The button's labels: tst_Accessibility.qml.
         const button = ViewSearch.named(view, "showAllExtensionsButton")
-        compare(button.text, "Show All")
         clickCenter(button)
         compare(extensionRows(), 15)
         verify(!ViewSearch.named(view, "moreExtensionsFooter"))
-        compare(button.text, "Show Less")
-        saveScreenshot(view, "dashboard-extensions-all")
         clickCenter(button)
         compare(extensionRows(), 10)
     }
@@ -115,7 +118,6 @@ ScreenTestCase {
         mouseMove(area, area.width * 5.5 / 20, area.height / 2)
         tryVerify(() => ViewSearch.shows(view, "Level 5"))
         verify(!ViewSearch.named(view, "depthSummary"))
-        saveScreenshot(view, "dashboard-depth-hover")
         mouseMove(area, -10, -10)
         tryVerify(() => ViewSearch.named(view, "depthSummary") !== null)
 
@@ -135,8 +137,6 @@ ScreenTestCase {
         const view = dashboard()
         const section = ViewSearch.withProperty(view, "isExpanded")[0]
         const rows = section.rows
-        compare(rows.sortColumn, 1)
-        compare(rows.rowCount(), 100)
 
         const headerCells = ViewSearch.withProperty(view, "sortable")
         clickCenter(headerCells.find(cell => cell.text === "Name"))
@@ -168,9 +168,10 @@ ScreenTestCase {
         clickCenter(cells()[1], Qt.ControlModifier)
         compare(rows.selectedCount, 2)
         verify(ViewSearch.named(view, "revealSelectedButton"))
-        saveScreenshot(view, "dashboard-table-search-selection")
 
-        // Collapsing keeps the search and the selection.
+        // Collapsing keeps the search and the selection; the disclosure is where the last frame
+        // drew it.
+        waitForRendering(view)
         clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
         verify(!ViewSearch.named(view, "largestFilesSearch"))
         clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
@@ -213,7 +214,6 @@ ScreenTestCase {
         tryVerify(() => sheet.opened)
         compare(sheet.exportFormat, 0)
         sheet.exportFormat = 1
-        saveScreenshot(view, "dashboard-export-sheet")
         keyClick(Qt.Key_Escape)
         tryVerify(() => !sheet.visible)
         sheet.open()
@@ -243,7 +243,6 @@ ScreenTestCase {
         // Nothing to divide: no treemap cell, and every share reads 0.0%.
         compare(cellLabels(view).length, 0)
         compare(ViewSearch.named(view, "largestFilesTableView").rows, 2)
-        saveScreenshot(view, "dashboard-empty-files")
     }
 
     function test_narrowWindowStacksTheCards() {
@@ -254,5 +253,67 @@ ScreenTestCase {
         verify(grids.length >= 2)
         for (const grid of grids)
             compare(grid.columns, 1)
+    }
+
+    function test_headerAndSummaryCards() {
+        Fixture.showResult("/Users/ann/Movies")
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        const cards = summaryCards(view)
+        compare(cards.length, 4)
+        // Every card ends fully shown, whatever order the random delays gave them.
+        for (const card of cards)
+            tryCompare(card, "opacity", 1)
+        compare(cards.map(card => card.value), ["2.5 GB", "1,234", "87", "12"])
+
+        const texts = ViewSearch.texts(view)
+        for (const expected of ["Movies", "/Users/ann/Movies", "Scanned in 12.3 seconds",
+                                "levels deep", "Rescan", "New Scan"])
+            verify(texts.indexOf(expected) >= 0, expected)
+    }
+
+    function test_insightsShowOnlyWhatIsThere() {
+        Fixture.showResult("/Users/ann/Library")
+        let view = createTemporaryObject(dashboardComponent, testCase)
+        verify(ViewSearch.shows(view, "Insights"))
+        verify(ViewSearch.shows(view, "Large cache files"))
+        verify(ViewSearch.shows(view, "Empty folders"))
+        // Only the insight that weighs something says how much.
+        compare(ViewSearch.texts(view).filter(text => text.endsWith(" affected")), ["150 MB affected"])
+        view.destroy()
+
+        Fixture.showResult("/Users/ann/Library", false)
+        view = createTemporaryObject(dashboardComponent, testCase)
+        verify(!ViewSearch.shows(view, "Insights"))
+    }
+
+    function test_rescanScansTheSameFolder() {
+        // A name that a URL parser would cut at "#" or decode at "%41".
+        const folder = Fixture.makeFolder("Odd #1 %41 name")
+        Fixture.showResult(folder)
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        mouseClick(ViewSearch.named(view, "rescanButton"))
+        compare(AppState.currentView, AppState.Scanning)
+        tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
+        compare(AppState.currentResult.rootPath, folder)
+        verify(!AppState.hasError)
+    }
+
+    // Tab to a control below the fold scrolls it into sight.
+    function test_scrollsToTheFocusedControl() {
+        Fixture.showFullResult()
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        view.height = 800
+        const search = findChild(view, "largestFilesSearch")
+        verify(search.mapToItem(view, 0, 0).y > view.height)
+        search.forceActiveFocus(Qt.TabFocusReason)
+        const top = search.mapToItem(view, 0, 0).y
+        verify(top > 0 && top + search.height < view.height, "search field at " + top)
+    }
+
+    function test_newScanOpensThePicker() {
+        Fixture.showResult("/Users/ann/Movies")
+        const view = createTemporaryObject(dashboardComponent, testCase)
+        mouseClick(ViewSearch.named(view, "newScanButton"))
+        verify(AppState.showFolderPicker)
     }
 }

@@ -5,15 +5,25 @@ import Tessarine.Testing
 import Tessarine.Screens
 import "ViewSearch.js" as ViewSearch
 
+// What the user meets before a result: the landing screen, then the scan in progress.
 ScreenTestCase {
     id: testCase
 
-    name: "LandingView"
+    name: "LandingAndScanning"
 
     Component {
         id: landingComponent
 
         LandingView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    Component {
+        id: scanningComponent
+
+        ScanningView {
             width: testCase.width
             height: testCase.height
         }
@@ -34,21 +44,23 @@ ScreenTestCase {
         AppState.currentView = AppState.Landing
         AppState.showFolderPicker = false
         Fixture.fillHistory(0)
+        Fixture.clearProgress()
+    }
+
+    function logRows(view) {
+        return ViewSearch.withProperty(view, "timestamp")
     }
 
     function recentCards(view) {
         return ViewSearch.withProperty(view, "result")
     }
 
-    function test_emptyHistoryShowsNoRecentScans() {
+    // None without a history; the five newest once there is one.
+    function test_recentScansShowTheFiveNewest() {
         const view = createTemporaryObject(landingComponent, testCase)
         verify(!ViewSearch.shows(view, "Recent Scans"))
         compare(recentCards(view).length, 0)
-    }
-
-    function test_recentScansShowTheFiveNewest() {
         Fixture.fillHistory(7)
-        const view = createTemporaryObject(landingComponent, testCase)
         waitForRendering(view)
         verify(ViewSearch.shows(view, "Recent Scans"))
         // The strip scrolls sideways, so only the cards in view exist at first.
@@ -58,10 +70,8 @@ ScreenTestCase {
         strip.positionViewAtEnd()
         compare(strip.itemAtIndex(4).result.rootName, "Scan 3")
         strip.positionViewAtBeginning()
-
-        saveScreenshot(view, "landing")
-
-        mouseClick(recentCards(view)[1])
+        waitForRendering(strip)
+        mouseClick(recentCards(view).find(card => card.result.rootName === "Scan 6"))
         compare(AppState.currentView, AppState.Dashboard)
         compare(AppState.currentResult.rootName, "Scan 6")
     }
@@ -94,8 +104,7 @@ ScreenTestCase {
 
         verify(view.dropArea.take([Fixture.urlOf(Fixture.makeFolder("Photos 2024"))]))
         tryCompare(AppState, "currentView", AppState.Scanning)
-        // The same rule as the window's: nothing is taken while a scan runs.
-        verify(!view.dropArea.take([Fixture.urlOf(Fixture.makeFolder("Later"))]))
+        // A drop while the scan runs is refused: tst_ContentView.qml, on the same FolderDropArea.
         AppState.cancelScan()
     }
 
@@ -108,11 +117,61 @@ ScreenTestCase {
         drag.Drag.active = true
         tryVerify(() => view.isTargeted)
         verify(zone.targeted)
-        saveScreenshot(view, "landing-targeted")
 
         drag.Drag.active = false
         tryVerify(() => !view.isTargeted)
         verify(!zone.targeted)
         compare(AppState.currentView, AppState.Landing)
+    }
+
+    function test_placeholdersBeforeTheFirstSnapshot() {
+        const view = createTemporaryObject(scanningComponent, testCase)
+        waitForRendering(view)
+        const texts = ViewSearch.texts(view)
+        for (const expected of ["Initializing...", "Preparing to scan directory", "0 bytes", "0s",
+                                "—", "Preparing to scan...", "0 entries"])
+            verify(texts.indexOf(expected) >= 0, expected)
+        compare(texts.filter(text => text === "0").length, 2) // the Files and Folders counters
+        verify(texts.indexOf("items") < 0)
+        verify(texts.indexOf("Progress") < 0)
+        compare(logRows(view).length, 0)
+    }
+
+    function test_liveSnapshot() {
+        const view = createTemporaryObject(scanningComponent, testCase)
+        Fixture.showProgress("/Users/ann/Projects/tessarine/src/screens/scanning/main.cpp")
+        waitForRendering(view)
+        const texts = ViewSearch.texts(view)
+        for (const expected of ["Analyzing files...", "Reading file metadata", "1,500", "items",
+                                "1,200", "300", "5 MB", "main.cpp", "Init", "Done",
+                                // performance: nothing measured yet, averages from the counters
+                                "4 KB", "4.0", "files/sec",
+                                // statistics
+                                "Total Items", "30s remaining", "Progress", "50%",
+                                // the deepest six pieces of the path
+                                "Projects", "scanning", "1 entries"])
+            verify(texts.indexOf(expected) >= 0, expected)
+        verify(texts.indexOf("ann") < 0 && texts.indexOf("Users") < 0)
+        verify(texts.indexOf("Preparing to scan...") < 0)
+    }
+
+    function test_activityLogShowsTheFifteenNewest() {
+        const view = createTemporaryObject(scanningComponent, testCase)
+        for (let i = 1; i <= 20; ++i)
+            Fixture.showProgress("/data/file" + i + ".bin")
+        waitForRendering(view)
+        verify(ViewSearch.shows(view, "20 entries"))
+        const rows = logRows(view)
+        compare(rows.length, 15)
+        compare(rows[0].name, "file20.bin")
+        compare(rows[14].name, "file6.bin")
+    }
+
+    function test_cancelStopsTheScan() {
+        AppState.currentView = AppState.Scanning
+        const view = createTemporaryObject(scanningComponent, testCase)
+        mouseClick(ViewSearch.named(view, "cancelButton"))
+        compare(AppState.currentView, AppState.Landing)
+        verify(!AppState.isScanning)
     }
 }
