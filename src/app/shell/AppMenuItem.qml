@@ -13,7 +13,8 @@ MenuItem {
     font: Theme.body
     implicitWidth: 240
     Accessible.role: Accessible.MenuItem
-    Accessible.name: text
+    // The mnemonic's marker is not read out.
+    Accessible.name: text.replace("&", "")
     Accessible.description: shortcutText
 
     contentItem: Item {
