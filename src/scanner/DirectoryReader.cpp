@@ -40,8 +40,9 @@ qint64 modifiedMsecs(const struct stat& status) {
 
 } // namespace
 
-DirectoryReader::DirectoryReader(ListingArena& arena, ListingDetail detail)
+DirectoryReader::DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail)
     : m_arena(arena)
+    , m_claims(claims)
     , m_detail(detail)
     , m_buffer(
           std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes / sizeof(std::uint64_t))) {}
@@ -50,7 +51,8 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                                                         const std::atomic<bool>& cancelled) {
     m_entries.clear();
     m_subfolders.clear();
-    m_folderLinks.clear();
+    m_linkedNames.clear();
+    m_position = 0;
     m_folderCount = 0;
     qint64 summedCount = 0;
     qint64 summedSize = 0;
@@ -67,20 +69,23 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             if (isHiddenName(nameView))
                 continue; // also drops "." and ".."
             const ListedEntry entry = describe(fd, folder, nameView, record->type);
+            ++m_position;
             const std::optional<qint64> size = entry.ownSize();
-            if (m_detail.summedFiles && size && !entry.isHardLinked()) {
+            if (m_detail.summedFiles && size) {
                 ++summedCount;
-                addSaturating(summedSize, *size);
+                // A name of a file with several names gets its size only if it is the first.
+                if (!entry.isHardLinked())
+                    addSaturating(summedSize, *size);
                 continue;
             }
             m_entries.push_back(entry);
             m_folderCount += entry.isFolder();
         }
     }
-    const std::span<ListedEntry> kept = m_arena.copyArray(std::span<const ListedEntry>(m_entries));
-    folder.setEntries(kept, summedCount, summedSize);
-    for (const auto& [index, identity] : m_folderLinks)
-        m_hardLinks.push_back({&kept[index], identity});
+    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
+                      summedSize);
+    for (const LinkedName& name : m_linkedNames)
+        m_claims.claim(name.file, {&folder, name.position}, name.size);
     return m_subfolders;
 }
 
@@ -111,8 +116,7 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
                                  qint64(status.st_size), modifiedMsecs(status));
     if (status.st_nlink > 1) {
         entry.markHardLinked();
-        // The caller keeps it next, at this index: a file with several names is never summed.
-        m_folderLinks.push_back({m_entries.size(), {status.st_dev, status.st_ino}});
+        m_linkedNames.push_back({{status.st_dev, status.st_ino}, m_position, *entry.ownSize()});
     }
     return entry;
 }
@@ -120,7 +124,7 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
 ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name) {
     if (isPackageName(name))
         return ListedEntry::unsized(name, EntryKind::package);
-    auto* contents = m_arena.make<ListedDirectory>(&folder, name);
+    auto* contents = m_arena.make<ListedDirectory>(&folder, name, m_position);
     m_subfolders.push_back(contents);
     return ListedEntry::folder(name, contents);
 }

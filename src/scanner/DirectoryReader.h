@@ -17,7 +17,8 @@ namespace tessarine {
 // owns a large getdents buffer and scratch space reused for every folder.
 class DirectoryReader {
 public:
-    explicit DirectoryReader(ListingArena& arena, ListingDetail detail = {});
+    // Hands every name of a file with several names to `claims`, which settles its size.
+    DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail = {});
 
     // Fills `folder` with the visible entries of the folder open as `fd` (the descriptor stays
     // open). Returns the new sub-folders to descend into, in listing order; packages are not
@@ -27,21 +28,26 @@ public:
 
     // Of the entries of the last folder read: folders (directories and packages).
     qint64 lastFolderCount() const { return m_folderCount; }
-    // The entries with several names among all folders this reader has read. A file with several
-    // names is always listed, never summed, so its size can be counted once in listing order.
-    std::vector<HardLinkedEntry>& hardLinks() { return m_hardLinks; }
 
 private:
+    // A name of a file with several names in the folder being read, claimed once it is listed.
+    struct LinkedName {
+        FileIdentity file;
+        quint32 position;
+        qint64 size;
+    };
+
     ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
     ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
 
     ListingArena& m_arena;
+    HardLinkClaims& m_claims;
     const ListingDetail m_detail;
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;
-    std::vector<std::pair<std::size_t, FileIdentity>> m_folderLinks; // by index in m_entries
-    std::vector<HardLinkedEntry> m_hardLinks;
+    std::vector<LinkedName> m_linkedNames;
+    quint32 m_position = 0; // of the entry being described, among the folder's visible ones
     qint64 m_folderCount = 0;
 };
 

@@ -74,7 +74,6 @@ struct WalkOutcome {
     qint64 items;
     qint64 folders;
     bool cancelled;
-    std::vector<HardLinkedEntry> hardLinks;
 };
 
 struct PendingFolder {
@@ -110,12 +109,12 @@ private:
     ListedDirectory* m_root;
     const int m_rootFd;
     const int m_heldLimit;
+    HardLinkClaims m_hardLinks;
 
     std::mutex m_mutex;
     std::condition_variable m_workAvailable;
     std::condition_variable m_finished;
-    std::vector<PendingFolder> m_stack;       // LIFO keeps the walk depth-first
-    std::vector<HardLinkedEntry> m_hardLinks; // of every reader, once it is done
+    std::vector<PendingFolder> m_stack; // LIFO keeps the walk depth-first
     int m_busyWorkers = 0;
     int m_idleWorkers = 0; // waiting for a folder
     bool m_done = false;
@@ -135,7 +134,8 @@ WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArr
     , m_root(m_arenas.front().make<ListedDirectory>(nullptr, QByteArrayView()))
     , m_rootFd(rootFd)
     , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
-                                                 : std::max(16, raiseOpenFileLimit() / 2)) {
+                                                 : std::max(16, raiseOpenFileLimit() / 2))
+    , m_hardLinks(options.detail.summedFiles) {
     m_stack.push_back({m_root, nullptr});
 }
 
@@ -173,11 +173,12 @@ WalkOutcome WalkSession::run() {
     // A cancelled walk leaves folders that nobody will open; let go of their parents.
     for (const PendingFolder& pending : m_stack)
         release(pending.parent);
-    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled(), std::move(m_hardLinks)};
+    m_hardLinks.settle();
+    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
 }
 
 void WalkSession::work(ListingArena& arena) {
-    DirectoryReader reader(arena, m_options.detail);
+    DirectoryReader reader(arena, m_hardLinks, m_options.detail);
     while (const std::optional<PendingFolder> pending = take()) {
         listFolder(reader, *pending);
         std::lock_guard lock(m_mutex);
@@ -187,8 +188,6 @@ void WalkSession::work(ListingArena& arena) {
             m_finished.notify_all();
         }
     }
-    std::lock_guard lock(m_mutex);
-    m_hardLinks.insert(m_hardLinks.end(), reader.hardLinks().begin(), reader.hardLinks().end());
 }
 
 std::optional<PendingFolder> WalkSession::take() {
@@ -307,7 +306,6 @@ DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
     listing.m_itemCount = outcome.items;
     listing.m_folderCount = outcome.folders;
     listing.m_cancelled = outcome.cancelled;
-    countHardLinkedFilesOnce(listing, outcome.hardLinks);
     return listing;
 }
 

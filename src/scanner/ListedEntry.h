@@ -53,7 +53,7 @@ public:
         return isSized() ? m_payload.sized.modifiedMsecs : unknownModificationTime;
     }
     // Whether the file has other names (st_nlink > 1), here or elsewhere. Its size counts once per
-    // listing, at its first name in listing order: see countHardLinkedFilesOnce.
+    // listing, at its first name in listing order: see HardLinkClaims.
     bool isHardLinked() const { return m_hardLinked; }
     void markHardLinked() { m_hardLinked = true; }
     // A later name of a file already counted: it stays listed, with no size of its own.
