@@ -84,8 +84,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
     }
     folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
                       summedSize);
-    for (const LinkedName& name : m_linkedNames)
-        m_claims.claim(name.file, {&folder, name.position}, name.size);
+    m_claims.claim(folder, m_linkedNames);
     return m_subfolders;
 }
 

@@ -30,13 +30,6 @@ public:
     qint64 lastFolderCount() const { return m_folderCount; }
 
 private:
-    // A name of a file with several names in the folder being read, claimed once it is listed.
-    struct LinkedName {
-        FileIdentity file;
-        quint32 position;
-        qint64 size;
-    };
-
     ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
     ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
 
@@ -46,7 +39,7 @@ private:
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;
-    std::vector<LinkedName> m_linkedNames;
+    std::vector<LinkedName> m_linkedNames; // of the folder being read, claimed once it is listed
     quint32 m_position = 0; // of the entry being described, among the folder's visible ones
     qint64 m_folderCount = 0;
 };

@@ -5,6 +5,7 @@
 #include <QtGlobal>
 
 #include <memory>
+#include <span>
 #include <sys/types.h>
 
 namespace tessarine {
@@ -13,6 +14,13 @@ namespace tessarine {
 struct FileIdentity {
     dev_t device;
     ino_t inode;
+};
+
+// A name of a file with several names (st_nlink > 1) in one folder's listing.
+struct LinkedName {
+    FileIdentity file;
+    quint32 position; // among the folder's visible entries, as in ListingPlace
+    qint64 size;
 };
 
 // A file with several names inside one listing takes its space once, as du, ncdu and gdu count
@@ -32,11 +40,11 @@ public:
     HardLinkClaims(const HardLinkClaims&) = delete;
     HardLinkClaims& operator=(const HardLinkClaims&) = delete;
 
-    // One name of a file with several names (st_nlink > 1), at `place`, `size` bytes: called
-    // from any walker thread once the place's folder holds its entries. In a listing that keeps
-    // its files, the entry of whichever name turns out later loses its size here and now; in a
-    // summed one, the name was counted without its size, which settle() hands to the first.
-    void claim(const FileIdentity& file, const ListingPlace& place, qint64 size);
+    // The names of files with several names in `folder`: called from any walker thread once the
+    // folder holds its entries. In a listing that keeps its files, the entry of whichever name
+    // turns out later loses its size here and now; in a summed one, each name was counted without
+    // its size, which settle() hands to the first.
+    void claim(ListedDirectory& folder, std::span<const LinkedName> names);
 
     // Once every name has been claimed: in a summed listing, adds each file's size to the folder
     // of its first name.
@@ -44,6 +52,9 @@ public:
 
 private:
     struct Shard;
+
+    Shard& shardOf(quint64 hash) const;
+    void claim(const LinkedName& name, const ListingPlace& place, quint64 hash);
 
     const bool m_summed;
     std::unique_ptr<Shard[]> m_shards;
