@@ -35,6 +35,15 @@ quint64 hashOf(quint64 inode, quint32 device) {
     return hash ^ (hash >> 31);
 }
 
+quint64 hashOf(const FileIdentity& file) {
+    return hashOf(quint64(file.inode), quint32(file.device));
+}
+
+// The hash's low half scaled to a count of slots, which need not be a power of two.
+std::size_t scaled(quint64 hash, std::size_t count) {
+    return std::size_t(((hash & 0xFFFFFFFFu) * count) >> 32);
+}
+
 } // namespace
 
 // An open-addressing table behind its own lock: records in place, no allocation per file. It is
@@ -53,15 +62,16 @@ struct alignas(64) HardLinkClaims::Shard {
 
     // Asks for the cache line of the file's first slot ahead of slotOf().
     void prefetch(quint64 hash) const {
-        const std::size_t count = prefetchCount.load(std::memory_order_relaxed);
-        const quintptr slot = quintptr(((hash & 0xFFFFFFFFu) * count) >> 32);
+        const quintptr slot = scaled(hash, prefetchCount.load(std::memory_order_relaxed));
         __builtin_prefetch(
             reinterpret_cast<const void*>(prefetchBase.load(std::memory_order_relaxed) +
                                           slot * sizeof(FirstName) + offsetof(FirstName, folder)));
     }
 
     // The slot of the file's record; a free one (folder null) the first time.
-    std::size_t slotOf(quint64 hash, quint64 inode, quint32 device, bool summed) {
+    std::size_t slotOf(quint64 hash, const FileIdentity& file, bool summed) {
+        const auto inode = quint64(file.inode);
+        const auto device = quint32(file.device);
         if ((used + 1) * 5 > records.size() * 4)
             grow(summed);
         for (std::size_t slot = firstSlot(hash);; slot = next(slot)) {
@@ -78,10 +88,7 @@ struct alignas(64) HardLinkClaims::Shard {
     }
 
 private:
-    // The hash's low half scaled to the capacity, which is no power of two.
-    std::size_t firstSlot(quint64 hash) const {
-        return std::size_t(((hash & 0xFFFFFFFFu) * records.size()) >> 32);
-    }
+    std::size_t firstSlot(quint64 hash) const { return scaled(hash, records.size()); }
     std::size_t next(std::size_t slot) const { return slot + 1 == records.size() ? 0 : slot + 1; }
 
     void grow(bool summed) {
@@ -119,21 +126,20 @@ void HardLinkClaims::claim(ListedDirectory& folder, std::span<const LinkedName> 
     // The records lie scattered over megabytes, so each claim starts with a cache miss, which cost
     // more than all the rest of it. Asked for together, a folder's misses are served side by side.
     for (const LinkedName& name : names) {
-        const quint64 hash = hashOf(quint64(name.file.inode), quint32(name.file.device));
+        const quint64 hash = hashOf(name.file);
         shardOf(hash).prefetch(hash);
     }
     for (const LinkedName& name : names)
-        claim(name, {&folder, name.position},
-              hashOf(quint64(name.file.inode), quint32(name.file.device)));
+        claim(name, {&folder, name.position});
 }
 
-void HardLinkClaims::claim(const LinkedName& name, const ListingPlace& place, quint64 hash) {
+void HardLinkClaims::claim(const LinkedName& name, const ListingPlace& place) {
+    const quint64 hash = hashOf(name.file);
     Shard& shard = shardOf(hash);
     std::optional<ListingPlace> later;
     {
         std::lock_guard lock(shard.mutex);
-        const std::size_t slot =
-            shard.slotOf(hash, quint64(name.file.inode), quint32(name.file.device), m_summed);
+        const std::size_t slot = shard.slotOf(hash, name.file, m_summed);
         FirstName& first = shard.records[slot];
         if (first.folder && !comesBefore(place, {first.folder, first.position})) {
             later = place;

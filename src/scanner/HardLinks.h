@@ -54,7 +54,7 @@ private:
     struct Shard;
 
     Shard& shardOf(quint64 hash) const;
-    void claim(const LinkedName& name, const ListingPlace& place, quint64 hash);
+    void claim(const LinkedName& name, const ListingPlace& place);
 
     const bool m_summed;
     std::unique_ptr<Shard[]> m_shards;
