@@ -4,7 +4,7 @@ import Tessarine
 import Tessarine.App
 import Tessarine.Screens
 import Tessarine.Testing
-import "../../screens/qml/ViewSearch.js" as ViewSearch
+import "../screens/qml/ViewSearch.js" as ViewSearch
 
 // Every screen read through the accessibility tree that Qt gives screen readers: no control,
 // card, chart, cell, row or field may be announced without a name, nor an icon glyph as text.

@@ -3,7 +3,7 @@ import QtTest
 import Tessarine
 import Tessarine.App
 import Tessarine.Testing
-import "../../screens/qml/ViewSearch.js" as ViewSearch
+import "../screens/qml/ViewSearch.js" as ViewSearch
 
 // The content view as a user drives it: its sidebar, the menu commands and their shortcuts,
 // folders dropped from a file manager, and the alert that shows an error.
