@@ -27,6 +27,20 @@ QStringList treeState(const QString& root) {
     return state;
 }
 
+// The scan's folder table keyed like referenceFolderSizes.
+std::map<QByteArray, std::pair<qint64, qint64>> folderSizesByPath(const FolderSizes& sizes) {
+    std::map<QByteArray, std::pair<qint64, qint64>> folders;
+    std::vector<QByteArray> paths;
+    for (const FolderSizeRow& row : sizes.rows) {
+        paths.push_back(row.parent < 0 ? QByteArray()
+                        : paths[std::size_t(row.parent)].isEmpty()
+                            ? row.name
+                            : paths[std::size_t(row.parent)] + '/' + row.name);
+        folders[paths.back()] = {row.size, row.fileCount};
+    }
+    return folders;
+}
+
 } // namespace
 
 class FileSystemScannerTest : public QObject {
@@ -91,6 +105,7 @@ private slots:
 
         QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(referenceResult(dir.path())));
         QCOMPARE(treeState(dir.path()), before);
+        QCOMPARE(folderSizesByPath(*scan.folderSizes), referenceFolderSizes(dir.path(), scan.folderSizes->cutoff));
     }
 
     void keepsOddNamesReadable() {
