@@ -108,6 +108,22 @@ private slots:
         QCOMPARE(folderSizesByPath(*scan.folderSizes), referenceFolderSizes(dir.path(), scan.folderSizes->cutoff));
     }
 
+    // Past a thousand folders only those holding a ten-thousandth of the scan are kept: here the
+    // folders down to the one large file, not the thousand-odd one-byte folders beside them.
+    void leavesOutTheSmallestOfManyFolders() {
+        QTemporaryDir dir;
+        writeFolders(dir.path() + "/many", 1200, 1);
+        writeFile(dir.path() + "/deep/er/big.bin", 0);
+        QVERIFY(QFile::resize(dir.path() + "/deep/er/big.bin", 100'000'000)); // sparse: no disk
+
+        const FolderSizes sizes = *recordScan(dir.path()).folderSizes;
+
+        QCOMPARE(sizes.cutoff, 100'001'200 / 10'000);
+        QCOMPARE(folderSizesByPath(sizes),
+                 referenceFolderSizes(dir.path(), sizes.cutoff));
+        QCOMPARE(sizes.rows.size(), 3u);
+    }
+
     void keepsOddNamesReadable() {
         QTemporaryDir dir;
         const QList<QByteArray> names{"with space.txt", "quote\"and'apostrophe.Md",
