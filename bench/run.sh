@@ -5,6 +5,8 @@
 #   scan peak memory <= 0.5 x gdu      tree wall time <= 1.0 x scan
 #   the folder tree built through the dashboard's section <= 1.1 x tessarine-cli tree
 #   the desktop app's scan <= 1.2 x tessarine-cli scan
+#   a saved scan, which also keeps every folder's size: <= 1.05 x the scan, memory <= 1.1 x
+#   history compare of two saved scans of the tree <= 0.3 s
 # Cold (the page cache dropped before every run; needs root and a writable
 # /proc/sys/vm/drop_caches, else the round is skipped):
 #   scan wall time <= 0.5 x gdu and <= 1.15 x the fastest minimal walker
@@ -61,6 +63,8 @@ echo "  entries $items"
 command_of() {
     case $1 in
     tessarine) argv=("$cli" scan "$tree") ;;
+    saved) argv=(env XDG_DATA_HOME="$work/data" "$cli" scan --save "$tree") ;;
+    compare) argv=(env XDG_DATA_HOME="$work/data" "$cli" history compare "${saved_ids[@]}") ;;
     gdu) argv=(gdu -n -p -c "$tree") ;;
     ncdu) argv=(ncdu -o /dev/null "$tree") ;;
     tree) argv=("$cli" tree "$tree") ;;
@@ -121,9 +125,11 @@ table() {
 }
 
 walkers=(walker-2 walker-8 walker-16)
-names=(tessarine gdu ncdu tree "${walkers[@]}")
+names=(tessarine saved gdu ncdu tree "${walkers[@]}")
 declare -A label=(
     [tessarine]="tessarine-cli scan"
+    [saved]="scan --save"
+    [compare]="history compare"
     [gdu]="gdu -n -p -c"
     [ncdu]="ncdu -o /dev/null"
     [tree]="tessarine-cli tree"
@@ -187,6 +193,20 @@ echo "$(verdict "$wall_vs_gdu" 0.4)  scan wall time <= 0.4 x gdu ($wall_vs_gdu)"
 echo "$(verdict "$wall_vs_walker" 1.1)  scan wall time <= 1.1 x the minimal walker ($wall_vs_walker)"
 echo "$(verdict "$rss_vs_gdu" 0.5)  scan peak memory <= 0.5 x gdu ($rss_vs_gdu)"
 echo "$(verdict "$tree_vs_scan" 1.0)  tree wall time <= 1.0 x scan ($tree_vs_scan)"
+
+# --- Folder sizes of saved scans ------------------------------------------------------------------
+saved_wall=$(ratio "$wall_saved" "$wall_tessarine")
+saved_rss=$(ratio "$rss_saved" "$rss_tessarine")
+echo "$(verdict "$saved_wall" 1.05)  saved scan, with every folder's size, wall time <= 1.05 x scan ($saved_wall)"
+echo "$(verdict "$saved_rss" 1.1)  saved scan peak memory <= 1.1 x scan ($saved_rss)"
+mapfile -t saved_ids < <(ls "$work/data/Tessarine" | sed -n 's/^scan_\(.*\)\.json$/\1/p' | head -2)
+for ((run = 1; run <= runs; run++)); do
+    measure compare
+done
+table "" "$runs" compare
+echo "$(verdict "$wall_compare" 0.3)  history compare of two saved scans <= 0.3 s ($wall_compare s)"
+echo "  folder sizes file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.folders") bytes," \
+    "history file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.json") bytes"
 
 if [[ -x $responsiveness ]]; then
     echo
