@@ -1,6 +1,7 @@
 #include "scanner/FolderSizeTally.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace tessarine {
 
@@ -22,11 +23,24 @@ void FolderSizeTally::closeInnermost() {
     addSaturating(parent.fileCount, closed.fileCount);
 }
 
+// One byte more than the largest folder after the first keptAtMost, largest first: a cut-off
+// that no more than keptAtMost folders reach, however many are of one size.
+qint64 FolderSizeTally::sizeAfterTheLargest() const {
+    if (m_rows.size() <= keptAtMost)
+        return 1;
+    std::vector<qint64> sizes(m_rows.size());
+    std::transform(m_rows.begin(), m_rows.end(), sizes.begin(),
+                   [](const Row& row) { return row.size; });
+    const auto nth = sizes.begin() + keptAtMost;
+    std::nth_element(sizes.begin(), nth, sizes.end(), std::greater<>());
+    return saturatingAdd(*nth, 1);
+}
+
 FolderSizes FolderSizeTally::finish() {
     closeDeeperThan(1);
     FolderSizes sizes;
     if (m_rows.size() > keptWhole)
-        sizes.cutoff = std::max<qint64>(1, m_rows.front().size / cutoffDivisor);
+        sizes.cutoff = std::max(m_rows.front().size / cutoffDivisor, sizeAfterTheLargest());
     // A folder is never smaller than one inside it, so every kept folder's parent is kept too.
     std::vector<qint32> keptAs(m_rows.size(), -1);
     for (std::size_t i = 0; i < m_rows.size(); ++i) {

@@ -16,13 +16,16 @@ namespace tessarine {
 // and a later name of a hard-linked file arrives with no size, so the folders add up to the scan.
 class FolderSizeTally {
 public:
-    // Fewer folders than this are all kept: the whole table is then a few tens of kilobytes, less
+    // Up to this many folders all are kept: the whole table is then a few tens of kilobytes, less
     // than the scan's own history file, and a folder missing from it surely did not exist.
     static constexpr std::size_t keptWhole = 1000;
-    // Past that, a folder is kept when it holds at least this share of the scan (one part in
-    // ten thousand). On /usr that keeps a few thousand folders, every one that a change worth
-    // reporting could be in; the many small ones would make the table larger than the scan.
+    // Past that, a folder is kept when it holds at least this share of the scan (one part in ten
+    // thousand), and only the largest keptAtMost of those. On /usr the share alone keeps under a
+    // thousand folders, every one a change worth reporting could be in; on a tree of many folders
+    // of like size (the benchmark tree) it kept ten thousand, a table three times the size of the
+    // history file, hence the count.
     static constexpr qint64 cutoffDivisor = 10000;
+    static constexpr std::size_t keptAtMost = 2000;
 
     FolderSizeTally();
 
@@ -52,6 +55,7 @@ private:
             closeInnermost();
     }
     void closeInnermost();
+    qint64 sizeAfterTheLargest() const;
 
     std::vector<Row> m_rows;    // every folder met, in listing order
     std::vector<qint32> m_open; // the folders the pass is inside, the scanned folder first

@@ -114,9 +114,12 @@ private slots:
         QCOMPARE(comparison.outcome, FolderComparison::Outcome::compared);
         // b grew only through b1, so only b1 is named; a through two folders, d by its own files;
         // c went and e came whole, without their contents.
-        const QList<Listed> expected{{"/r/b/b1", 100, 200, 100}, {"/r/c", 50, std::nullopt, -50},
-                                     {"/r/e", std::nullopt, 30, 30},  {"/r/a", 20, 40, 20},
-                                     {"/r/a/a1", 10, 20, 10},        {"/r/a/a2", 10, 20, 10},
+        const QList<Listed> expected{{"/r/b/b1", 100, 200, 100},
+                                     {"/r/c", 50, std::nullopt, -50},
+                                     {"/r/e", std::nullopt, 30, 30},
+                                     {"/r/a", 20, 40, 20},
+                                     {"/r/a/a1", 10, 20, 10},
+                                     {"/r/a/a2", 10, 20, 10},
                                      {"/r/d", 5, 12, 7}};
         QCOMPARE(listed(comparison), expected);
         QCOMPARE(unknownFolderSizeText(comparison.cutoff), "—");
@@ -131,7 +134,8 @@ private slots:
 
         const FolderComparison comparison = compareFolders("/", before, "/", after);
 
-        const QList<Listed> expected{{"/small", std::nullopt, 900, 900}, {"/kept", 3000, 3100, 100}};
+        const QList<Listed> expected{{"/small", std::nullopt, 900, 900},
+                                     {"/kept", 3000, 3100, 100}};
         QCOMPARE(listed(comparison), expected);
         QCOMPARE(unknownFolderSizeText(comparison.cutoff), "under 40 bytes");
     }

@@ -108,8 +108,9 @@ private slots:
         const QString id = idText(*removed).toLower();
         const CliRun run = runCli({"history", "delete", id});
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(QDir(historyDirectory()).entryList(QDir::Files),
-                 QStringList({"scan_" + idText(*kept) + ".folders", "scan_" + idText(*kept) + ".json"}));
+        QCOMPARE(
+            QDir(historyDirectory()).entryList(QDir::Files),
+            QStringList({"scan_" + idText(*kept) + ".folders", "scan_" + idText(*kept) + ".json"}));
 
         const CliRun again = runCli({"history", "delete", id});
         QCOMPARE(again.exitCode, 1);
@@ -131,15 +132,24 @@ private slots:
         const auto after = saveScanOf(root);
         QVERIFY(before && after);
 
-        const CliRun json = runCli({"history", "compare", idText(*before), idText(*after), "--json"});
+        const CliRun json =
+            runCli({"history", "compare", idText(*before), idText(*after), "--json"});
         QCOMPARE(json.exitCode, 0);
         const QJsonObject comparison = QJsonDocument::fromJson(json.output).object();
         QCOMPARE(comparison["change"].toObject()["totalSize"].toInteger(), 51'000'000);
         QCOMPARE(comparison["folderOutcome"].toString(), "compared");
-        const QJsonArray expected{
-            QJsonObject{{"path", root + "/media/videos"}, {"before", 1'000'000}, {"after", 51'000'000}, {"change", 50'000'000}},
-            QJsonObject{{"path", root + "/new"}, {"before", QJsonValue::Null}, {"after", 3'000'000}, {"change", 3'000'000}},
-            QJsonObject{{"path", root + "/old/gone"}, {"before", 2'000'000}, {"after", QJsonValue::Null}, {"change", -2'000'000}}};
+        const QJsonArray expected{QJsonObject{{"path", root + "/media/videos"},
+                                              {"before", 1'000'000},
+                                              {"after", 51'000'000},
+                                              {"change", 50'000'000}},
+                                  QJsonObject{{"path", root + "/new"},
+                                              {"before", QJsonValue::Null},
+                                              {"after", 3'000'000},
+                                              {"change", 3'000'000}},
+                                  QJsonObject{{"path", root + "/old/gone"},
+                                              {"before", 2'000'000},
+                                              {"after", QJsonValue::Null},
+                                              {"change", -2'000'000}}};
         QCOMPARE(comparison["folders"].toArray(), expected);
 
         const CliRun text = runCli({"history", "compare", idText(*before), idText(*after)});
@@ -159,14 +169,17 @@ private slots:
         QVERIFY(one && other);
         const CliRun different = runCli({"history", "compare", idText(*one), idText(*other)});
         QCOMPARE(different.exitCode, 0);
-        QVERIFY(different.output.endsWith("These scans are of different folders, so their folders are not compared.\n"));
+        QVERIFY(different.output.endsWith(
+            "These scans are of different folders, so their folders are not compared.\n"));
 
         const auto again = saveScanOf(m_folders.filePath("one"));
         QVERIFY(again);
         writeFile(historyDirectory() + "/scan_" + idText(*again) + ".folders", 100);
-        const CliRun damaged = runCli({"history", "compare", idText(*one), idText(*again), "--json"});
+        const CliRun damaged =
+            runCli({"history", "compare", idText(*one), idText(*again), "--json"});
         QCOMPARE(damaged.exitCode, 0);
-        QCOMPARE(QJsonDocument::fromJson(damaged.output)["folderOutcome"].toString(), "noFolderSizes");
+        QCOMPARE(QJsonDocument::fromJson(damaged.output)["folderOutcome"].toString(),
+                 "noFolderSizes");
 
         const QString unknown = QUuid::createUuid().toString(QUuid::WithoutBraces);
         const std::pair<QString, QString> failures[] = {

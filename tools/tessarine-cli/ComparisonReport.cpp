@@ -25,9 +25,8 @@ QString scanLine(const QString& label, const AnalysisResult& scan) {
 
 QString totalLine(const QString& title, qint64 before, qint64 after, QString (*format)(qint64)) {
     return title.leftJustified(12) + format(before) + QStringLiteral(" → ") + format(after) +
-           QStringLiteral("  ") + (after == before ? format::missing()
-                                                   : signedText(after - before, format)) +
-           u'\n';
+           QStringLiteral("  ") +
+           (after == before ? format::missing() : signedText(after - before, format)) + u'\n';
 }
 
 QString folderLines(const FolderComparison& folders) {
@@ -83,8 +82,8 @@ QString outcomeName(FolderComparison::Outcome outcome) {
 QString comparisonText(const StoredComparison& comparison) {
     const AnalysisResult& before = comparison.before;
     const AnalysisResult& after = comparison.after;
-    return scanLine(QStringLiteral("Before  "), before) + scanLine(QStringLiteral("After   "), after) +
-           u'\n' +
+    return scanLine(QStringLiteral("Before  "), before) +
+           scanLine(QStringLiteral("After   "), after) + u'\n' +
            totalLine(QStringLiteral("Total Size"), before.totalSize, after.totalSize,
                      format::byteCount) +
            totalLine(QStringLiteral("Files"), before.fileCount, after.fileCount, format::count) +

@@ -80,7 +80,8 @@ int runHistory(const QStringList& arguments) {
     if (parsed->positional.size() == 3 && parsed->positional.first() == u"compare")
         return compareStoredScans(parsed->positional[1], parsed->positional[2],
                                   parsed->has(jsonOption));
-    return usageError(QStringLiteral("history takes --json, delete ID, or compare OLD NEW [--json]"));
+    return usageError(
+        QStringLiteral("history takes --json, delete ID, or compare OLD NEW [--json]"));
 }
 
 } // namespace tessarine::cli

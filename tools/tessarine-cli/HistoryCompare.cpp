@@ -57,9 +57,9 @@ int compareStoredScans(const QString& firstId, const QString& secondId, bool asJ
         std::swap(first, second);
     StoredComparison comparison{std::move(*first), std::move(*second), {}};
     const QString folder = store.storagePath();
-    comparison.folders = compareFolders(
-        comparison.before.rootPath, loadFolderSizes(folder, comparison.before.id),
-        comparison.after.rootPath, loadFolderSizes(folder, comparison.after.id));
+    comparison.folders =
+        compareFolders(comparison.before.rootPath, loadFolderSizes(folder, comparison.before.id),
+                       comparison.after.rootPath, loadFolderSizes(folder, comparison.after.id));
     const QByteArray output =
         asJson ? comparisonJson(comparison) : comparisonText(comparison).toUtf8();
     return writeOutput(output) ? exitSuccess : exitFailure;

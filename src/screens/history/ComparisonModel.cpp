@@ -38,8 +38,8 @@ void ComparisonModel::compareFolders() {
             return std::nullopt;
         return loadFolderSizes(m_historyFolder, scan.id);
     };
-    const FolderComparison folders = tessarine::compareFolders(
-        m_before.rootPath, sizesOf(m_before), m_after.rootPath, sizesOf(m_after));
+    const FolderComparison folders = tessarine::compareFolders(m_before.rootPath, sizesOf(m_before),
+                                                               m_after.rootPath, sizesOf(m_after));
     m_folders.setRows(folderChangeRows(folders));
     m_folderNote = folderComparisonNote(folders);
 }
