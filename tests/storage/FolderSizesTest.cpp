@@ -1,19 +1,12 @@
-#include "FileTrees.h"
-#include "SampleResults.h"
 #include "storage/FolderChanges.h"
 #include "storage/FolderSizesCodec.h"
-#include "storage/FolderSizesFile.h"
-#include "storage/PersistenceService.h"
 
-#include <QDir>
 #include <QLocale>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <limits>
 
 using namespace tessarine;
-using namespace tessarine::testing;
 
 namespace {
 
@@ -69,25 +62,6 @@ private slots:
         QVERIFY(!decodeFolderSizes(bytes + '\0'));
     }
 
-    // The file lives and dies with its scan; a missing or broken one is no figures, not an error.
-    void filesGoWithTheirScan() {
-        QTemporaryDir home;
-        PersistenceService store(home.path());
-        const AnalysisResult result = sampleResult();
-        const FolderSizes sizes = table({{"", 10}, {"a", 10}});
-        QVERIFY(!store.save(result));
-        QVERIFY(!loadFolderSizes(store.storagePath(), result.id));
-        QVERIFY(!saveFolderSizes(store.storagePath(), result.id, sizes));
-        QCOMPARE(loadFolderSizes(store.storagePath(), result.id), sizes);
-
-        const QString path = folderSizesPath(store.storagePath(), result.id);
-        writeFile(path, readBytes(path).chopped(1));
-        QVERIFY(!loadFolderSizes(store.storagePath(), result.id));
-
-        QVERIFY(!store.deleteResult(result));
-        QCOMPARE(QDir(store.storagePath()).entryList(QDir::Files), QStringList());
-    }
-
     void listsWhatGrewCameShrankAndWent() {
         const FolderSizes before = table({{"", 1000},
                                           {"a", 20},
@@ -138,17 +112,6 @@ private slots:
                                      {"/kept", 3000, 3100, 100}};
         QCOMPARE(listed(comparison), expected);
         QCOMPARE(unknownFolderSizeText(comparison.cutoff), "under 40 bytes");
-    }
-
-    void foldersOfOtherScansAreNotCompared() {
-        const FolderSizes sizes = table({{"", 1}});
-        QCOMPARE(compareFolders("/a", sizes, "/b", sizes).outcome,
-                 FolderComparison::Outcome::differentFolders);
-        const FolderComparison missing = compareFolders("/a", sizes, "/a", std::nullopt);
-        QCOMPARE(missing.outcome, FolderComparison::Outcome::noFolderSizes);
-        QVERIFY(missing.changes.empty());
-        QCOMPARE(folderComparisonNote(compareFolders("/a", sizes, "/a", sizes)),
-                 "No folder changed in size.");
     }
 };
 
