@@ -5,6 +5,8 @@
 #   scan peak memory <= 0.5 x gdu      tree wall time <= 1.0 x scan
 #   the folder tree built through the dashboard's section <= 1.1 x tessarine-cli tree
 #   the desktop app's scan <= 1.2 x tessarine-cli scan
+#   a saved scan, which also keeps every folder's size: <= 1.05 x the scan, memory <= 1.1 x
+#   history compare of two saved scans of the tree <= 0.3 s
 # Cold (the page cache dropped before every run; needs root and a writable
 # /proc/sys/vm/drop_caches, else the round is skipped):
 #   scan wall time <= 0.5 x gdu and <= 1.15 x the fastest minimal walker
@@ -91,6 +93,8 @@ target=$tree
 command_of() {
     case $1 in
     tessarine) argv=("$cli" scan "$target") ;;
+    saved) argv=(env XDG_DATA_HOME="$work/data" "$cli" scan --save "$target") ;;
+    compare) argv=(env XDG_DATA_HOME="$work/data" "$cli" history compare "${saved_ids[@]}") ;;
     gdu) argv=(gdu -n -p -c "$target") ;;
     ncdu) argv=(ncdu -o /dev/null "$target") ;;
     tree) argv=("$cli" tree "$target") ;;
@@ -153,9 +157,11 @@ table() {
 }
 
 walkers=(walker-2 walker-8 walker-16)
-names=(tessarine gdu ncdu tree "${walkers[@]}")
+names=(tessarine saved gdu ncdu tree "${walkers[@]}")
 declare -A label=(
     [tessarine]="tessarine-cli scan"
+    [saved]="scan --save"
+    [compare]="history compare"
     [gdu]="gdu -n -p -c"
     [ncdu]="ncdu -o /dev/null"
     [tree]="tessarine-cli tree"
@@ -258,6 +264,22 @@ if [[ $rounds == *" links "* ]]; then
 fi
 
 [[ $rounds == *" app "* ]] || exit 0
+
+# --- Folder sizes of saved scans ------------------------------------------------------------------
+if [[ $rounds == *" warm "* ]]; then
+    saved_wall=$(ratio "$wall_saved" "$wall_tessarine")
+    saved_rss=$(ratio "$rss_saved" "$rss_tessarine")
+    echo "$(verdict "$saved_wall" 1.05)  saved scan, with every folder's size, wall time <= 1.05 x scan ($saved_wall)"
+    echo "$(verdict "$saved_rss" 1.1)  saved scan peak memory <= 1.1 x scan ($saved_rss)"
+    mapfile -t saved_ids < <(ls "$work/data/Tessarine" | sed -n 's/^scan_\(.*\)\.json$/\1/p' | head -2)
+    for ((run = 1; run <= runs; run++)); do
+        measure compare
+    done
+    table "" "$runs" "$items" compare
+    echo "$(verdict "$wall_compare" 0.3)  history compare of two saved scans <= 0.3 s ($wall_compare s)"
+    echo "  folder sizes file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.folders") bytes," \
+        "history file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.json") bytes"
+fi
 
 if [[ -x $responsiveness ]]; then
     echo

@@ -2,6 +2,7 @@
 
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
@@ -181,7 +182,7 @@ void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>&
     if (auto last = scanner->currentProgress())
         setScanProgress(last);
     setCurrentResult(result);
-    saveResult(result);
+    saveResult(result, scanner->folderSizes());
     setIsScanning(false);
     setCurrentView(Dashboard);
     m_currentScanner.reset();
@@ -198,12 +199,21 @@ void AppState::failScan(TaskId task, const ScanError& failure) {
     m_currentScanner.reset();
 }
 
-void AppState::saveResult(const AnalysisResult& result) {
+void AppState::saveResult(const AnalysisResult& result, const FolderSizes* folderSizes) {
     if (const auto failure = m_store.save(result)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
     m_scanHistory.prepend(result);
+    // The scan stays saved when its folder sizes cannot follow: it just has no folder figures.
+    if (folderSizes) {
+        if (const auto failure = saveFolderSizes(m_store.storagePath(), result.id, *folderSizes))
+            setError(AppError::saveFailed(failure->errorDescription()));
+    }
+}
+
+QString AppState::historyFolder() const {
+    return m_store.storagePath();
 }
 
 void AppState::deleteScan(const AnalysisResult& result) {

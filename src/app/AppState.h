@@ -23,6 +23,7 @@ class QJSEngine;
 namespace tessarine {
 
 class FileSystemScanner;
+struct FolderSizes;
 class PersistenceService;
 struct ScanError;
 
@@ -48,6 +49,8 @@ class AppState : public QObject {
     Q_PROPERTY(bool hasScanProgress READ hasScanProgress NOTIFY scanProgressChanged)
     Q_PROPERTY(tessarine::AppError error READ errorOrEmpty WRITE setError NOTIFY errorChanged)
     Q_PROPERTY(bool hasError READ hasError NOTIFY errorChanged)
+    // Where the history files are; the comparison reads the scans' folder sizes beside them.
+    Q_PROPERTY(QString historyFolder READ historyFolder CONSTANT)
 
 public:
     enum AppView { Landing, Scanning, Dashboard, History };
@@ -75,6 +78,7 @@ public:
     bool hasCurrentResult() const { return m_currentResult.has_value(); }
     void setCurrentResult(const AnalysisResult& result);
     ScanHistoryModel* scanHistory() { return &m_scanHistory; }
+    QString historyFolder() const;
     bool showFolderPicker() const { return m_showFolderPicker; }
     void setShowFolderPicker(bool show);
     bool isScanning() const { return m_isScanning; }
@@ -129,7 +133,7 @@ private:
     // The stored results, or nothing after raising the load alert; the alert is raised once for
     // a folder that stays unreadable, not at every change the watcher reports.
     std::optional<QList<AnalysisResult>> loadStoredResults();
-    void saveResult(const AnalysisResult& result);
+    void saveResult(const AnalysisResult& result, const FolderSizes* folderSizes);
     void setIsScanning(bool scanning);
     void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath);
     void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,

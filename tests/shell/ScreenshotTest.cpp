@@ -368,6 +368,32 @@ private slots:
         scene.save("history-comparison");
     }
 
+    // Two scans of a tree, saved as the application saves every scan, between which one folder
+    // grew by 50 MB, one appeared and one went: the sheet lists exactly those folders.
+    void historyComparisonOfFolders() {
+        QTemporaryDir tree;
+        testing::writeFiles(tree.path(), {{"media/videos/clip.mp4", 1'000'000},
+                                          {"old/gone/data.bin", 2'000'000},
+                                          {"docs/readme.txt", 5000}});
+        Scene scene;
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 1);
+        QVERIFY(QFile::resize(tree.path() + "/media/videos/clip.mp4", 51'000'000));
+        QVERIFY(QDir(tree.path() + "/old/gone").removeRecursively());
+        testing::writeFile(tree.path() + "/new/fresh.bin", 3'000'000);
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 2);
+
+        const QList<AnalysisResult>& scans = scene.state().scanHistory()->results();
+        scene.history();
+        auto* sheet = scene.find("comparisonSheet");
+        QVERIFY(sheet);
+        sheet->setProperty("first", QVariant::fromValue(scans.at(0)));
+        sheet->setProperty("second", QVariant::fromValue(scans.at(1)));
+        QMetaObject::invokeMethod(sheet, "open");
+        scene.save("history-comparison-folders");
+    }
+
     void help() {
         Scene scene;
         auto* help = scene.find<QQuickWindow>("helpWindow");

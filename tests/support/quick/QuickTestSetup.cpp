@@ -22,6 +22,9 @@ void QuickTestSetup::applicationAvailable() {
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
     engine->addImportPath(QStringLiteral(":/"));
+    // The fixture of the previous test file goes first: its destructor hands the desktop back to
+    // the real one, which must not undo what the new fixture sets up.
+    m_fixture.reset();
     m_fixture = std::make_unique<AppFixture>();
     qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
 }
