@@ -65,6 +65,12 @@ struct ScanProgressForeign {
     QML_VALUE_TYPE(scanProgress)
 };
 
+struct ScanOptionsForeign {
+    Q_GADGET
+    QML_FOREIGN(tessarine::ScanOptions)
+    QML_VALUE_TYPE(scanOptions)
+};
+
 struct FolderTreeProgressForeign {
     Q_GADGET
     QML_FOREIGN(tessarine::FolderTreeProgress)

@@ -15,9 +15,10 @@ namespace tessarine {
 class ListedDirectory {
 public:
     enum class State : quint8 {
-        pending,    // not listed (yet): the walk was cancelled before reaching it
-        listed,     // entries hold its visible contents
-        unreadable, // it could not be opened; it has no entries
+        pending,         // not listed (yet): the walk was cancelled before reaching it
+        listed,          // entries hold its visible contents
+        unreadable,      // it could not be opened; it has no entries
+        otherFileSystem, // a mount point on a walk kept to the root's file system: not entered
     };
 
     ListedDirectory(const ListedDirectory* parent, QByteArrayView name)
@@ -40,6 +41,7 @@ public:
 
     void setEntries(std::span<ListedEntry> entries, qint64 summedCount = 0, qint64 summedSize = 0);
     void markUnreadable() { m_state = State::unreadable; }
+    void markOnOtherFileSystem() { m_state = State::otherFileSystem; }
 
 private:
     const ListedDirectory* m_parent;

@@ -3,6 +3,7 @@
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "UserFiles.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
@@ -18,7 +19,6 @@
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -174,7 +174,7 @@ class ScreenshotTest : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 

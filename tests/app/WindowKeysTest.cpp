@@ -1,3 +1,4 @@
+#include "UserFiles.h"
 #include "app/AppState.h"
 #include "app/shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
@@ -5,7 +6,6 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -18,7 +18,7 @@ class WindowKeysTest : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 

@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "ScanOptionArguments.h"
 
 #include "model/Json.h"
 #include "scanner/FileSystemScanner.h"
@@ -15,8 +16,8 @@ namespace {
 const QString saveOption = QStringLiteral("--save");
 const QString csvOption = QStringLiteral("--csv");
 
-ScanOutcome scan(const QString& folder) {
-    FileSystemScanner scanner;
+ScanOutcome scan(const QString& folder, const ScanOptions& options) {
+    FileSystemScanner scanner(options);
     const CancelToken task;
     return runCancellable<ScanOutcome, ScanProgress>({
         [&] { return scanner.scan(folder, task); },
@@ -35,13 +36,13 @@ std::variant<QByteArray, StorageError> render(const AnalysisResult& result, bool
 } // namespace
 
 int runScan(const QStringList& arguments) {
-    const auto parsing =
-        parseFolderCommand(arguments, {saveOption, csvOption}, QStringLiteral("scan"));
+    const auto parsing = parseFolderCommand(
+        arguments, QStringList{saveOption, csvOption} + scanOptionNames(), QStringLiteral("scan"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
 
-    const ScanOutcome outcome = scan(parsed.positional.first());
+    const ScanOutcome outcome = scan(parsed.positional.first(), scanOptionsOf(parsed));
     if (const auto* error = std::get_if<ScanError>(&outcome))
         return reportFailure(*error);
     const auto& result = std::get<AnalysisResult>(outcome);

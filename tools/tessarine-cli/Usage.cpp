@@ -14,8 +14,8 @@ namespace {
 QString usageText() {
     return QStringLiteral(
         "Usage:\n"
-        "  tessarine-cli scan FOLDER [--save] [--csv]\n"
-        "  tessarine-cli tree FOLDER\n"
+        "  tessarine-cli scan FOLDER [--save] [--csv] [COUNTING]\n"
+        "  tessarine-cli tree FOLDER [COUNTING]\n"
         "  tessarine-cli history [--json]\n"
         "  tessarine-cli history delete ID\n"
         "  tessarine-cli --help\n"
@@ -29,6 +29,12 @@ QString usageText() {
         "  tree     Print the size of every folder below FOLDER as a JSON tree.\n"
         "  history  List the stored scans, newest first; --json prints them as a JSON array.\n"
         "           history delete ID removes one stored scan.\n"
+        "\n"
+        "COUNTING, for scan and tree (by default hidden items are left out, other file systems\n"
+        "are entered and a file counts its size):\n"
+        "  --hidden           also count items whose names start with \".\"\n"
+        "  --one-file-system  do not enter folders on another file system than FOLDER (du -x)\n"
+        "  --disk-usage       count the disk space a file takes, as du does, not its size\n"
         "\n"
         "On a terminal, scan and tree show their progress on standard error; Ctrl-C cancels.\n"
         "Exit status: 0 done, 1 failed, 2 bad usage, 130 cancelled.\n");

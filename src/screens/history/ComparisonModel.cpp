@@ -21,6 +21,7 @@ void ComparisonModel::compare() {
     m_totals.setRows(std::move(comparison.totals));
     m_categories.setRows(std::move(comparison.categories));
     m_files.setRows(std::move(comparison.files));
+    m_optionsNote = std::move(comparison.optionsNote);
     emit changed();
 }
 

@@ -19,6 +19,7 @@ class ComparisonModel : public QObject {
     Q_PROPERTY(tessarine::ChangeListModel* totals READ totals CONSTANT)
     Q_PROPERTY(tessarine::ChangeListModel* categories READ categories CONSTANT)
     Q_PROPERTY(tessarine::ChangeListModel* files READ files CONSTANT)
+    Q_PROPERTY(QString optionsNote READ optionsNote NOTIFY changed)
 
 public:
     using QObject::QObject;
@@ -32,6 +33,7 @@ public:
     ChangeListModel* totals() { return &m_totals; }
     ChangeListModel* categories() { return &m_categories; }
     ChangeListModel* files() { return &m_files; }
+    const QString& optionsNote() const { return m_optionsNote; }
 
 signals:
     void changed();
@@ -46,6 +48,7 @@ private:
     ChangeListModel m_totals;
     ChangeListModel m_categories;
     ChangeListModel m_files;
+    QString m_optionsNote;
 };
 
 } // namespace tessarine
