@@ -368,6 +368,20 @@ private slots:
         scene.save("history-comparison");
     }
 
+    // The Settings window with an option on, and the dashboard of a result made with options.
+    void settings() {
+        Scene scene(3);
+        scene.state().setScanOptions({.includeHidden = true});
+        AnalysisResult result = dashboardResult();
+        result.scanOptions = {.includeHidden = true, .diskUsage = true};
+        scene.showing(result).save("dashboard-options");
+        auto* settings = scene.find<QQuickWindow>("settingsWindow");
+        QVERIFY(settings);
+        QMetaObject::invokeMethod(settings, "showSettings");
+        scene.save("settings", Scene::AfterTransitions, settings);
+        scene.state().setScanOptions({});
+    }
+
     void help() {
         Scene scene;
         auto* help = scene.find<QQuickWindow>("helpWindow");
