@@ -2,6 +2,7 @@
 # Times tessarine-cli against gdu and ncdu on one generated tree of about 500,000 files and
 # prints medians, ratios and whether the targets are met. Warm (the tree in the page cache):
 #   scan wall time  <= 0.4 x gdu and <= 1.1 x the fastest minimal walker
+#   scan --hidden wall time <= 1.1 x the fastest minimal walker that takes hidden entries too
 #   scan peak memory <= 0.5 x gdu      tree wall time <= 1.0 x scan
 #   the folder tree built through the dashboard's section <= 1.1 x tessarine-cli tree
 #   the desktop app's scan <= 1.2 x tessarine-cli scan
@@ -101,6 +102,8 @@ command_of() {
     walker-*) argv=("$walker" "$target" "${1#walker-}") ;;
     unlinked-scan) argv=("$cli" scan "$unlinked") ;;
     unlinked-tree) argv=("$cli" tree "$unlinked") ;;
+    hidden) argv=("$cli" scan --hidden "$target") ;;
+    hidden-walker-*) argv=("$walker" "$target" "${1#hidden-walker-}" --hidden) ;;
     esac
 }
 
@@ -133,6 +136,16 @@ median() {
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", (b > 0) ? a / b : 0 }'; }
 verdict() { awk -v value="$1" -v limit="$2" 'BEGIN { print (value <= limit) ? "PASS" : "MISS" }'; }
 
+# fastest NAME...: the least median wall time among NAME..., set by table.
+fastest() {
+    local name
+    for name in "$@"; do
+        declare -n wall=wall_${name//-/_}
+        echo "$wall"
+        unset -n wall
+    done | sort -g | head -1
+}
+
 # table ROUND RUNS ENTRIES NAME...: the medians of one round as a table; sets wall_ROUNDNAME and
 # rss_ROUNDNAME (names with "-" turned into "_"), and best_ROUNDwalker to the fastest walker's wall.
 table() {
@@ -149,15 +162,12 @@ table() {
         }'
         unset -n wall rss
     done
-    declare -g "best_${round}walker=$(for name in "${walkers[@]}"; do
-        declare -n wall=wall_${round}${name//-/_}
-        echo "$wall"
-        unset -n wall
-    done | sort -g | head -1)"
+    declare -g "best_${round}walker=$(fastest "${walkers[@]/#/$round}")"
 }
 
 walkers=(walker-2 walker-8 walker-16)
-names=(tessarine saved gdu ncdu tree "${walkers[@]}")
+hidden_walkers=(hidden-walker-8 hidden-walker-16)
+names=(tessarine saved gdu ncdu tree "${walkers[@]}" hidden "${hidden_walkers[@]}")
 declare -A label=(
     [tessarine]="tessarine-cli scan"
     [saved]="scan --save"
@@ -170,6 +180,9 @@ declare -A label=(
     [walker-16]="minimal walker, 16"
     [unlinked-scan]="scan, without links"
     [unlinked-tree]="tree, without links"
+    [hidden]="tessarine-cli --hidden"
+    [hidden-walker-8]="walker, hidden, 8"
+    [hidden-walker-16]="walker, hidden, 16"
 )
 
 # warm ROUND NAME...: warms the page cache, then times each of NAME $runs times, alternating.
@@ -225,16 +238,36 @@ if [[ $rounds == *" warm "* ]]; then
     wall_vs_walker=$(ratio "$wall_tessarine" "$best_walker")
     rss_vs_gdu=$(ratio "$rss_tessarine" "$rss_gdu")
     tree_vs_scan=$(ratio "$wall_tree" "$wall_tessarine")
+    best_hidden_walker=$(fastest "${hidden_walkers[@]}")
+    hidden_vs_walker=$(ratio "$wall_hidden" "$best_hidden_walker")
     echo
     echo "tessarine/gdu     wall $wall_vs_gdu   memory $rss_vs_gdu"
     echo "tessarine/ncdu    wall $(ratio "$wall_tessarine" "$wall_ncdu")   memory $(ratio "$rss_tessarine" "$rss_ncdu")"
     echo "tessarine/walker  wall $wall_vs_walker (the fastest minimal walker, $best_walker s)"
     echo "tree/scan         wall $tree_vs_scan"
+    echo "--hidden/walker   wall $hidden_vs_walker (the fastest walker taking hidden entries, $best_hidden_walker s)"
     echo
     echo "$(verdict "$wall_vs_gdu" 0.4)  scan wall time <= 0.4 x gdu ($wall_vs_gdu)"
     echo "$(verdict "$wall_vs_walker" 1.1)  scan wall time <= 1.1 x the minimal walker ($wall_vs_walker)"
+    echo "$(verdict "$hidden_vs_walker" 1.1)  scan --hidden wall time <= 1.1 x the walker taking hidden entries ($hidden_vs_walker)"
     echo "$(verdict "$rss_vs_gdu" 0.5)  scan peak memory <= 0.5 x gdu ($rss_vs_gdu)"
     echo "$(verdict "$tree_vs_scan" 1.0)  tree wall time <= 1.0 x scan ($tree_vs_scan)"
+fi
+
+# --- Folder sizes of saved scans ------------------------------------------------------------------
+if [[ $rounds == *" warm "* ]]; then
+    saved_wall=$(ratio "$wall_saved" "$wall_tessarine")
+    saved_rss=$(ratio "$rss_saved" "$rss_tessarine")
+    echo "$(verdict "$saved_wall" 1.05)  saved scan, with every folder's size, wall time <= 1.05 x scan ($saved_wall)"
+    echo "$(verdict "$saved_rss" 1.1)  saved scan peak memory <= 1.1 x scan ($saved_rss)"
+    mapfile -t saved_ids < <(ls "$work/data/Tessarine" | sed -n 's/^scan_\(.*\)\.json$/\1/p' | head -2)
+    for ((run = 1; run <= runs; run++)); do
+        measure compare
+    done
+    table "" "$runs" "$items" compare
+    echo "$(verdict "$wall_compare" 0.3)  history compare of two saved scans <= 0.3 s ($wall_compare s)"
+    echo "  folder sizes file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.folders") bytes," \
+        "history file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.json") bytes"
 fi
 
 # --- Hard links ---------------------------------------------------------------------------------
@@ -265,21 +298,6 @@ fi
 
 [[ $rounds == *" app "* ]] || exit 0
 
-# --- Folder sizes of saved scans ------------------------------------------------------------------
-if [[ $rounds == *" warm "* ]]; then
-    saved_wall=$(ratio "$wall_saved" "$wall_tessarine")
-    saved_rss=$(ratio "$rss_saved" "$rss_tessarine")
-    echo "$(verdict "$saved_wall" 1.05)  saved scan, with every folder's size, wall time <= 1.05 x scan ($saved_wall)"
-    echo "$(verdict "$saved_rss" 1.1)  saved scan peak memory <= 1.1 x scan ($saved_rss)"
-    mapfile -t saved_ids < <(ls "$work/data/Tessarine" | sed -n 's/^scan_\(.*\)\.json$/\1/p' | head -2)
-    for ((run = 1; run <= runs; run++)); do
-        measure compare
-    done
-    table "" "$runs" "$items" compare
-    echo "$(verdict "$wall_compare" 0.3)  history compare of two saved scans <= 0.3 s ($wall_compare s)"
-    echo "  folder sizes file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.folders") bytes," \
-        "history file $(stat -c %s "$work/data/Tessarine/scan_${saved_ids[0]}.json") bytes"
-fi
 
 if [[ -x $responsiveness ]]; then
     echo

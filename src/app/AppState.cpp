@@ -1,5 +1,6 @@
 #include "AppState.h"
 
+#include "StoredScanOptions.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
 #include "storage/FolderSizesFile.h"
@@ -43,7 +44,8 @@ QString folderPathOf(const QUrl& folder) {
 
 AppState::AppState(PersistenceService& store, QObject* parent)
     : QObject(parent)
-    , m_store(store) {
+    , m_store(store)
+    , m_scanOptions(loadScanOptions()) {
     m_progressWatcher.setInterval(progressWatchInterval);
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
@@ -106,6 +108,13 @@ void AppState::setError(const AppError& error) {
         emit errorChanged();
 }
 
+void AppState::setScanOptions(const ScanOptions& options) {
+    if (!assignIfChanged(m_scanOptions, options))
+        return;
+    storeScanOptions(options);
+    emit scanOptionsChanged();
+}
+
 void AppState::clearError() {
     if (assignIfChanged(m_error, std::optional<AppError>()))
         emit errorChanged();
@@ -140,6 +149,14 @@ void AppState::startScan(const QUrl& folder) {
 }
 
 void AppState::startScan(const QString& folderPath) {
+    beginScan(folderPath, m_scanOptions);
+}
+
+void AppState::rescan(const AnalysisResult& result) {
+    beginScan(result.rootPath, result.scanOptions);
+}
+
+void AppState::beginScan(const QString& folderPath, const ScanOptions& options) {
     // A running scan is replaced: its outcome is dropped, and its task cancelled so that it does
     // not compete with the new one for the disk, even if its worker has not started yet.
     m_currentScanCancel.cancel();
@@ -150,11 +167,12 @@ void AppState::startScan(const QString& folderPath) {
     const TaskId task = ++m_lastTaskId;
     m_currentScanTask = task;
     m_currentScanCancel = CancelToken();
-    performScan(task, m_currentScanCancel, folderPath);
+    performScan(task, m_currentScanCancel, folderPath, options);
 }
 
-void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath) {
-    auto scanner = std::make_shared<FileSystemScanner>();
+void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath,
+                           const ScanOptions& options) {
+    auto scanner = std::make_shared<FileSystemScanner>(options);
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ScanOptions.h"
 #include "scanner/DirectoryListing.h"
 #include "scanner/HardLinks.h"
 #include "scanner/ListedDirectory.h"
@@ -8,6 +9,7 @@
 #include <atomic>
 #include <memory>
 #include <span>
+#include <sys/stat.h>
 #include <vector>
 
 namespace tessarine {
@@ -18,7 +20,10 @@ namespace tessarine {
 class DirectoryReader {
 public:
     // Hands every name of a file with several names to `claims`, which settles its size.
-    DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail = {});
+    // `rootDevice` is the scanned folder's, which folders must share when the options keep the
+    // walk on one file system.
+    DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail = {},
+                    ScanOptions options = {}, dev_t rootDevice = 0);
 
     // Fills `folder` with the visible entries of the folder open as `fd` (the descriptor stays
     // open). Returns the new sub-folders to descend into, in listing order; packages are not
@@ -31,11 +36,16 @@ public:
 
 private:
     ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
-    ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
+    // `enter` false: the folder is on another file system and the walk stays on the root's.
+    ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name, bool enter = true);
+    bool isLeftOut(QByteArrayView name) const;
+    qint64 countedSize(const struct stat& status) const;
 
     ListingArena& m_arena;
     HardLinkClaims& m_claims;
     const ListingDetail m_detail;
+    const ScanOptions m_options;
+    const dev_t m_rootDevice;
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;

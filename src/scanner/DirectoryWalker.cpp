@@ -11,6 +11,7 @@
 #include <mutex>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -85,7 +86,7 @@ struct PendingFolder {
 class WalkSession {
 public:
     WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath, int rootFd,
-                int threadCount);
+                dev_t rootDevice, int threadCount);
     ~WalkSession();
 
     WalkOutcome run();
@@ -108,6 +109,7 @@ private:
     std::vector<ListingArena> m_arenas;
     ListedDirectory* m_root;
     const int m_rootFd;
+    const dev_t m_rootDevice;
     const int m_heldLimit;
     HardLinkClaims m_hardLinks;
 
@@ -126,13 +128,14 @@ private:
 };
 
 WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
-                         int rootFd, int threadCount)
+                         int rootFd, dev_t rootDevice, int threadCount)
     : m_options(options)
     , m_cancelled(options.cancelled ? options.cancelled : &m_neverCancelled)
     , m_rootPath(rootPath)
     , m_arenas(std::size_t(threadCount))
     , m_root(m_arenas.front().make<ListedDirectory>(nullptr, QByteArrayView()))
     , m_rootFd(rootFd)
+    , m_rootDevice(rootDevice)
     , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
                                                  : std::max(16, raiseOpenFileLimit() / 2))
     , m_hardLinks(options.detail.summedFiles) {
@@ -178,7 +181,8 @@ WalkOutcome WalkSession::run() {
 }
 
 void WalkSession::work(ListingArena& arena) {
-    DirectoryReader reader(arena, m_hardLinks, m_options.detail);
+    DirectoryReader reader(arena, m_hardLinks, m_options.detail, m_options.scanOptions,
+                           m_rootDevice);
     while (const std::optional<PendingFolder> pending = take()) {
         listFolder(reader, *pending);
         std::lock_guard lock(m_mutex);
@@ -299,8 +303,15 @@ DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
     const int rootFd = ::open(encodedRoot.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (rootFd < 0)
         return listing;
+    // One stat per walk, and only when the walk is to stay on the root's file system.
+    struct stat rootStatus {};
+    if (m_options.scanOptions.oneFileSystem && fstat(rootFd, &rootStatus) != 0) {
+        close(rootFd);
+        return listing;
+    }
     const int threads = m_options.threadCount > 0 ? m_options.threadCount : defaultThreadCount();
-    WalkOutcome outcome = WalkSession(m_options, encodedRoot, rootFd, threads).run();
+    WalkOutcome outcome =
+        WalkSession(m_options, encodedRoot, rootFd, rootStatus.st_dev, threads).run();
     listing.m_arenas = std::move(outcome.arenas);
     listing.m_root = outcome.root;
     listing.m_itemCount = outcome.items;

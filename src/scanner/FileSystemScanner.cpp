@@ -65,6 +65,7 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath, CancelToken task)
     result.scanDate = QDateTime::currentDateTimeUtc();
     result.rootPath = rootPath;
     result.rootName = lastPathComponent(rootPath);
+    result.scanOptions = m_options;
     return result;
 }
 
@@ -73,6 +74,7 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
     auto lastPublish = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
     options.cancelled = &task.flag();
+    options.scanOptions = m_options;
     options.progressInterval = discoveryPublishInterval;
     options.onProgress = [&](const WalkProgress& walk) {
         // Before the first folder is listed there is no path to show and nothing counted yet.

@@ -3,6 +3,7 @@
 #include "model/CancelToken.h"
 #include "model/FolderSizes.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "model/ScanProgress.h"
 #include "scanner/ScanError.h"
 
@@ -30,7 +31,8 @@ public:
     // The analysis pass publishes a snapshot every this many analysed items.
     static constexpr qint64 progressUpdateInterval = 100;
 
-    FileSystemScanner() = default;
+    explicit FileSystemScanner(ScanOptions options = {})
+        : m_options(options) {}
     FileSystemScanner(const FileSystemScanner&) = delete;
     FileSystemScanner& operator=(const FileSystemScanner&) = delete;
 
@@ -68,6 +70,7 @@ private:
     // Publishes the last snapshot again, in another phase.
     void publishPhase(ScanPhase phase);
 
+    const ScanOptions m_options;
     mutable std::mutex m_mutex;
     std::optional<ScanProgress> m_progress; // guarded by m_mutex
     // The running scan's task, for cancel(); guarded by m_mutex. The walker threads and the

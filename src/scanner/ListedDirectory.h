@@ -15,9 +15,10 @@ namespace tessarine {
 class ListedDirectory {
 public:
     enum class State : quint8 {
-        pending,    // not listed (yet): the walk was cancelled before reaching it
-        listed,     // entries hold its visible contents
-        unreadable, // it could not be opened; it has no entries
+        pending,         // not listed (yet): the walk was cancelled before reaching it
+        listed,          // entries hold its visible contents
+        unreadable,      // it could not be opened; it has no entries
+        otherFileSystem, // a mount point on a walk kept to the root's file system: not entered
     };
 
     // `position`: where the parent's listing has it among its visible entries (see position()).
@@ -48,6 +49,7 @@ public:
     // For the walk, which settles the sizes of files with several names once it has met them all.
     ListedEntry& entryAt(quint32 index) { return m_entries[index]; }
     void addSummedSize(qint64 size);
+    void markOnOtherFileSystem() { m_state = State::otherFileSystem; }
 
 private:
     const ListedDirectory* m_parent;

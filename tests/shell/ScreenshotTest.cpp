@@ -3,6 +3,7 @@
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "UserFiles.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
@@ -18,7 +19,6 @@
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -174,7 +174,7 @@ class ScreenshotTest : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 
@@ -392,6 +392,20 @@ private slots:
         sheet->setProperty("second", QVariant::fromValue(scans.at(1)));
         QMetaObject::invokeMethod(sheet, "open");
         scene.save("history-comparison-folders");
+    }
+
+    // The Settings window with an option on, and the dashboard of a result made with options.
+    void settings() {
+        Scene scene(3);
+        scene.state().setScanOptions({.includeHidden = true});
+        AnalysisResult result = dashboardResult();
+        result.scanOptions = {.includeHidden = true, .diskUsage = true};
+        scene.showing(result).save("dashboard-options");
+        auto* settings = scene.find<QQuickWindow>("settingsWindow");
+        QVERIFY(settings);
+        QMetaObject::invokeMethod(settings, "showSettings");
+        scene.save("settings", Scene::AfterTransitions, settings);
+        scene.state().setScanOptions({});
     }
 
     void help() {

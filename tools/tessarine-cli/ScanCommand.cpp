@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "ScanOptionArguments.h"
 
 #include "model/Json.h"
 #include "scanner/FileSystemScanner.h"
@@ -35,13 +36,13 @@ std::variant<QByteArray, StorageError> render(const AnalysisResult& result, bool
 } // namespace
 
 int runScan(const QStringList& arguments) {
-    const auto parsing =
-        parseFolderCommand(arguments, {saveOption, csvOption}, QStringLiteral("scan"));
+    const auto parsing = parseFolderCommand(
+        arguments, QStringList{saveOption, csvOption} + scanOptionNames(), QStringLiteral("scan"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
 
-    FileSystemScanner scanner;
+    FileSystemScanner scanner(scanOptionsOf(parsed));
     // Folder sizes go only into the history: a printed result has no place for them.
     scanner.setKeepsFolderSizes(parsed.has(saveOption));
     const ScanOutcome outcome = scan(scanner, parsed.positional.first());

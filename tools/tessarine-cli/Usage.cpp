@@ -14,8 +14,8 @@ namespace {
 QString usageText() {
     return QStringLiteral(
         "Usage:\n"
-        "  tessarine-cli scan FOLDER [--save] [--csv]\n"
-        "  tessarine-cli tree FOLDER\n"
+        "  tessarine-cli scan FOLDER [--save] [--csv] [COUNTING]\n"
+        "  tessarine-cli tree FOLDER [COUNTING]\n"
         "  tessarine-cli history [--json]\n"
         "  tessarine-cli history delete ID\n"
         "  tessarine-cli history compare OLD NEW [--json]\n"
@@ -34,6 +34,12 @@ QString usageText() {
         "           history compare OLD NEW shows what changed between two stored scans of\n"
         "           one folder: the totals, then the folders that grew, appeared, shrank or\n"
         "           went, largest change first; --json prints it as JSON.\n"
+        "\n"
+        "COUNTING, for scan and tree (by default hidden items are left out, other file systems\n"
+        "are entered and a file counts its size):\n"
+        "  --hidden           also count items whose names start with \".\"\n"
+        "  --one-file-system  do not enter folders on another file system than FOLDER (du -x)\n"
+        "  --disk-usage       count the disk space a file takes, as du does, not its size\n"
         "\n"
         "On a terminal, scan and tree show their progress on standard error; Ctrl-C cancels.\n"
         "Exit status: 0 done, 1 failed, 2 bad usage, 130 cancelled.\n");

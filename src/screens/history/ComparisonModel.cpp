@@ -29,6 +29,7 @@ void ComparisonModel::compare() {
     m_categories.setRows(std::move(comparison.categories));
     m_files.setRows(std::move(comparison.files));
     compareFolders();
+    m_optionsNote = std::move(comparison.optionsNote);
     emit changed();
 }
 

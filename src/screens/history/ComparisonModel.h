@@ -25,6 +25,7 @@ class ComparisonModel : public QObject {
     // the one line that says why.
     Q_PROPERTY(tessarine::ChangeListModel* folders READ folders CONSTANT)
     Q_PROPERTY(QString folderNote READ folderNote NOTIFY changed)
+    Q_PROPERTY(QString optionsNote READ optionsNote NOTIFY changed)
 
 public:
     using QObject::QObject;
@@ -42,6 +43,7 @@ public:
     void setHistoryFolder(const QString& folder);
     ChangeListModel* folders() { return &m_folders; }
     const QString& folderNote() const { return m_folderNote; }
+    const QString& optionsNote() const { return m_optionsNote; }
 
 signals:
     void changed();
@@ -60,6 +62,7 @@ private:
     QString m_historyFolder;
     ChangeListModel m_folders;
     QString m_folderNote;
+    QString m_optionsNote;
 };
 
 } // namespace tessarine

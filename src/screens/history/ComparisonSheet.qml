@@ -64,6 +64,18 @@ Dialog {
                 }
             }
 
+            Text {
+                objectName: "optionsNote"
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: comparison.optionsNote
+                font: Theme.callout
+                color: Theme.secondary
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
             RowLayout {
                 Layout.fillWidth: true
                 spacing: Theme.spacingLarge

@@ -1,4 +1,5 @@
 #include "QuickTestSetup.h"
+#include "UserFiles.h"
 
 #include "AppFixture.h"
 
@@ -7,7 +8,6 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QQmlEngine>
-#include <QStandardPaths>
 
 namespace tessarine {
 
@@ -15,7 +15,7 @@ QuickTestSetup::QuickTestSetup() = default;
 QuickTestSetup::~QuickTestSetup() = default;
 
 void QuickTestSetup::applicationAvailable() {
-    QStandardPaths::setTestModeEnabled(true);
+    testing::isolateUserFiles();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     installReturnKeyClicks(*QCoreApplication::instance());
 }
