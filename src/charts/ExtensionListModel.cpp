@@ -1,6 +1,7 @@
 #include "charts/ExtensionListModel.h"
 
 #include "app/RoleNames.h"
+#include "model/SaturatingSum.h"
 
 #include <numeric>
 
@@ -72,7 +73,7 @@ int ExtensionListModel::count() const {
 qint64 ExtensionListModel::hiddenSize() const {
     return std::accumulate(
         m_extensions.cbegin() + count(), m_extensions.cend(), qint64(0),
-        [](qint64 sum, const ExtensionStats& stats) { return sum + stats.totalSize; });
+        [](qint64 sum, const ExtensionStats& stats) { return saturatingAdd(sum, stats.totalSize); });
 }
 
 } // namespace tessarine

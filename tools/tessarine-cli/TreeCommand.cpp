@@ -4,11 +4,9 @@
 #include "CancellableRun.h"
 
 #include "model/Json.h"
+#include "model/PathNames.h"
 #include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -41,8 +39,7 @@ int runTree(const QStringList& arguments) {
     const auto parsing = parseFolderCommand(arguments, {}, QStringLiteral("tree"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
-    const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
-    const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
+    const QString rootPath = cleanRootPath(std::get<Arguments>(parsing).positional.first());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
 
