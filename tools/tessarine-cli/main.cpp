@@ -17,5 +17,5 @@ int main(int argc, char** argv) {
 
     QCoreApplication application(argc, argv);
     // Not QCoreApplication::arguments(), which loses the bytes of a folder name that is not UTF-8.
-    return runCommandLine(argumentsFromBytes(argc, argv).mid(1));
+    return runCommandLine(tessarine::argumentsFromBytes(argc, argv).mid(1));
 }
