@@ -71,9 +71,10 @@ int ExtensionListModel::count() const {
 }
 
 qint64 ExtensionListModel::hiddenSize() const {
-    return std::accumulate(
-        m_extensions.cbegin() + count(), m_extensions.cend(), qint64(0),
-        [](qint64 sum, const ExtensionStats& stats) { return saturatingAdd(sum, stats.totalSize); });
+    return std::accumulate(m_extensions.cbegin() + count(), m_extensions.cend(), qint64(0),
+                           [](qint64 sum, const ExtensionStats& stats) {
+                               return saturatingAdd(sum, stats.totalSize);
+                           });
 }
 
 } // namespace tessarine

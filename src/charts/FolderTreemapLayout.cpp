@@ -58,8 +58,9 @@ qsizetype rowLength(std::span<const TreemapEntry> remaining, const QRectF& free,
 }
 
 double roomOf(std::span<const TreemapEntry> entries) {
-    return std::accumulate(entries.begin(), entries.end(), 0.0,
-                           [](double sum, const TreemapEntry& entry) { return sum + roomOf(entry); });
+    return std::accumulate(
+        entries.begin(), entries.end(), 0.0,
+        [](double sum, const TreemapEntry& entry) { return sum + roomOf(entry); });
 }
 
 // The files its sub-folders do not count, never fewer than none.

@@ -33,8 +33,8 @@ int openInPieces(const QByteArray& path, int flags) {
             }
         }
         const bool last = end == path.size();
-        const int next = openat(fd, path.mid(at, end - at).constData(),
-                                last ? flags : passThroughFlags);
+        const int next =
+            openat(fd, path.mid(at, end - at).constData(), last ? flags : passThroughFlags);
         close(fd);
         if (last)
             return next;

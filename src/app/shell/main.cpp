@@ -26,7 +26,8 @@ int finishWithoutWindow(const LaunchOptions& launch) {
 int main(int argc, char* argv[]) {
     // Help and version are answered before the platform starts, so they work without a display.
     // Anything else is read once the application has taken its own options (-platform, ...).
-    const LaunchOptions early = tessarine::parseLaunchArguments(tessarine::argumentsFromBytes(argc, argv), {});
+    const LaunchOptions early =
+        tessarine::parseLaunchArguments(tessarine::argumentsFromBytes(argc, argv), {});
     if (early.action == LaunchOptions::Action::PrintAndExit)
         return finishWithoutWindow(early);
 
