@@ -1,13 +1,14 @@
 #include "AppState.h"
 
 #include "StoredScanOptions.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
+#include "scanner/PathAccess.h"
 #include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QJSEngine>
 #include <QQmlEngine>
 
@@ -37,7 +38,7 @@ template <typename T> bool assignIfChanged(T& field, const T& value) {
 }
 
 QString folderPathOf(const QUrl& folder) {
-    return folder.isLocalFile() ? folder.toLocalFile() : folder.toString(QUrl::PreferLocalFile);
+    return folder.isLocalFile() ? pathFromUrl(folder) : folder.toString(QUrl::PreferLocalFile);
 }
 
 } // namespace
@@ -262,8 +263,8 @@ QUrl AppState::folderPickerStart() const {
                                                              : nullptr;
     if (last) {
         const QString parent = parentFolder(last->rootPath);
-        if (!parent.isEmpty() && QFileInfo(parent).isDir())
-            return QUrl::fromLocalFile(parent);
+        if (!parent.isEmpty() && isFolder(parent))
+            return urlFromPath(parent);
     }
     return QUrl::fromLocalFile(QDir::homePath());
 }

@@ -2,8 +2,9 @@
 
 #include "scanner/DirectoryReader.h"
 #include "scanner/HardLinks.h"
+#include "scanner/PathAccess.h"
 
-#include <QFile>
+#include "model/PathBytes.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -296,11 +297,11 @@ void DirectoryWalker::setExtraThreadsYield(bool yield) {
 }
 
 DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
-    const QByteArray encodedRoot = QFile::encodeName(rootPath);
+    const QByteArray encodedRoot = pathToBytes(rootPath);
     // The root is the one path followed even when it is a symbolic link: the user chose it.
     DirectoryListing listing;
     listing.m_rootPath = encodedRoot;
-    const int rootFd = ::open(encodedRoot.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int rootFd = openFolder(encodedRoot);
     if (rootFd < 0)
         return listing;
     // One stat per walk, and only when the walk is to stay on the root's file system.

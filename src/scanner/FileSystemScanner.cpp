@@ -1,5 +1,6 @@
 #include "scanner/FileSystemScanner.h"
 
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "scanner/DirectoryWalker.h"
 #include "scanner/FolderSizeTally.h"
@@ -7,7 +8,6 @@
 #include "scanner/ScanAggregator.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <chrono>
 
@@ -84,7 +84,7 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
         ScanProgress progress = snapshot(ScanPhase::scanning, startTime);
         progress.filesScanned = walk.items - walk.folders;
         progress.foldersScanned = walk.folders;
-        progress.currentPath = QFile::decodeName(walk.recentFolderPath);
+        progress.currentPath = pathFromBytes(walk.recentFolderPath);
         publish(std::move(progress));
         lastPublish = std::chrono::steady_clock::now();
     };

@@ -4,15 +4,11 @@
 #include "scanner/ItemNameRules.h"
 #include "scanner/ListingCursor.h"
 
-#include <QFile>
+#include "model/PathBytes.h"
 
 namespace tessarine {
 
 namespace {
-
-QString decodedName(QByteArrayView bytes) {
-    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
-}
 
 QDateTime modificationDate(const ListedEntry& entry) {
     return entry.modifiedMsecs() == ListedEntry::unknownModificationTime
@@ -45,7 +41,7 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
             foldFile(cursor);
         }
         if (++processed % m_interval == 0 && m_onInterval)
-            m_onInterval(QFile::decodeName(cursor.entryPath()));
+            m_onInterval(pathFromBytes(cursor.entryPath()));
     }
     return true;
 }
@@ -57,8 +53,8 @@ void ListingAnalysis::foldFile(const ListingCursor& cursor) {
         m_folderSizes->addFile(cursor.depth(), entry.size());
     m_aggregator.addFile(entry.size(), cursor.depth(), ext, ext.category, [&] {
         FileInfo record;
-        record.path = QFile::decodeName(cursor.entryPath());
-        record.name = decodedName(entry.name());
+        record.path = pathFromBytes(cursor.entryPath());
+        record.name = pathFromBytes(entry.name());
         record.size = entry.size();
         record.fileExtension = ext.ext;
         record.category = ext.category;
@@ -81,7 +77,7 @@ ExtensionTally& ListingAnalysis::tallyFor(QByteArrayView rawExtension) {
     const std::string_view bytes(rawExtension.data(), std::size_t(rawExtension.size()));
     if (const auto known = m_tallies.find(bytes); known != m_tallies.end())
         return *known->second;
-    const QString ext = decodedName(rawExtension).toLower();
+    const QString ext = pathFromBytes(rawExtension).toLower();
     ExtensionTally& made = m_aggregator.tally(ext, categoryForExtension(ext));
     m_tallies.emplace(std::string(bytes), &made);
     return made;

@@ -1,6 +1,7 @@
 #include "FileTrees.h"
 #include "RecordedScan.h"
 #include "ReferenceWalk.h"
+#include "model/PathBytes.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -151,7 +152,7 @@ private slots:
         QCOMPARE(result.largestFiles.size(), names.size());
         for (const FileInfo& file : result.largestFiles) {
             const QByteArray& raw = names[file.size - 10];
-            QCOMPARE(file.name, QFile::decodeName(raw));
+            QCOMPARE(pathToBytes(file.name), raw);
             QCOMPARE(file.path, dir.path() + '/' + file.name);
         }
         QVERIFY(result.extensionStats.contains("md"));

@@ -1,10 +1,10 @@
 #include "ReferenceWalk.h"
 
+#include "model/PathBytes.h"
 #include "scanner/ItemNameRules.h"
 #include "scanner/ScanAggregator.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <algorithm>
 
@@ -58,8 +58,8 @@ QString extensionOf(const QString& name) {
 
 FileInfo recordOf(const WalkedItem& item) {
     FileInfo info;
-    info.path = QFile::decodeName(item.path);
-    info.name = QFile::decodeName(item.path.mid(item.path.lastIndexOf('/') + 1));
+    info.path = pathFromBytes(item.path);
+    info.name = pathFromBytes(item.path.mid(item.path.lastIndexOf('/') + 1));
     info.size = item.size;
     info.fileExtension = extensionOf(info.name);
     info.category = categoryForExtension(info.fileExtension);
@@ -82,7 +82,7 @@ std::vector<WalkedItem> referenceWalk(const QByteArray& root) {
 
 AnalysisResult referenceResult(const QString& root) {
     ScanAggregator aggregator;
-    for (const WalkedItem& item : referenceWalk(QFile::encodeName(root))) {
+    for (const WalkedItem& item : referenceWalk(pathToBytes(root))) {
         if (item.kind != EntryKind::symlink && item.kind != EntryKind::unreadable)
             aggregator.add(recordOf(item));
     }

@@ -5,11 +5,9 @@
 #include "ScanOptionArguments.h"
 
 #include "model/Json.h"
+#include "model/PathNames.h"
 #include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -43,8 +41,7 @@ int runTree(const QStringList& arguments) {
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
-    const QFileInfo folder(parsed.positional.first());
-    const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
+    const QString rootPath = cleanRootPath(parsed.positional.first());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
 
