@@ -16,10 +16,10 @@ namespace tessarine::testing {
 VirtualDisplay::VirtualDisplay() {
     // Xvfb picks the first free display and writes its number to the descriptor it is given,
     // here its own standard output: tests running side by side never meet.
-    m_server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                            QStringLiteral("-screen"), QStringLiteral("0"),
-                                            QStringLiteral("1400x1000x24"),
-                                            QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+    m_server.start(QStringLiteral("Xvfb"),
+                   {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
+                    QStringLiteral("0"), QStringLiteral("1400x1000x24"),
+                    QStringLiteral("-nolisten"), QStringLiteral("tcp")});
     if (!m_server.waitForStarted())
         return;
     const QDeadlineTimer deadline(20'000);
@@ -76,12 +76,15 @@ bool RealApp::start() {
     m_process.start(QStringLiteral(TESSARINE_APP_BINARY), m_arguments);
     if (!m_process.waitForStarted())
         return false;
-    return waitUntil([this] {
-        if (m_process.state() != QProcess::Running)
-            return true;
-        m_probe.connectToServer(m_probeName);
-        return m_probe.waitForConnected(100);
-    }, 20'000) && m_probe.state() == QLocalSocket::ConnectedState;
+    return waitUntil(
+               [this] {
+                   if (m_process.state() != QProcess::Running)
+                       return true;
+                   m_probe.connectToServer(m_probeName);
+                   return m_probe.waitForConnected(100);
+               },
+               20'000) &&
+           m_probe.state() == QLocalSocket::ConnectedState;
 }
 
 QJsonObject RealApp::ask(const QString& request) {

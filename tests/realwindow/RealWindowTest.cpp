@@ -1,5 +1,5 @@
-#include "FileTrees.h"
 #include "RealWindow.h"
+#include "FileTrees.h"
 
 #include <QFile>
 #include <QGuiApplication>
@@ -62,14 +62,16 @@ private slots:
         m_app->wheel(top.center(), 2);
         QVERIFY(waitUntil([&] { return m_app->find(table).top() < top.top() - 60; }));
         QVERIFY(!m_app->scrollTo(QStringLiteral("File Extensions"), top.center()).isEmpty());
-        QVERIFY(!m_app->scrollTo(QStringLiteral("rescanButton"), top.center(), RealApp::Direction::Up)
-                     .isEmpty());
+        QVERIFY(
+            !m_app->scrollTo(QStringLiteral("rescanButton"), top.center(), RealApp::Direction::Up)
+                 .isEmpty());
     }
 
     // The folder treemap is painted whole as soon as it shows, while the pointer rests where the
     // button was, over one of its cells.
     void folderTreemapPaintedAtOnce() {
-        const QRect button = m_app->scrollTo(QStringLiteral("Build Folder Treemap"), m_page.center());
+        const QRect button =
+            m_app->scrollTo(QStringLiteral("Build Folder Treemap"), m_page.center());
         QVERIFY(!button.isEmpty());
         m_app->click(button.center());
         const QRect cells = m_app->waitFor(QStringLiteral("treemapCells"), 30'000);

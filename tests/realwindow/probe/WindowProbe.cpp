@@ -104,7 +104,8 @@ QJsonObject WindowProbe::handle(const QString& request) const {
     QJsonArray rects;
     const QString name = request.section(QLatin1Char(' '), 1, -1);
     for (QWindow* window : QGuiApplication::topLevelWindows()) {
-        if (auto* quickWindow = qobject_cast<QQuickWindow*>(window); quickWindow && window->isVisible())
+        if (auto* quickWindow = qobject_cast<QQuickWindow*>(window);
+            quickWindow && window->isVisible())
             collect(quickWindow->contentItem(), name, rects);
     }
     return {{QStringLiteral("rects"), rects}};

@@ -1,6 +1,7 @@
 #include "QuickTestSetup.h"
 
 #include "AppFixture.h"
+#include "QmlWarnings.h"
 
 #include "app/design/ReturnKeyClicks.h"
 
@@ -22,6 +23,7 @@ void QuickTestSetup::applicationAvailable() {
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
     engine->addImportPath(QStringLiteral(":/"));
+    testing::failOnQmlWarnings(*engine);
     m_fixture = std::make_unique<AppFixture>();
     qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
 }
