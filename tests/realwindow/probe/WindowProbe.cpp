@@ -79,6 +79,7 @@ WindowProbe::WindowProbe(const QString& serverName, QObject* parent)
             connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
         }
     });
+    QLocalServer::removeServer(serverName);
     if (!m_server.listen(serverName))
         qFatal("The window probe cannot listen on %s", qPrintable(serverName));
 }
