@@ -3,7 +3,7 @@
 #include "AppFixture.h"
 #include "QmlWarnings.h"
 
-#include "app/design/ReturnKeyClicks.h"
+#include "design/ReturnKeyClicks.h"
 
 #include <QCoreApplication>
 #include <QLocale>
