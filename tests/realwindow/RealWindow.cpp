@@ -225,6 +225,11 @@ QStringList RealApp::warnings() {
     return warnings;
 }
 
+bool RealApp::waitForExit(int timeoutMs) {
+    return m_process.waitForFinished(timeoutMs) && m_process.exitStatus() == QProcess::NormalExit &&
+           m_process.exitCode() == 0;
+}
+
 double colouredShare(const QImage& image) {
     if (image.isNull())
         return 0;

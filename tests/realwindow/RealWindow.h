@@ -90,6 +90,9 @@ public:
     void screenshot(const QString& name) const;
     // Every warning the program has printed so far.
     QStringList warnings();
+    bool isRunning() const { return m_process.state() == QProcess::Running; }
+    // Waits until the program has ended by itself, successfully.
+    bool waitForExit(int timeoutMs = 10'000);
 
 private:
     QJsonObject ask(const QString& request);
