@@ -1,5 +1,6 @@
 #include "AccessibilityAudit.h"
 #include "AppFixture.h"
+#include "QmlWarnings.h"
 #include "UserFiles.h"
 
 #include "shell/ShellEngine.h"
@@ -24,7 +25,10 @@ public slots:
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Accessibility", &m_audit);
     }
 
-    void qmlEngineAvailable(QQmlEngine* engine) { prepareEngine(*engine); }
+    void qmlEngineAvailable(QQmlEngine* engine) {
+        prepareEngine(*engine);
+        testing::failOnQmlWarnings(*engine);
+    }
 
     void cleanupTestCase() { m_fixture.reset(); }
 

@@ -35,11 +35,6 @@ TestCase {
         ErrorAlert {}
     }
 
-    SignalSpy {
-        id: helpSpy
-        signalName: "helpRequested"
-    }
-
     property ContentView content
     property var viewsSeen: []
 
@@ -54,8 +49,6 @@ TestCase {
     function init() {
         content = createTemporaryObject(contentComponent, testCase)
         commands = createTemporaryObject(commandsComponent, testCase)
-        helpSpy.target = commands
-        helpSpy.clear()
         AppState.currentView = AppState.Landing
     }
 
@@ -106,13 +99,6 @@ TestCase {
         tryCompare(AppState, "isScanning", false, 30000)
         verify(viewsSeen.includes(AppState.History))
         compare(AppState.currentResult.fileCount, 5000)
-    }
-
-    function test_helpShortcutAsksForTheHelpWindow() {
-        keyClick(Qt.Key_Question, Qt.ControlModifier)
-        compare(helpSpy.count, 1)
-        keyClick(Qt.Key_Question, Qt.ControlModifier | Qt.ShiftModifier)
-        compare(helpSpy.count, 2)
     }
 
     function test_droppedFolderStartsAScan() {

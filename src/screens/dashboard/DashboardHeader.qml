@@ -51,20 +51,20 @@ Card {
                 spacing: Theme.spacingLarge
 
                 DetailLabel {
-                    font: Theme.callout
+                    font: Theme.subheadline
                     symbol: "location"
                     text: header.result.rootPath
                     maximumWidth: facts.width
                 }
 
                 DetailLabel {
-                    font: Theme.callout
+                    font: Theme.subheadline
                     symbol: "clock"
                     text: Format.absoluteDate(header.result.scanDate)
                 }
 
                 DetailLabel {
-                    font: Theme.callout
+                    font: Theme.subheadline
                     text: "Scanned in " + header.result.formattedDuration
                 }
 

@@ -28,7 +28,12 @@ QString ResultExport::write(const AnalysisResult& result, Format format,
     } else {
         bytes = json::encode(result);
     }
-    const std::optional<StorageError> error = writeExport(destination.toLocalFile(), bytes);
+    // Qt's own save dialog (used where the desktop offers none) hands a name typed into it back
+    // as a bare path, without the file scheme.
+    const QString path = destination.isLocalFile() || !destination.scheme().isEmpty()
+                             ? destination.toLocalFile()
+                             : destination.path();
+    const std::optional<StorageError> error = writeExport(path, bytes);
     return error ? error->errorDescription() : QString();
 }
 

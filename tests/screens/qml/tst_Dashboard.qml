@@ -81,19 +81,6 @@ ScreenTestCase {
         compare(view.categorySelection.category, -1)
     }
 
-    function test_hoveringACellShowsItsDetails() {
-        const view = dashboard()
-        const treemap = ViewSearch.named(view, "categoryTreemapCells")
-        const label = cellLabels(view)[0]
-        verify(!ViewSearch.named(view, "treemapDetailsBar"))
-        mouseMove(treemap, label.x + label.width / 2, label.y + label.height / 2)
-        tryVerify(() => ViewSearch.named(view, "treemapDetailsBar") !== null)
-        const texts = ViewSearch.texts(ViewSearch.named(view, "treemapDetailsBar"))
-        verify(texts.indexOf(label.name) >= 0)
-        verify(texts.indexOf(label.share) >= 0)
-        mouseMove(treemap, -5, -5)
-    }
-
     function test_extensionsShowAllAndLess() {
         const view = dashboard()
         const extensionRows = () => ViewSearch.withProperty(view, "fraction").length

@@ -2,6 +2,7 @@
 #include "UserFiles.h"
 
 #include "AppFixture.h"
+#include "QmlWarnings.h"
 
 #include "design/ReturnKeyClicks.h"
 
@@ -25,6 +26,7 @@ void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
     // The fixture of the previous test file goes first: its destructor hands the desktop back to
     // the real one, which must not undo what the new fixture sets up.
     m_fixture.reset();
+    testing::failOnQmlWarnings(*engine);
     m_fixture = std::make_unique<AppFixture>();
     qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
 }
