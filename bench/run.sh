@@ -64,6 +64,7 @@ command_of() {
     gdu) argv=(gdu -n -p -c "$tree") ;;
     ncdu) argv=(ncdu -o /dev/null "$tree") ;;
     tree) argv=("$cli" tree "$tree") ;;
+    import) argv=("$cli" import "$ncdu_export") ;;
     walker-*) argv=("$walker" "$tree" "${1#walker-}") ;;
     esac
 }
@@ -187,6 +188,28 @@ echo "$(verdict "$wall_vs_gdu" 0.4)  scan wall time <= 0.4 x gdu ($wall_vs_gdu)"
 echo "$(verdict "$wall_vs_walker" 1.1)  scan wall time <= 1.1 x the minimal walker ($wall_vs_walker)"
 echo "$(verdict "$rss_vs_gdu" 0.5)  scan peak memory <= 0.5 x gdu ($rss_vs_gdu)"
 echo "$(verdict "$tree_vs_scan" 1.0)  tree wall time <= 1.0 x scan ($tree_vs_scan)"
+
+# --- Importing a scan made elsewhere -------------------------------------------------------------
+# ncdu's export of the same tree, made once beside it, read back as a result (with its folder
+# tree) against a scan of the tree itself.
+ncdu_export=$cache/ncdu-export.json
+if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
+    ncdu -o "$ncdu_export.partial" "$tree" && mv "$ncdu_export.partial" "$ncdu_export"
+fi
+echo
+echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
+for ((run = 1; run <= runs; run++)); do
+    measure tessarine import_
+    measure import import_
+done
+label[import]="tessarine-cli import"
+table import_ "$runs" tessarine import
+import_vs_scan=$(ratio "$wall_import_import" "$wall_import_tessarine")
+import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s "$ncdu_export")" \
+    'BEGIN { printf "%.0f", scan + bytes / 1024 }')
+echo
+echo "$(verdict "$import_vs_scan" 1.5)  import wall time <= 1.5 x scan ($import_vs_scan)"
+echo "$(verdict "$rss_import_import" "$import_memory_limit")  import peak memory <= scan's + the file's size ($((rss_import_import / 1024)) MB, limit $((import_memory_limit / 1024)) MB)"
 
 if [[ -x $responsiveness ]]; then
     echo

@@ -99,6 +99,13 @@ QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in) {
     return extensions;
 }
 
+ImportSource readImportSource(const ObjectReader& in) {
+    return {.program = in.string(u"program"),
+            .fileName = in.string(u"fileName"),
+            .importDate = in.date(u"importDate"),
+            .unknownFields = in.strings(u"unknownFields")};
+}
+
 AnalysisResult readResult(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .scanDate = in.date(u"scanDate"),
@@ -116,7 +123,10 @@ AnalysisResult readResult(const ObjectReader& in) {
             .insights = in.list(u"insights", readInsight),
             .folderTree = in.isAbsentOrNull(u"folderTree")
                               ? SharedFolderTree()
-                              : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr))};
+                              : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr)),
+            .importSource = in.isAbsentOrNull(u"importSource")
+                                ? std::nullopt
+                                : std::optional(readImportSource(in.object(u"importSource")))};
 }
 
 } // namespace

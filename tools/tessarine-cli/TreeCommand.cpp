@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "NcduTreeExport.h"
 
 #include "model/Json.h"
 #include "tree/FolderTreeRoot.h"
@@ -15,6 +16,8 @@
 namespace tessarine::cli {
 
 namespace {
+
+const QString ncduOption = QStringLiteral("--ncdu");
 
 // How many levels of folders lie below the root.
 qint64 levelsBelow(const FolderInfo& root) {
@@ -38,13 +41,15 @@ FolderTreeOutcome buildTree(const QString& rootPath) {
 } // namespace
 
 int runTree(const QStringList& arguments) {
-    const auto parsing = parseFolderCommand(arguments, {}, QStringLiteral("tree"));
+    const auto parsing = parseFolderCommand(arguments, {ncduOption}, QStringLiteral("tree"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
     const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
+    if (std::get<Arguments>(parsing).has(ncduOption))
+        return writeNcduTree(rootPath);
 
     FolderTreeOutcome outcome = buildTree(rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
