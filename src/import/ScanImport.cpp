@@ -47,7 +47,8 @@ bool cutBelowReadableDepth(FolderInfo& root) {
     return cut;
 }
 
-ImportOutcome importNcdu(QByteArrayView bytes, ImportSource source) {
+ImportOutcome importNcdu(QByteArrayView bytes, ImportSource source,
+                         const std::function<void()>& onRead) {
     NcduListingReader reader(bytes);
     DirectoryListing listing;
     try {
@@ -55,6 +56,8 @@ ImportOutcome importNcdu(QByteArrayView bytes, ImportSource source) {
     } catch (const ByteJsonFailure& failure) {
         return malformed(failure);
     }
+    if (onRead)
+        onRead();
     const QString rootPath = rootPathOf(listing);
     if (listing.isEmpty())
         return ImportError{ImportError::Kind::empty, rootPath};
@@ -102,14 +105,15 @@ ImportOutcome importResult(QByteArrayView bytes, ImportSource source) {
 
 } // namespace
 
-ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName) {
+ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName,
+                         const std::function<void()>& onRead) {
     ImportSource source;
     source.fileName = sourceName;
     // Whole seconds, as a stored result keeps its dates.
     source.importDate = QDateTime::fromSecsSinceEpoch(QDateTime::currentSecsSinceEpoch(), Qt::UTC);
     const QByteArrayView trimmed = bytes.trimmed();
     if (trimmed.startsWith('['))
-        return importNcdu(bytes, std::move(source));
+        return importNcdu(bytes, std::move(source), onRead);
     if (trimmed.startsWith('{'))
         return importResult(bytes, std::move(source));
     return ImportError{ImportError::Kind::notAScan, sourceName};

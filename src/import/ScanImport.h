@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QString>
 
+#include <functional>
 #include <variant>
 
 namespace tessarine {
@@ -17,7 +18,10 @@ using ImportOutcome = std::variant<AnalysisResult, ImportError>;
 // disk, and keeps its folder tree in the result, so the folder views never look for that path on
 // this machine; a result written by Tessarine (a history file, or `tessarine-cli scan` output) is
 // taken as it is, under a new id. Either is marked with where it came from and which of its
-// fields the file could not give. `sourceName` is recorded as the file's name.
-ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName);
+// fields the file could not give. `sourceName` is recorded as the file's name. `bytes` are read
+// once, before anything else is built; `onRead` is then told, so a caller can give their memory
+// back before the result takes its own.
+ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName,
+                         const std::function<void()>& onRead = {});
 
 } // namespace tessarine

@@ -31,8 +31,11 @@ int runImport(const QStringList& arguments) {
         printError(error->errorDescription());
         return exitFailure;
     }
-    const auto& input = std::get<std::unique_ptr<ImportInput>>(opened);
-    const ImportOutcome outcome = importScan(input->bytes(), input->sourceName());
+    auto& input = std::get<std::unique_ptr<ImportInput>>(opened);
+    // The export's text is all in the listing once read: its pages go before the result is made.
+    const QString sourceName = input->sourceName();
+    const ImportOutcome outcome =
+        importScan(input->bytes(), sourceName, [&input] { input.reset(); });
     if (const auto* error = std::get_if<ImportError>(&outcome)) {
         printError(error->errorDescription());
         return exitFailure;
