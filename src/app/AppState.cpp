@@ -1,5 +1,6 @@
 #include "AppState.h"
 
+#include "import/ScanImport.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
 #include "storage/PersistenceService.h"
@@ -212,6 +213,35 @@ void AppState::deleteScan(const AnalysisResult& result) {
         return;
     }
     m_scanHistory.removeAll(result.id);
+}
+
+void AppState::importScan(const QUrl& file) {
+    m_workers.start([this, path = folderPathOf(file)] {
+        ImportOutcome outcome = importScanFile(path);
+        QMetaObject::invokeMethod(
+            this,
+            [this, outcome = std::move(outcome)] {
+                if (const auto* failure = std::get_if<ImportError>(&outcome)) {
+                    setError(AppError::importFailed(failure->errorDescription()));
+                    return;
+                }
+                const auto& result = std::get<AnalysisResult>(outcome);
+                saveResult(result);
+                openResult(result);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void AppState::rescan(const AnalysisResult& result) {
+    if (result.importSource) {
+        setError(AppError::scanFailed(
+            QStringLiteral("%1 was scanned on another machine (imported from %2); import a new "
+                           "scan of it instead.")
+                .arg(result.rootPath, result.importSource->fileName)));
+        return;
+    }
+    startScan(result.rootPath);
 }
 
 void AppState::openResult(const AnalysisResult& result) {

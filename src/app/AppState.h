@@ -97,6 +97,12 @@ public:
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
     Q_INVOKABLE void deleteScan(const tessarine::AnalysisResult& result);
+    // Reads a scan made elsewhere (an ncdu export, a Tessarine result) off the interface thread,
+    // stores it and shows it; a file that is neither raises the import alert.
+    Q_INVOKABLE void importScan(const QUrl& file);
+    // Scans the result's folder again. An imported result names a folder on another machine, so
+    // the alert says so instead of scanning whatever has that path here.
+    Q_INVOKABLE void rescan(const tessarine::AnalysisResult& result);
     // Shows a stored result on the dashboard.
     Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearError();

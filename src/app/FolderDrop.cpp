@@ -8,4 +8,8 @@ bool FolderDrop::isFolder(const QUrl& url) {
     return url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
 }
 
+bool FolderDrop::isImportable(const QUrl& url) {
+    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile();
+}
+
 } // namespace tessarine

@@ -1,5 +1,6 @@
 #include "import/ScanImport.h"
 
+#include "import/ImportInput.h"
 #include "import/NcduListingReader.h"
 #include "model/Json.h"
 #include "model/PathNames.h"
@@ -117,6 +118,16 @@ ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName,
     if (trimmed.startsWith('{'))
         return importResult(bytes, std::move(source));
     return ImportError{ImportError::Kind::notAScan, sourceName};
+}
+
+ImportOutcome importScanFile(const QString& path) {
+    auto opened = ImportInput::open(path);
+    if (auto* error = std::get_if<ImportError>(&opened))
+        return std::move(*error);
+    auto& input = std::get<std::unique_ptr<ImportInput>>(opened);
+    // The export's text is all in the listing once read: its pages go before the result is made.
+    const QString sourceName = input->sourceName();
+    return importScan(input->bytes(), sourceName, [&input] { input.reset(); });
 }
 
 } // namespace tessarine

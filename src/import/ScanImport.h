@@ -24,4 +24,7 @@ using ImportOutcome = std::variant<AnalysisResult, ImportError>;
 ImportOutcome importScan(QByteArrayView bytes, const QString& sourceName,
                          const std::function<void()>& onRead = {});
 
+// The same for a file ("-" for standard input), whose text is let go as soon as it is read.
+ImportOutcome importScanFile(const QString& path);
+
 } // namespace tessarine

@@ -38,6 +38,7 @@ ApplicationWindow {
         onCloseWindowRequested: window.close()
         // The engine hands the request to the application, which ends once the event loop turns.
         onQuitRequested: Qt.quit()
+        onImportRequested: contentView.openImportPicker()
     }
 
     // Closes this window while it has the keyboard; the help window has its own.
@@ -47,6 +48,7 @@ ApplicationWindow {
     }
 
     ContentView {
+        id: contentView
         anchors.fill: parent
     }
 

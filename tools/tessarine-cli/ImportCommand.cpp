@@ -5,7 +5,6 @@
 #include "StandardStreams.h"
 #include "Usage.h"
 
-#include "import/ImportInput.h"
 #include "import/ScanImport.h"
 #include "model/Json.h"
 #include "storage/PersistenceService.h"
@@ -26,16 +25,7 @@ int runImport(const QStringList& arguments) {
     if (parsed->positional.size() != 1)
         return usageError(QStringLiteral("import needs exactly one FILE (- for standard input)"));
 
-    auto opened = ImportInput::open(parsed->positional.first());
-    if (const auto* error = std::get_if<ImportError>(&opened)) {
-        printError(error->errorDescription());
-        return exitFailure;
-    }
-    auto& input = std::get<std::unique_ptr<ImportInput>>(opened);
-    // The export's text is all in the listing once read: its pages go before the result is made.
-    const QString sourceName = input->sourceName();
-    const ImportOutcome outcome =
-        importScan(input->bytes(), sourceName, [&input] { input.reset(); });
+    const ImportOutcome outcome = importScanFile(parsed->positional.first());
     if (const auto* error = std::get_if<ImportError>(&outcome)) {
         printError(error->errorDescription());
         return exitFailure;

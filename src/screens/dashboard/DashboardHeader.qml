@@ -62,8 +62,20 @@ Card {
                 }
 
                 DetailLabel {
+                    visible: !header.result.isImported
                     font: Theme.callout
                     text: "Scanned in " + header.result.formattedDuration
+                }
+
+                DetailLabel {
+                    objectName: "importedLabel"
+                    visible: header.result.isImported
+                    font: Theme.callout
+                    symbol: "square.and.arrow.down"
+                    text: "Imported from " + header.result.importSource.program + " ("
+                          + header.result.importSource.fileName + "), "
+                          + Format.absoluteDate(header.result.importSource.importDate)
+                    maximumWidth: facts.width
                 }
             }
         }
@@ -73,7 +85,7 @@ Card {
             Layout.alignment: Qt.AlignTop
             text: "Rescan"
             symbol: "arrow.clockwise"
-            onClicked: AppState.startScan(FolderUrl.fromPath(header.result.rootPath))
+            onClicked: AppState.rescan(header.result)
         }
     }
 }
