@@ -3,6 +3,7 @@
 #include "import/ImportInput.h"
 #include "import/NcduListingReader.h"
 #include "model/Json.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
 #include "scanner/ListingAnalysis.h"
@@ -10,7 +11,6 @@
 #include "tree/FolderTreeAssembly.h"
 
 #include <QDir>
-#include <QFile>
 
 #include <atomic>
 
@@ -25,7 +25,7 @@ ImportError malformed(const ByteJsonFailure& failure) {
 
 // An export from another machine names a folder there: it is cleaned, never resolved here.
 QString rootPathOf(const DirectoryListing& listing) {
-    return QDir::cleanPath(QFile::decodeName(listing.rootPath()));
+    return QDir::cleanPath(pathFromBytes(listing.rootPath()));
 }
 
 // A stored result must read back, and JSON readers stop some five hundred levels of folders

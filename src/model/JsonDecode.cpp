@@ -99,6 +99,19 @@ QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in) {
     return extensions;
 }
 
+// Written only when some option is on; a member left out inside it is off.
+ScanOptions readScanOptions(const ObjectReader& result) {
+    if (result.isAbsentOrNull(u"scanOptions"))
+        return {};
+    const ObjectReader in = result.object(u"scanOptions");
+    const auto flag = [&](QStringView name) {
+        return !in.isAbsentOrNull(name) && in.boolean(name);
+    };
+    return {.includeHidden = flag(u"includeHidden"),
+            .oneFileSystem = flag(u"oneFileSystem"),
+            .diskUsage = flag(u"diskUsage")};
+}
+
 ImportSource readImportSource(const ObjectReader& in) {
     return {.program = in.string(u"program"),
             .fileName = in.string(u"fileName"),
@@ -124,6 +137,7 @@ AnalysisResult readResult(const ObjectReader& in) {
             .folderTree = in.isAbsentOrNull(u"folderTree")
                               ? SharedFolderTree()
                               : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr)),
+            .scanOptions = readScanOptions(in),
             .importSource = in.isAbsentOrNull(u"importSource")
                                 ? std::nullopt
                                 : std::optional(readImportSource(in.object(u"importSource")))};

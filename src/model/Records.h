@@ -6,6 +6,7 @@
 #include "model/FolderPath.h"
 #include "model/InsightType.h"
 #include "model/RecordId.h"
+#include "model/ScanOptions.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -229,6 +230,7 @@ struct AnalysisResult {
     Q_PROPERTY(QString formattedDuration READ formattedDuration)
     Q_PROPERTY(QString folderName READ folderName)
     Q_PROPERTY(tessarine::SharedFolderTree folderTree MEMBER folderTree)
+    Q_PROPERTY(tessarine::ScanOptions scanOptions MEMBER scanOptions)
     Q_PROPERTY(bool isImported READ isImported)
     Q_PROPERTY(tessarine::ImportSource importSource READ importSourceOrNone)
 
@@ -248,6 +250,7 @@ public:
     QHash<QString, ExtensionStats> extensionStats; // keyed by ExtensionStats::ext
     QList<PatternInsight> insights;
     SharedFolderTree folderTree;
+    ScanOptions scanOptions; // what the scan was made with
     std::optional<ImportSource> importSource; // only in results read from another program's file
 
     // The extension entries, largest totalSize first.

@@ -14,17 +14,18 @@
 
 namespace tessarine::cli {
 
-int writeNcduTree(const QString& rootPath) {
+int writeNcduTree(const QString& rootPath, const ScanOptions& options) {
     std::atomic<bool> cancelled{false};
     std::atomic<qint64> found{0};
-    DirectoryWalker::Options options;
-    options.cancelled = &cancelled;
+    DirectoryWalker::Options walk;
+    walk.cancelled = &cancelled;
     // As the folder tree counts: a link at its own size, and every file kept with its name.
-    options.detail.linkSizes = true;
-    options.onProgress = [&](const WalkProgress& walk) { found = walk.items; };
+    walk.detail.linkSizes = true;
+    walk.scanOptions = options;
+    walk.onProgress = [&](const WalkProgress& progress) { found = progress.items; };
     DirectoryListing listing;
     const bool interrupted = runInBackground({
-        [&] { listing = DirectoryWalker(std::move(options)).walk(rootPath); },
+        [&] { listing = DirectoryWalker(std::move(walk)).walk(rootPath); },
         [&] { cancelled = true; },
         [&] { return found ? format::count(found) + QStringLiteral(" items") : QString(); },
     });
