@@ -104,6 +104,7 @@ command_of() {
     unlinked-tree) argv=("$cli" tree "$unlinked") ;;
     hidden) argv=("$cli" scan --hidden "$target") ;;
     hidden-walker-*) argv=("$walker" "$target" "${1#hidden-walker-}" --hidden) ;;
+    import) argv=("$cli" import "$ncdu_export") ;;
     esac
 }
 
@@ -298,6 +299,28 @@ fi
 
 [[ $rounds == *" app "* ]] || exit 0
 
+
+# --- Importing a scan made elsewhere -------------------------------------------------------------
+# ncdu's export of the same tree, made once beside it, read back as a result (with its folder
+# tree) against a scan of the tree itself.
+ncdu_export=$cache/ncdu-export.json
+if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
+    ncdu -o "$ncdu_export.partial" "$tree" && mv "$ncdu_export.partial" "$ncdu_export"
+fi
+echo
+echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
+for ((run = 1; run <= runs; run++)); do
+    measure tessarine import_
+    measure import import_
+done
+label[import]="tessarine-cli import"
+table import_ "$runs" tessarine import
+import_vs_scan=$(ratio "$wall_import_import" "$wall_import_tessarine")
+import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s "$ncdu_export")" \
+    'BEGIN { printf "%.0f", scan + bytes / 1024 }')
+echo
+echo "$(verdict "$import_vs_scan" 1.5)  import wall time <= 1.5 x scan ($import_vs_scan)"
+echo "$(verdict "$rss_import_import" "$import_memory_limit")  import peak memory <= scan's + the file's size ($((rss_import_import / 1024)) MB, limit $((import_memory_limit / 1024)) MB)"
 
 if [[ -x $responsiveness ]]; then
     echo

@@ -2,6 +2,7 @@
 
 #include "StoredScanOptions.h"
 #include "model/PathBytes.h"
+#include "import/ScanImport.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
 #include "scanner/PathAccess.h"
@@ -154,6 +155,13 @@ void AppState::startScan(const QString& folderPath) {
 }
 
 void AppState::rescan(const AnalysisResult& result) {
+    if (result.importSource) {
+        setError(AppError::scanFailed(
+            QStringLiteral("%1 was scanned on another machine (imported from %2); import a new "
+                           "scan of it instead.")
+                .arg(result.rootPath, result.importSource->fileName)));
+        return;
+    }
     beginScan(result.rootPath, result.scanOptions);
 }
 
@@ -241,6 +249,24 @@ void AppState::deleteScan(const AnalysisResult& result) {
         return;
     }
     m_scanHistory.removeAll(result.id);
+}
+
+void AppState::importScan(const QUrl& file) {
+    m_workers.start([this, path = folderPathOf(file)] {
+        ImportOutcome outcome = importScanFile(path);
+        QMetaObject::invokeMethod(
+            this,
+            [this, outcome = std::move(outcome)] {
+                if (const auto* failure = std::get_if<ImportError>(&outcome)) {
+                    setError(AppError::importFailed(failure->errorDescription()));
+                    return;
+                }
+                const auto& result = std::get<AnalysisResult>(outcome);
+                saveResult(result);
+                openResult(result);
+            },
+            Qt::QueuedConnection);
+    });
 }
 
 void AppState::openResult(const AnalysisResult& result) {

@@ -104,12 +104,16 @@ public:
     Q_INVOKABLE void startScan(const QUrl& folder);
     void startScan(const QString& folderPath);
     // Scans a result's folder again with the options it was made with, so that the new result
-    // compares with it.
+    // compares with it. An imported result names a folder on another machine, so the alert says
+    // so instead of scanning whatever has that path here.
     Q_INVOKABLE void rescan(const tessarine::AnalysisResult& result);
     // Stops the running scan and returns to the landing view at once, without an error.
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
     Q_INVOKABLE void deleteScan(const tessarine::AnalysisResult& result);
+    // Reads a scan made elsewhere (an ncdu export, a Tessarine result) off the interface thread,
+    // stores it and shows it; a file that is neither raises the import alert.
+    Q_INVOKABLE void importScan(const QUrl& file);
     // Shows a stored result on the dashboard.
     Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearError();

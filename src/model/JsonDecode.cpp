@@ -112,6 +112,13 @@ ScanOptions readScanOptions(const ObjectReader& result) {
             .diskUsage = flag(u"diskUsage")};
 }
 
+ImportSource readImportSource(const ObjectReader& in) {
+    return {.program = in.string(u"program"),
+            .fileName = in.string(u"fileName"),
+            .importDate = in.date(u"importDate"),
+            .unknownFields = in.strings(u"unknownFields")};
+}
+
 AnalysisResult readResult(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .scanDate = in.date(u"scanDate"),
@@ -130,7 +137,10 @@ AnalysisResult readResult(const ObjectReader& in) {
             .folderTree = in.isAbsentOrNull(u"folderTree")
                               ? SharedFolderTree()
                               : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr)),
-            .scanOptions = readScanOptions(in)};
+            .scanOptions = readScanOptions(in),
+            .importSource = in.isAbsentOrNull(u"importSource")
+                                ? std::nullopt
+                                : std::optional(readImportSource(in.object(u"importSource")))};
 }
 
 } // namespace

@@ -118,6 +118,16 @@ void writeInsight(JsonWriter& writer, const PatternInsight& insight) {
     writer.endObject();
 }
 
+void writeImportSource(JsonWriter& writer, const ImportSource& source) {
+    writer.beginObject();
+    writer.member(u"fileName", source.fileName);
+    writer.member(u"importDate", formatDate(source.importDate));
+    writer.member(u"program", source.program);
+    writer.key(u"unknownFields");
+    writeStrings(writer, source.unknownFields);
+    writer.endObject();
+}
+
 template <typename Record, typename WriteOne>
 void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeOne) {
     writer.beginArray();
@@ -144,6 +154,10 @@ QByteArray encode(const AnalysisResult& result) {
         writeFolderTree(writer, *result.folderTree);
     }
     writer.member(u"id", result.id);
+    if (result.importSource) {
+        writer.key(u"importSource");
+        writeImportSource(writer, *result.importSource);
+    }
     writer.key(u"insights");
     writeList(writer, result.insights, writeInsight);
     writer.key(u"largestFiles");

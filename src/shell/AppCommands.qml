@@ -9,6 +9,7 @@ Item {
     // The menu's "Close Window": the menu is the main window's, so it closes that window.
     signal closeWindowRequested
     signal quitRequested
+    signal importRequested
 
     function newScan() {
         AppState.showFolderPicker = true
@@ -22,6 +23,12 @@ Item {
         sequence: "Ctrl+N"
         context: Qt.ApplicationShortcut
         onActivated: newScan()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+I"
+        context: Qt.ApplicationShortcut
+        onActivated: importRequested()
     }
 
     Shortcut {

@@ -22,6 +22,11 @@ MenuBar {
             onTriggered: bar.commands.newScan()
         }
         AppMenuItem {
+            text: "&Import Scan..."
+            shortcutText: "Ctrl+I"
+            onTriggered: bar.commands.importRequested()
+        }
+        AppMenuItem {
             text: "&View History"
             shortcutText: "Ctrl+Shift+H"
             onTriggered: bar.commands.viewHistory()

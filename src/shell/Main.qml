@@ -39,6 +39,7 @@ ApplicationWindow {
         onCloseWindowRequested: window.close()
         // The engine hands the request to the application, which ends once the event loop turns.
         onQuitRequested: Qt.quit()
+        onImportRequested: contentView.openImportPicker()
     }
 
     // Closes this window while it has the keyboard; the help window has its own.
@@ -48,6 +49,7 @@ ApplicationWindow {
     }
 
     ContentView {
+        id: contentView
         anchors.fill: parent
     }
 

@@ -213,6 +213,33 @@ private slots:
         QCOMPARE(historyFiles(store).size(), 1);
     }
 
+    // A scan made on a server arrives as ncdu's export: it is stored and shown with the tree it
+    // came with, and a rescan does not go looking for a folder of that name here.
+    void importedScanIsShownStoredAndNeverRescannedHere() {
+        QTemporaryDir home, files;
+        PersistenceService store(home.path());
+        AppState state(store);
+        const QString exported = testing::writeFile(
+            files.filePath("server.json"),
+            QByteArray(R"([1,2,{"progname":"ncdu","progver":"1.18","timestamp":1700000000},)"
+                       R"([{"name":"/srv"},[{"name":"www"},{"name":"index.html","asize":700}]]])"));
+        state.importScan(QUrl::fromLocalFile(exported));
+        QTRY_COMPARE(state.currentView(), AppState::Dashboard);
+        const AnalysisResult shown = *state.currentResult();
+        QCOMPARE(shown.rootPath, "/srv");
+        QCOMPARE(shown.totalSize, 700);
+        QCOMPARE(shown.folderTree->childFolders.front().name, "www");
+        QCOMPARE(historyFiles(store).size(), 1);
+
+        state.rescan(shown);
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QVERIFY(state.error()->errorDescription().contains("another machine"));
+
+        state.importScan(QUrl::fromLocalFile(files.filePath("missing.json")));
+        QTRY_VERIFY(state.error()->errorDescription().startsWith("Import failed: "));
+        QCOMPARE(historyFiles(store).size(), 1);
+    }
+
     // Newest first, broken files skipped and left alone; another process (tessarine-cli scan
     // --save) writes through a store of its own and the list follows.
     void historyFollowsTheFolderOnDisk() {

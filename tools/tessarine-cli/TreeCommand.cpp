@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "NcduTreeExport.h"
 #include "ScanOptionArguments.h"
 
 #include "model/Json.h"
@@ -14,6 +15,8 @@
 namespace tessarine::cli {
 
 namespace {
+
+const QString ncduOption = QStringLiteral("--ncdu");
 
 // How many levels of folders lie below the root.
 qint64 levelsBelow(const FolderInfo& root) {
@@ -37,13 +40,16 @@ FolderTreeOutcome buildTree(const QString& rootPath, const ScanOptions& options)
 } // namespace
 
 int runTree(const QStringList& arguments) {
-    const auto parsing = parseFolderCommand(arguments, scanOptionNames(), QStringLiteral("tree"));
+    const auto parsing = parseFolderCommand(arguments, QStringList{ncduOption} + scanOptionNames(),
+                                            QStringLiteral("tree"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
     const QString rootPath = cleanRootPath(parsed.positional.first());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
+    if (std::get<Arguments>(parsing).has(ncduOption))
+        return writeNcduTree(rootPath, scanOptionsOf(parsed));
 
     FolderTreeOutcome outcome = buildTree(rootPath, scanOptionsOf(parsed));
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))

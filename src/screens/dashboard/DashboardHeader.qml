@@ -64,8 +64,20 @@ Card {
                 }
 
                 DetailLabel {
+                    visible: !header.result.isImported
                     font: Theme.subheadline
                     text: "Scanned in " + header.result.formattedDuration
+                }
+
+                DetailLabel {
+                    objectName: "importedLabel"
+                    visible: header.result.isImported
+                    font: Theme.subheadline
+                    symbol: "square.and.arrow.down"
+                    text: "Imported from " + header.result.importSource.program + " ("
+                          + header.result.importSource.fileName + "), "
+                          + Format.absoluteDate(header.result.importSource.importDate)
+                    maximumWidth: facts.width
                 }
 
                 // How this result counted, when not as by default: its figures read differently.
