@@ -84,7 +84,7 @@ Card {
                 DetailLabel {
                     objectName: "scanOptionsLabel"
                     visible: header.result.scanOptions.labels.length > 0
-                    font: Theme.callout
+                    font: Theme.subheadline
                     symbol: "gearshape"
                     text: header.result.scanOptions.labels.join(", ")
                 }
