@@ -87,7 +87,6 @@ public:
     AppError errorOrEmpty() const { return m_error.value_or(AppError{}); }
     bool hasError() const { return m_error.has_value(); }
     void setError(const AppError& error);
-    bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
 
     // Begins a scan of the folder; a scan already running is cancelled and replaced. Accepts a
     // file URL or a plain path.

@@ -74,6 +74,8 @@ private:
     int m_hoveredIndex = -1;
     qreal m_hoverScale = 1;
     bool m_keyboardFocus = false;
+    // The focus ring's colour in the current colour scheme.
+    QColor m_accent;
     // Where the pointer last hovered, in the item's coordinates.
     QPointF m_pointer{-1, -1};
 };
