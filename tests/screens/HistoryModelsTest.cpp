@@ -168,10 +168,10 @@ private slots:
         QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
         QList<AnalysisResult> target;
         int made = 0;
-        for (int round = 0; round < 400; ++round) {
+        for (int round = 0; round < 200; ++round) {
             bool moved = false;
             for (int edits = random.bounded(1, 6); edits > 0; --edits) {
-                const int at = int(random.bounded(qsizetype(target.size()) + 1));
+                const int at = random.bounded(int(target.size()) + 1);
                 const bool some = at < target.size();
                 switch (random.bounded(5)) {
                 case 0:
@@ -187,7 +187,7 @@ private slots:
                     break;
                 case 3:
                     if (some && target.size() > 1) {
-                        const int to = int(random.bounded(qsizetype(target.size())));
+                        const int to = random.bounded(int(target.size()));
                         moved = moved || to != at;
                         target.move(at, to);
                     }
