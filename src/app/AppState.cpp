@@ -1,7 +1,9 @@
 #include "AppState.h"
 
+#include "StoredScanOptions.h"
 #include "model/PathNames.h"
 #include "scanner/FileSystemScanner.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
@@ -42,7 +44,8 @@ QString folderPathOf(const QUrl& folder) {
 
 AppState::AppState(PersistenceService& store, QObject* parent)
     : QObject(parent)
-    , m_store(store) {
+    , m_store(store)
+    , m_scanOptions(loadScanOptions()) {
     m_progressWatcher.setInterval(progressWatchInterval);
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
@@ -105,6 +108,13 @@ void AppState::setError(const AppError& error) {
         emit errorChanged();
 }
 
+void AppState::setScanOptions(const ScanOptions& options) {
+    if (!assignIfChanged(m_scanOptions, options))
+        return;
+    storeScanOptions(options);
+    emit scanOptionsChanged();
+}
+
 void AppState::clearError() {
     if (assignIfChanged(m_error, std::optional<AppError>()))
         emit errorChanged();
@@ -139,6 +149,14 @@ void AppState::startScan(const QUrl& folder) {
 }
 
 void AppState::startScan(const QString& folderPath) {
+    beginScan(folderPath, m_scanOptions);
+}
+
+void AppState::rescan(const AnalysisResult& result) {
+    beginScan(result.rootPath, result.scanOptions);
+}
+
+void AppState::beginScan(const QString& folderPath, const ScanOptions& options) {
     // A running scan is replaced: its outcome is dropped, and its task cancelled so that it does
     // not compete with the new one for the disk, even if its worker has not started yet.
     m_currentScanCancel.cancel();
@@ -149,11 +167,12 @@ void AppState::startScan(const QString& folderPath) {
     const TaskId task = ++m_lastTaskId;
     m_currentScanTask = task;
     m_currentScanCancel = CancelToken();
-    performScan(task, m_currentScanCancel, folderPath);
+    performScan(task, m_currentScanCancel, folderPath, options);
 }
 
-void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath) {
-    auto scanner = std::make_shared<FileSystemScanner>();
+void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath,
+                           const ScanOptions& options) {
+    auto scanner = std::make_shared<FileSystemScanner>(options);
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();
@@ -181,7 +200,7 @@ void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>&
     if (auto last = scanner->currentProgress())
         setScanProgress(last);
     setCurrentResult(result);
-    saveResult(result);
+    saveResult(result, scanner->folderSizes());
     setIsScanning(false);
     setCurrentView(Dashboard);
     m_currentScanner.reset();
@@ -198,12 +217,21 @@ void AppState::failScan(TaskId task, const ScanError& failure) {
     m_currentScanner.reset();
 }
 
-void AppState::saveResult(const AnalysisResult& result) {
+void AppState::saveResult(const AnalysisResult& result, const FolderSizes* folderSizes) {
     if (const auto failure = m_store.save(result)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
     m_scanHistory.prepend(result);
+    // The scan stays saved when its folder sizes cannot follow: it just has no folder figures.
+    if (folderSizes) {
+        if (const auto failure = saveFolderSizes(m_store.storagePath(), result.id, *folderSizes))
+            setError(AppError::saveFailed(failure->errorDescription()));
+    }
+}
+
+QString AppState::historyFolder() const {
+    return m_store.storagePath();
 }
 
 void AppState::deleteScan(const AnalysisResult& result) {

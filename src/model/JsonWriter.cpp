@@ -220,6 +220,15 @@ void JsonWriter::write(bool value) {
     append(value ? "true" : "false", value ? 4 : 5);
 }
 
+void JsonWriter::write(std::optional<qint64> value) {
+    if (value) {
+        write(*value);
+        return;
+    }
+    beginValue();
+    append("null", 4);
+}
+
 void JsonWriter::write(const QUuid& id) {
     beginValue();
     // Laid out on the stack, as every folder of a tree has one. Hexadecimal digits and hyphens

@@ -1,5 +1,6 @@
 #include "scanner/ListingAnalysis.h"
 
+#include "scanner/FolderSizeTally.h"
 #include "scanner/ItemNameRules.h"
 #include "scanner/ListingCursor.h"
 
@@ -36,10 +37,13 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
         const ListedEntry& entry = cursor.entry();
         if (entry.kind() == EntryKind::symlink || entry.kind() == EntryKind::unreadable)
             continue;
-        if (entry.isFolder())
+        if (entry.isFolder()) {
             m_aggregator.addFolder(cursor.depth());
-        else
+            if (m_folderSizes)
+                m_folderSizes->addFolder(cursor.depth(), entry.name());
+        } else {
             foldFile(cursor);
+        }
         if (++processed % m_interval == 0 && m_onInterval)
             m_onInterval(QFile::decodeName(cursor.entryPath()));
     }
@@ -49,6 +53,8 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
 void ListingAnalysis::foldFile(const ListingCursor& cursor) {
     const ListedEntry& entry = cursor.entry();
     ExtensionTally& ext = tallyFor(pathExtension(entry.name()));
+    if (m_folderSizes)
+        m_folderSizes->addFile(cursor.depth(), entry.size());
     m_aggregator.addFile(entry.size(), cursor.depth(), ext, ext.category, [&] {
         FileInfo record;
         record.path = QFile::decodeName(cursor.entryPath());

@@ -22,6 +22,8 @@ QVariant ChangeListModel::rowData(const ChangeRow& row, int role) const {
         return row.icon;
     case IconColorRole:
         return row.iconColor;
+    case ShareRole:
+        return row.share;
     }
     return {};
 }
