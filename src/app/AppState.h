@@ -95,7 +95,6 @@ public:
     AppError errorOrEmpty() const { return m_error.value_or(AppError{}); }
     bool hasError() const { return m_error.has_value(); }
     void setError(const AppError& error);
-    bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
     const ScanOptions& scanOptions() const { return m_scanOptions; }
     void setScanOptions(const ScanOptions& options);
 

@@ -3,6 +3,7 @@
 #include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 #include "charts/TreemapNavigation.h"
+#include "design/ColorScheme.h"
 #include "design/Palette.h"
 
 #include <QKeyEvent>
@@ -73,8 +74,7 @@ void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered
 
 // The ring of the design's buttons, drawn inside the cell so that neighbours do not cover it, with
 // a white line inside it so that it shows on a cell of the accent's own colour too.
-void paintFocusRing(QPainter& painter, const TreemapCell& cell) {
-    QColor accent = paletteColor(u"accent");
+void paintFocusRing(QPainter& painter, const TreemapCell& cell, QColor accent) {
     accent.setAlphaF(0.85f);
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setBrush(Qt::NoBrush);
@@ -103,6 +103,13 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     setAcceptedMouseButtons(Qt::LeftButton);
     setActiveFocusOnTab(true);
     TreemapCellsAccessible::install();
+    // paint runs on the render thread: the colour scheme is read here, on the GUI thread.
+    const auto takeAccent = [this] {
+        m_accent = paletteColor(u"accent");
+        update();
+    };
+    takeAccent();
+    connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this, takeAccent);
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {
@@ -215,7 +222,7 @@ void TreemapCells::paintHovered(QPainter& painter) const {
             paintCellWithLabel(painter, cells[i], false);
     }
     if (showsFocusRing())
-        paintFocusRing(painter, hovered);
+        paintFocusRing(painter, hovered, m_accent);
     painter.restore();
 }
 

@@ -93,6 +93,8 @@ private:
     // resting over one of them painted only the hovered cell: while this is set, the hovered
     // area asks for the whole item again.
     bool m_repaintsAll = true;
+    // The focus ring's colour in the current colour scheme.
+    QColor m_accent;
     // Where the pointer last hovered, in the item's coordinates.
     QPointF m_pointer{-1, -1};
 };

@@ -3,7 +3,6 @@
 #include "model/Json.h"
 #include "storage/CompleteWrite.h"
 #include "storage/ConsoleLine.h"
-#include "storage/CsvExport.h"
 #include "storage/FolderSizesFile.h"
 #include "storage/HistoryLocation.h"
 #include "storage/StoredFileRead.h"
@@ -81,7 +80,7 @@ std::optional<StorageError> PersistenceService::save(const AnalysisResult& resul
     if (auto error = unusableDirectory())
         return error;
     const QString path = historyFilePath(result.id);
-    const QByteArray bytes = encode(result);
+    const QByteArray bytes = json::encode(result);
     // QSaveFile writes beside the target and renames over it, and leaves nothing behind when it
     // fails, so a reader never meets half a history file.
     QSaveFile file(path);
@@ -139,15 +138,6 @@ std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id) {
     // Second: should this removal fail, the scan has left the history all the same, and a folder
     // sizes file without its history file is never read.
     return removeFolderSizes(m_storagePath, id);
-}
-
-QByteArray PersistenceService::encode(const AnalysisResult& result) const {
-    return json::encode(result);
-}
-
-std::variant<QByteArray, StorageError>
-PersistenceService::exportCSV(const AnalysisResult& result) const {
-    return csv::exportLargestFiles(result);
 }
 
 } // namespace tessarine

@@ -51,7 +51,7 @@ private slots:
 
         state.startScan(QUrl::fromLocalFile(folder.path()));
         QCOMPARE(state.currentView(), AppState::Scanning);
-        QVERIFY(state.hasCurrentScanner());
+        QVERIFY(state.isScanning());
         QVERIFY(!state.hasScanProgress());
         settle(state);
 
@@ -63,7 +63,6 @@ private slots:
         QCOMPARE(shown.fileCount, 6);
         QCOMPARE(state.scanHistory()->results(), QList{shown});
         QCOMPARE(historyFiles(store).size(), 1);
-        QVERIFY(!state.hasCurrentScanner());
         // The screen is left with the scanner's final counters.
         QCOMPARE(state.scanProgress()->phase, ScanPhase::complete);
 
@@ -121,7 +120,6 @@ private slots:
             QCOMPARE(state.error()->errorDescription(),
                      QStringLiteral("Scan failed: Cannot access directory: ") + path);
             QVERIFY(!state.isScanning());
-            QVERIFY(!state.hasCurrentScanner());
             QVERIFY(!state.hasCurrentResult());
             QCOMPARE(state.scanHistory()->count(), 0);
         }
@@ -137,7 +135,7 @@ private slots:
         state.startScan(folder.path());
         state.cancelScan();
         QCOMPARE(state.currentView(), AppState::Landing);
-        QVERIFY(!state.hasCurrentScanner());
+        QVERIFY(!state.isScanning());
         const std::optional<ScanProgress> atCancel = state.scanProgress();
         QSignalSpy progress(&state, &AppState::scanProgressChanged);
         settle(state);

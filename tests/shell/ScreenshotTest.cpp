@@ -14,11 +14,13 @@
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QQmlApplicationEngine>
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -38,6 +40,13 @@ void storeProjectsTrend(PersistenceService& store) {
         scan.fileCount += 1200 * week;
         QVERIFY(!store.save(scan));
     }
+}
+
+// Waits until the window has drawn a new frame, with whatever changed before it.
+bool nextFrame(QQuickWindow* window) {
+    QSignalSpy swapped(window, &QQuickWindow::frameSwapped);
+    window->update();
+    return swapped.wait(1000);
 }
 
 AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
@@ -97,11 +106,9 @@ public:
             shown = window();
         QVERIFY(shown);
         QVERIFY(QTest::qWaitForWindowExposed(shown));
-        if (timing == AfterTransitions)
-            QTest::qWait(450);
+        const QImage image = timing == AfterTransitions ? settledImage(shown) : shown->grabWindow();
         const QString folder = QStringLiteral(TESSARINE_SCREENSHOT_DIR);
         QVERIFY(QDir().mkpath(folder));
-        const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
         const QString appearance =
             ColorScheme::instance().dark() ? QStringLiteral("-dark") : QString();
@@ -109,6 +116,20 @@ public:
     }
 
 private:
+    // What the window shows once two frames in a row draw the same picture. The scanning ring
+    // never stops turning: a window still changing after a couple of seconds is taken as it is.
+    static QImage settledImage(QQuickWindow* window) {
+        QImage previous = window->grabWindow();
+        QDeadlineTimer deadline(2500);
+        while (!deadline.hasExpired() && nextFrame(window)) {
+            QImage next = window->grabWindow();
+            if (next == previous)
+                break;
+            previous = std::move(next);
+        }
+        return previous;
+    }
+
     QTemporaryDir m_home;
     PersistenceService m_store;
     std::unique_ptr<AppState> m_state;
@@ -157,7 +178,7 @@ QQuickItem* scrollTo(QQuickWindow* window, const char* objectName) {
 // The named item scrolled into sight, once the page has moved.
 QQuickItem* inSight(QQuickWindow* window, const char* objectName) {
     QQuickItem* item = scrollTo(window, objectName);
-    QTest::qWait(100);
+    nextFrame(window);
     return item;
 }
 
@@ -324,7 +345,7 @@ private slots:
                           centerOf(inSight(window, "largestFilesSearch")));
         for (const char typed : std::string_view("file-1"))
             QTest::keyClick(window, typed);
-        QTest::qWait(100);
+        nextFrame(window);
         const QPoint firstRow =
             findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
         QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);

@@ -139,7 +139,7 @@ TestCase {
         }
 
         createTemporaryObject(alertComponent, content)
-        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        AppState.error = AppError.invalidPath("/x")
         verifyNamed(content, "the error alert", null)
     }
 

@@ -134,19 +134,18 @@ TestCase {
 
     function test_alertShowsTheErrorAndOkClearsIt() {
         const alert = createTemporaryObject(alertComponent, testCase)
-        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        AppState.error = AppError.exportFailed("No space left on device")
         tryCompare(alert, "opened", true)
         compare(findChild(alert.contentItem, "errorDescription").text,
-                "Scan failed: Cannot access directory: /x")
+                "Export failed: No space left on device")
         const suggestion = findChild(alert.contentItem, "recoverySuggestion")
         verify(suggestion.visible)
-        compare(suggestion.text,
-                "Try selecting a different folder or check if you have permission to access it.")
+        compare(suggestion.text, "Check if you have write permission to the selected location.")
 
         // A newer error replaces the one on show.
-        AppState.error = AppError.cancelled()
-        compare(findChild(alert.contentItem, "errorDescription").text, "Operation was cancelled")
-        verify(!suggestion.visible)
+        AppState.error = AppError.invalidPath("/x")
+        compare(findChild(alert.contentItem, "errorDescription").text, "Invalid path: /x")
+        compare(suggestion.text, "The selected path may have been moved or deleted.")
 
         mouseClick(findChild(alert.contentItem, "okButton"))
         tryCompare(alert, "visible", false)
@@ -157,9 +156,8 @@ TestCase {
     function test_keysDismissAndClear() {
         const alert = createTemporaryObject(alertComponent, testCase)
         for (const key of [Qt.Key_Escape, Qt.Key_Return]) {
-            AppState.error = AppError.unknown("")
+            AppState.error = AppError.invalidPath("/x")
             tryCompare(alert, "opened", true)
-            verify(!findChild(alert.contentItem, "errorDescription").visible)
             keyClick(key)
             tryCompare(alert, "visible", false)
             verify(!AppState.hasError)
