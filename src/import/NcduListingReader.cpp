@@ -50,7 +50,6 @@ DirectoryListing NcduListingReader::read() {
     listing.m_itemCount = m_items;
     listing.m_folderCount = m_folders;
     listing.m_arenas.push_back(std::move(m_arena));
-    countHardLinkedFilesOnce(listing, m_links);
     return listing;
 }
 
@@ -199,7 +198,7 @@ void NcduListingReader::addFile(Level& level, const Info& info) {
     if (info.hardLinked && info.inode) {
         level.entries.back().markHardLinked();
         const FileIdentity identity{dev_t(info.device.value_or(level.device)), ino_t(*info.inode)};
-        level.links.emplace_back(level.entries.size() - 1, identity);
+        level.links.push_back({identity, quint32(level.entries.size() - 1), info.asize});
     }
 }
 
@@ -214,7 +213,8 @@ bool NcduListingReader::openFolder(const Info& info) {
         parent.entries.push_back(ListedEntry::unsized(name, EntryKind::package));
         return false;
     }
-    auto* folder = m_arena.make<ListedDirectory>(parent.folder, name);
+    auto* folder =
+        m_arena.make<ListedDirectory>(parent.folder, name, quint32(parent.entries.size()));
     parent.entries.push_back(ListedEntry::folder(name, folder));
     if (m_levels.size() == m_depth)
         m_levels.emplace_back();
@@ -236,8 +236,10 @@ void NcduListingReader::closeFolder() {
     const std::span<ListedEntry> entries =
         m_arena.copyArray(std::span<const ListedEntry>(level.entries));
     level.folder->setEntries(entries);
-    for (const auto& [index, identity] : level.links)
-        m_links.push_back({&entries[index], identity});
+    // Every folder above is still being read, but a folder's place among its parent's entries is
+    // fixed when it is met, which is all the order of two names needs.
+    if (!level.links.empty())
+        m_links.claim(*level.folder, level.links);
 }
 
 void NcduListingReader::skipRestOfFolder() {

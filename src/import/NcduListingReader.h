@@ -53,7 +53,7 @@ private:
         ListedDirectory* folder = nullptr;
         qint64 device = 0;
         std::vector<ListedEntry> entries;
-        std::vector<std::pair<std::size_t, FileIdentity>> links; // entry index, identity
+        std::vector<LinkedName> links;
     };
 
     void readHeader();
@@ -72,7 +72,7 @@ private:
     ListingArena m_arena;
     std::vector<Level> m_levels; // reused from folder to folder, one per depth
     std::size_t m_depth = 0;     // levels in use
-    std::vector<HardLinkedEntry> m_links;
+    HardLinkClaims m_links{false};
     qint64 m_items = 0;
     qint64 m_folders = 0;
 };
