@@ -262,7 +262,8 @@ void AppState::importScan(const QUrl& file) {
                     return;
                 }
                 const auto& result = std::get<AnalysisResult>(outcome);
-                saveResult(result);
+                // Its folder tree travels in the result itself.
+                saveResult(result, nullptr);
                 openResult(result);
             },
             Qt::QueuedConnection);

@@ -3,6 +3,8 @@
 #include "model/PathBytes.h"
 #include "scanner/PathAccess.h"
 
+#include <sys/stat.h>
+
 namespace tessarine {
 
 bool FolderDrop::isFolder(const QUrl& url) {
@@ -10,7 +12,10 @@ bool FolderDrop::isFolder(const QUrl& url) {
 }
 
 bool FolderDrop::isImportable(const QUrl& url) {
-    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isFile();
+    if (!url.isLocalFile())
+        return false;
+    const auto status = pathStatus(pathFromUrl(url));
+    return status && !S_ISDIR(status->st_mode);
 }
 
 } // namespace tessarine

@@ -86,7 +86,7 @@ private slots:
         QVERIFY(std::holds_alternative<QList<AnalysisResult>>(loaded));
         QCOMPARE(pathsOf(std::get<QList<AnalysisResult>>(loaded).value(0).largestFiles),
                  pathsOf(result.largestFiles));
-        const QByteArray exported = store.encode(result);
+        const QByteArray exported = json::encode(result);
         QVERIFY(exported.contains("caf\\udce9"));
         QCOMPARE(pathsOf(json::decodeResult(exported)->largestFiles), pathsOf(result.largestFiles));
     }
