@@ -19,10 +19,6 @@ namespace {
 // would flood the interface thread.
 constexpr auto progressWatchInterval = std::chrono::milliseconds(120);
 
-// Long enough for a save's temporary file and rename to arrive as one change, short enough that
-// a scan saved by the command-line tool appears while the user still looks.
-constexpr auto historySettleInterval = std::chrono::milliseconds(150);
-
 AppState* sharedInstance = nullptr;
 
 // Assigns the value when it differs, and says whether it did: assigning an equal value must not
@@ -47,13 +43,6 @@ AppState::AppState(PersistenceService& store, QObject* parent)
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
     loadHistory();
-    m_historyReload.setSingleShot(true);
-    m_historyReload.setInterval(historySettleInterval);
-    connect(&m_historyReload, &QTimer::timeout, this, &AppState::reloadHistory);
-    connect(&m_historyWatcher, &QFileSystemWatcher::directoryChanged, &m_historyReload,
-            qOverload<>(&QTimer::start));
-    if (!m_store.directoryError())
-        m_historyWatcher.addPath(m_store.storagePath());
 }
 
 AppState::~AppState() {
@@ -115,23 +104,31 @@ void AppState::waitForWorkers() {
 }
 
 void AppState::loadHistory() {
-    m_scanHistory.reset(loadStoredResults().value_or(QList<AnalysisResult>{}));
-}
-
-void AppState::reloadHistory() {
-    if (auto latest = loadStoredResults())
-        m_scanHistory.sync(*latest);
-}
-
-std::optional<QList<AnalysisResult>> AppState::loadStoredResults() {
-    auto loaded = m_store.loadAll();
-    if (const auto* failure = std::get_if<StorageError>(&loaded)) {
-        if (!std::exchange(m_loadFailureShown, true))
-            setError(AppError::loadFailed(failure->errorDescription()));
-        return std::nullopt;
+    auto opened = m_store.openCatalog();
+    if (const auto* failure = std::get_if<StorageError>(&opened)) {
+        reportLoadFailure(failure->errorDescription());
+        // Nothing to follow in a folder that could not be made; one that could not be listed
+        // may come right, and is followed from nothing.
+        if (m_store.directoryError())
+            return;
+        opened = HistoryCatalog(m_store.storagePath());
     }
-    m_loadFailureShown = false;
-    return std::move(std::get<QList<AnalysisResult>>(loaded));
+    const auto& catalog = std::get<HistoryCatalog>(opened);
+    m_scanHistory.reset(catalog.summaries());
+    m_historyFollower =
+        std::make_unique<HistoryFollower>(catalog, m_store.storagePath());
+    connect(m_historyFollower.get(), &HistoryFollower::summariesChanged, this,
+            [this](const QList<ScanSummary>& summaries) {
+                m_loadFailureShown = false;
+                m_scanHistory.sync(summaries);
+            });
+    connect(m_historyFollower.get(), &HistoryFollower::lookFailed, this,
+            &AppState::reportLoadFailure);
+}
+
+void AppState::reportLoadFailure(const QString& description) {
+    if (!std::exchange(m_loadFailureShown, true))
+        setError(AppError::loadFailed(description));
 }
 
 void AppState::startScan(const QUrl& folder) {
@@ -203,20 +200,54 @@ void AppState::saveResult(const AnalysisResult& result) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
-    m_scanHistory.prepend(result);
+    if (m_historyFollower)
+        m_historyFollower->noteOwnChange();
+    m_scanHistory.prepend(ScanSummary::of(result));
 }
 
-void AppState::deleteScan(const AnalysisResult& result) {
-    if (const auto failure = m_store.deleteResult(result)) {
+void AppState::deleteScan(const ScanSummary& scan) {
+    if (const auto failure = m_store.deleteResult(scan.id)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
-    m_scanHistory.removeAll(result.id);
+    if (m_historyFollower)
+        m_historyFollower->noteOwnChange();
+    m_scanHistory.removeAll(scan.id);
 }
 
 void AppState::openResult(const AnalysisResult& result) {
     setCurrentResult(result);
     setCurrentView(Dashboard);
+}
+
+std::optional<AnalysisResult> AppState::loadStoredResult(const ScanSummary& scan) {
+    auto loaded = m_store.loadResult(scan.id);
+    if (const auto* failure = std::get_if<StorageError>(&loaded)) {
+        setError(AppError::loadFailed(failure->errorDescription()));
+        return std::nullopt;
+    }
+    return std::get<AnalysisResult>(std::move(loaded));
+}
+
+void AppState::openStoredScan(const ScanSummary& scan) {
+    if (auto result = loadStoredResult(scan))
+        openResult(*result);
+}
+
+AnalysisResult AppState::storedResult(const ScanSummary& scan) {
+    if (auto result = loadStoredResult(scan))
+        return std::move(*result);
+    AnalysisResult figures;
+    figures.id = scan.id;
+    figures.scanDate = scan.scanDate;
+    figures.rootPath = scan.rootPath;
+    figures.rootName = scan.rootName;
+    figures.totalSize = scan.totalSize;
+    figures.fileCount = scan.fileCount;
+    figures.folderCount = scan.folderCount;
+    figures.maxDepth = scan.maxDepth;
+    figures.scanDuration = scan.scanDuration;
+    return figures;
 }
 
 void AppState::cancelScan() {
@@ -229,11 +260,11 @@ void AppState::cancelScan() {
 }
 
 QUrl AppState::folderPickerStart() const {
-    const AnalysisResult* last = m_currentResult             ? &*m_currentResult
-                                 : m_scanHistory.count() > 0 ? &m_scanHistory.results().first()
-                                                             : nullptr;
-    if (last) {
-        const QString parent = parentFolder(last->rootPath);
+    const QString last = m_currentResult             ? m_currentResult->rootPath
+                         : m_scanHistory.count() > 0 ? m_scanHistory.results().first().rootPath
+                                                     : QString();
+    if (!last.isEmpty()) {
+        const QString parent = parentFolder(last);
         if (!parent.isEmpty() && QFileInfo(parent).isDir())
             return QUrl::fromLocalFile(parent);
     }

@@ -2,9 +2,43 @@
 
 #include "RoleNames.h"
 
+#include <QHash>
 #include <QSet>
 
+#include <optional>
+
 namespace tessarine {
+
+namespace {
+
+// Rows by id, or nothing when an id is listed twice (two copies of one history file).
+std::optional<QHash<QUuid, qsizetype>> rowsById(const QList<ScanSummary>& list) {
+    QHash<QUuid, qsizetype> rows;
+    rows.reserve(list.size());
+    for (qsizetype row = 0; row < list.size(); ++row) {
+        if (rows.contains(list.at(row).id))
+            return std::nullopt;
+        rows.insert(list.at(row).id, row);
+    }
+    return rows;
+}
+
+// Whether the rows both lists hold come in the same order in both.
+bool keepsCommonOrder(const QList<ScanSummary>& current,
+                      const QHash<QUuid, qsizetype>& latestRows) {
+    qsizetype previous = -1;
+    for (const ScanSummary& summary : current) {
+        const qsizetype row = latestRows.value(summary.id, -1);
+        if (row < 0)
+            continue;
+        if (row < previous)
+            return false;
+        previous = row;
+    }
+    return true;
+}
+
+} // namespace
 
 int ResultListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : count();
@@ -13,22 +47,22 @@ int ResultListModel::rowCount(const QModelIndex& parent) const {
 QVariant ResultListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    const AnalysisResult& result = m_results.at(index.row());
+    const ScanSummary& summary = m_results.at(index.row());
     switch (static_cast<Role>(role)) {
-    case ResultRole:
-        return QVariant::fromValue(result);
+    case SummaryRole:
+        return QVariant::fromValue(summary);
     case RootNameRole:
-        return result.rootName;
+        return summary.rootName;
     case RootPathRole:
-        return result.rootPath;
+        return summary.rootPath;
     case FolderNameRole:
-        return result.folderName();
+        return summary.folderName();
     case TotalSizeRole:
-        return result.totalSize;
+        return summary.totalSize;
     case FileCountRole:
-        return result.fileCount;
+        return summary.fileCount;
     case ScanDateRole:
-        return result.scanDate;
+        return summary.scanDate;
     }
     return {};
 }
@@ -37,14 +71,14 @@ QHash<int, QByteArray> ResultListModel::roleNames() const {
     return roleNamesOf<Role>();
 }
 
-void ResultListModel::resetRows(QList<AnalysisResult> results) {
+void ResultListModel::resetRows(QList<ScanSummary> results) {
     beginResetModel();
     m_results = std::move(results);
     endResetModel();
     emit countChanged();
 }
 
-void ResultListModel::insertRow(int row, const AnalysisResult& result) {
+void ResultListModel::insertRow(int row, const ScanSummary& result) {
     beginInsertRows({}, row, row);
     m_results.insert(row, result);
     endInsertRows();
@@ -58,35 +92,65 @@ void ResultListModel::removeRowAt(int row) {
     emit countChanged();
 }
 
-void ResultListModel::syncRows(const QList<AnalysisResult>& latest) {
-    QSet<QUuid> latestIds;
-    for (const AnalysisResult& result : latest)
-        latestIds.insert(result.id);
-    // Runs of rows to drop go in one removal each: a search that leaves 25 of 1,000 rows removes
-    // a few dozen runs, not 975 rows one by one.
-    bool removed = false;
-    for (int end = count() - 1; end >= 0; --end) {
-        if (latestIds.contains(m_results.at(end).id))
+void ResultListModel::syncRows(const QList<ScanSummary>& latest) {
+    const auto latestRows = rowsById(latest);
+    // Inserting the rows of a new order one by one would cost a signal and a move of the whole
+    // list per row: with ten thousand scans, a change of sort order took seconds.
+    if (!latestRows || !rowsById(m_results) || !keepsCommonOrder(m_results, *latestRows)) {
+        resetRows(latest);
+        return;
+    }
+    const qsizetype before = m_results.size();
+    removeRowsMissingFrom(*latestRows);
+    insertAndUpdateRows(latest);
+    if (m_results.size() != before)
+        emit countChanged();
+}
+
+// Runs of rows to drop go in one removal each: a search that leaves 25 of 1,000 rows removes a few
+// dozen runs, not 975 rows one by one.
+void ResultListModel::removeRowsMissingFrom(const QHash<QUuid, qsizetype>& latestRows) {
+    for (qsizetype end = m_results.size() - 1; end >= 0; --end) {
+        if (latestRows.contains(m_results.at(end).id))
             continue;
-        int start = end;
-        while (start > 0 && !latestIds.contains(m_results.at(start - 1).id))
+        qsizetype start = end;
+        while (start > 0 && !latestRows.contains(m_results.at(start - 1).id))
             --start;
-        beginRemoveRows({}, start, end);
+        beginRemoveRows({}, int(start), int(end));
         m_results.remove(start, end - start + 1);
         endRemoveRows();
-        removed = true;
         end = start;
     }
-    if (removed)
-        emit countChanged();
-    for (int row = 0; row < latest.size(); ++row) {
-        if (row >= count() || m_results.at(row).id != latest.at(row).id)
-            insertRow(row, latest.at(row));
+}
+
+// What is left is in the order of `latest`, so walking both together finds where each run of new
+// rows goes.
+void ResultListModel::insertAndUpdateRows(const QList<ScanSummary>& latest) {
+    QSet<QUuid> kept;
+    kept.reserve(m_results.size());
+    for (const ScanSummary& summary : std::as_const(m_results))
+        kept.insert(summary.id);
+    for (qsizetype row = 0; row < latest.size();) {
+        if (kept.contains(latest.at(row).id)) {
+            // A file saved again under the same id may hold other figures.
+            if (m_results.at(row) != latest.at(row)) {
+                m_results[row] = latest.at(row);
+                emit dataChanged(index(int(row)), index(int(row)));
+            }
+            ++row;
+            continue;
+        }
+        qsizetype end = row;
+        while (end < latest.size() && !kept.contains(latest.at(end).id))
+            ++end;
+        beginInsertRows({}, int(row), int(end - 1));
+        QList<ScanSummary> tail = m_results.sliced(row);
+        m_results.resize(row);
+        m_results.append(latest.sliced(row, end - row));
+        m_results.append(std::move(tail));
+        endInsertRows();
+        row = end;
     }
-    // Rows the two lists order differently are left over at the end; only then is the whole
-    // list replaced.
-    if (count() != latest.size())
-        resetRows(latest);
 }
 
 } // namespace tessarine

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QAbstractListModel>
 #include <QList>
@@ -8,9 +8,9 @@
 
 namespace tessarine {
 
-// A list of stored results shown by a view. A new list is taken in by removing and inserting
-// rows, keyed by id, so that the rows both lists hold stay where they are: the view keeps its
-// place and its delegates instead of starting over.
+// A list of stored scans shown by a view, by their summaries. A new list is taken in by removing
+// and inserting rows, keyed by id, so that the rows both lists hold stay where they are: the view
+// keeps its place and its delegates instead of starting over.
 class ResultListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
@@ -18,7 +18,7 @@ class ResultListModel : public QAbstractListModel {
 
 public:
     enum Role {
-        ResultRole = Qt::UserRole + 1,
+        SummaryRole = Qt::UserRole + 1,
         RootNameRole,
         RootPathRole,
         FolderNameRole,
@@ -34,20 +34,24 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
     int count() const { return static_cast<int>(m_results.size()); }
-    const QList<AnalysisResult>& results() const { return m_results; }
+    const QList<ScanSummary>& results() const { return m_results; }
 
 signals:
     void countChanged();
 
 protected:
-    void resetRows(QList<AnalysisResult> results);
-    // Becomes the given list. Only where the two order their common rows differently is the
-    // whole list replaced.
-    void syncRows(const QList<AnalysisResult>& latest);
-    void insertRow(int row, const AnalysisResult& result);
+    void resetRows(QList<ScanSummary> results);
+    // Becomes the given list. Only where the two order their common rows differently, or an id
+    // is listed twice, is the whole list replaced.
+    void syncRows(const QList<ScanSummary>& latest);
+    void insertRow(int row, const ScanSummary& result);
     void removeRowAt(int row);
 
-    QList<AnalysisResult> m_results;
+    QList<ScanSummary> m_results;
+
+private:
+    void removeRowsMissingFrom(const QHash<QUuid, qsizetype>& latestRows);
+    void insertAndUpdateRows(const QList<ScanSummary>& latest);
 };
 
 } // namespace tessarine

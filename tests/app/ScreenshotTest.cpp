@@ -356,15 +356,15 @@ private slots:
         scene.save("history-search-hides-trend");
         scans->setProperty("searchText", QString());
 
-        const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
-        for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
+        const QList<ScanSummary>& stored = scene.state().scanHistory()->results();
+        for (const ScanSummary& picked : {stored.at(0), stored.at(4)})
             QMetaObject::invokeMethod(scans, "toggleSelection",
-                                      Q_ARG(tessarine::AnalysisResult, picked));
+                                      Q_ARG(tessarine::ScanSummary, picked));
         scene.save("history-selected");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "open");
         scene.save("history-delete-confirmation");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
-        QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
+        QMetaObject::invokeMethod(scene.find("compareButton"), "clicked");
         scene.save("history-comparison");
     }
 

@@ -1,9 +1,13 @@
 #include "DashboardResult.h"
 #include "SampleResults.h"
+#include "app/ScanHistoryModel.h"
 #include "screens/history/HistoryListModel.h"
 #include "screens/history/ScanComparison.h"
 
+#include <QAbstractItemModelTester>
 #include <QLocale>
+#include <QRandomGenerator>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace tessarine;
@@ -12,8 +16,12 @@ namespace {
 
 const QDateTime day0(QDate(2025, 1, 1), QTime(9, 0), Qt::UTC);
 
-AnalysisResult scan(const QString& path, int day, qint64 size = 1000) {
+AnalysisResult result(const QString& path, int day, qint64 size = 1000) {
     return testing::plainResult(path, day0.addDays(day), size);
+}
+
+ScanSummary scan(const QString& path, int day, qint64 size = 1000) {
+    return ScanSummary::of(result(path, day, size));
 }
 
 CategoryStats category(FileCategory which, qint64 size) {
@@ -24,15 +32,15 @@ CategoryStats category(FileCategory which, qint64 size) {
 }
 
 // The history as the store gives it: newest first.
-QList<AnalysisResult> newestFirst(QList<AnalysisResult> scans) {
+QList<ScanSummary> newestFirst(QList<ScanSummary> scans) {
     std::stable_sort(scans.begin(), scans.end(),
                      [](const auto& a, const auto& b) { return a.scanDate > b.scanDate; });
     return scans;
 }
 
-QStringList names(const QList<AnalysisResult>& scans) {
+QStringList names(const QList<ScanSummary>& scans) {
     QStringList list;
-    for (const AnalysisResult& result : scans)
+    for (const ScanSummary& result : scans)
         list.append(result.rootName);
     return list;
 }
@@ -66,7 +74,7 @@ private slots:
         QFETCH(QString, search);
         QFETCH(int, order);
         QFETCH(QStringList, expected);
-        const QList<AnalysisResult> history = newestFirst({
+        const QList<ScanSummary> history = newestFirst({
             scan("/home/projects/Adam", 0, 300),
             scan("/home/emma", 1, 900),
             scan("/data/Émile", 2, 100),
@@ -96,7 +104,7 @@ private slots:
         QFETCH(QString, text);
         QFETCH(QString, symbol);
         QFETCH(QString, color);
-        AnalysisResult earlier = scan("/a", 0, before), later = scan("/a", 1, after);
+        AnalysisResult earlier = result("/a", 0, before), later = result("/a", 1, after);
         earlier.fileCount = 1200;
         later.fileCount = 1000;
         later.maxDepth = 3;
@@ -111,7 +119,7 @@ private slots:
     }
 
     void listsChangedCategoriesAndFiles() {
-        AnalysisResult before = scan("/a", 0), after = scan("/a", 1);
+        AnalysisResult before = result("/a", 0), after = result("/a", 1);
         before.categoryBreakdown = {category(FileCategory::images, 100),
                                     category(FileCategory::videos, 500),
                                     category(FileCategory::code, 70)};
@@ -142,7 +150,7 @@ private slots:
 
     void trendNeedsAFolderScannedTwice() {
         // Without a folder scanned twice there is no trend: the history view's Quick test shows it.
-        QList<AnalysisResult> history =
+        QList<ScanSummary> history =
             newestFirst({scan("/a", 0), scan("/b", 1), scan("/c", 2), scan("/b", 3, 4000)});
         QVERIFY(historyHasTrend(history));
         const TrendSeries trend = storageTrend(history);
@@ -151,6 +159,44 @@ private slots:
         // A second qualifying folder wins once it holds the most recent scan.
         history = newestFirst(history + QList{scan("/a", 4)});
         QCOMPARE(storageTrend(history).folderPath, QString("/a"));
+    }
+
+    // Rows are removed, inserted and updated in place while the common rows keep their order,
+    // and the list starts over only when they do not: checked against the model's contract at
+    // every step, over random changes.
+    void historyFollowsRandomChangesRowByRow() {
+        QList<ScanSummary> pool;
+        for (int i = 0; i < 40; ++i)
+            pool.append(scan(QStringLiteral("/s/%1").arg(i), i));
+        ScanHistoryModel history;
+        QAbstractItemModelTester tester(&history,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy resets(&history, &QAbstractItemModel::modelReset);
+        QRandomGenerator random(7);
+        QList<ScanSummary> current;
+        for (int step = 0; step < 300; ++step) {
+            QList<ScanSummary> latest;
+            for (const ScanSummary& summary : std::as_const(current))
+                if (random.bounded(6) != 0)
+                    latest.append(summary);
+            for (int added = random.bounded(4); added > 0; --added) {
+                ScanSummary summary = pool.at(random.bounded(int(pool.size())));
+                if (std::none_of(latest.begin(), latest.end(),
+                                 [&](const auto& s) { return s.id == summary.id; }))
+                    latest.insert(random.bounded(int(latest.size()) + 1), summary);
+            }
+            if (!latest.isEmpty() && random.bounded(5) == 0)
+                latest[random.bounded(int(latest.size()))].totalSize += 1;
+            const bool reordered = latest.size() > 1 && random.bounded(10) == 0;
+            if (reordered)
+                latest.swapItemsAt(0, latest.size() - 1);
+            const qsizetype resetsBefore = resets.count();
+            history.sync(latest);
+            QCOMPARE(history.results(), latest);
+            if (!reordered)
+                QCOMPARE(resets.count(), resetsBefore);
+            current = latest;
+        }
     }
 };
 

@@ -27,11 +27,12 @@ void HistoryListModel::setHistory(ScanHistoryModel* history) {
         m_history->disconnect(this);
     m_history = history;
     if (history) {
-        // Every change of the history, however small, is a new list: a search and a sort over a
-        // thousand scans take well under a frame.
+        // Every change of the history, however small, is a new list: a search and a sort over
+        // ten thousand scans' summaries take well under a frame.
         connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::refresh);
         connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::refresh);
         connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::refresh);
+        connect(history, &QAbstractItemModel::dataChanged, this, &HistoryListModel::refresh);
     }
     refresh();
     emit historyChanged();
@@ -65,17 +66,17 @@ bool HistoryListModel::canCompare() const {
     return m_selection.comparisonPair(allScans()).has_value();
 }
 
-AnalysisResult HistoryListModel::comparedFirst() const {
+ScanSummary HistoryListModel::comparedFirst() const {
     const auto pair = m_selection.comparisonPair(allScans());
-    return pair ? pair->first : AnalysisResult{};
+    return pair ? pair->first : ScanSummary{};
 }
 
-AnalysisResult HistoryListModel::comparedSecond() const {
+ScanSummary HistoryListModel::comparedSecond() const {
     const auto pair = m_selection.comparisonPair(allScans());
-    return pair ? pair->second : AnalysisResult{};
+    return pair ? pair->second : ScanSummary{};
 }
 
-void HistoryListModel::toggleSelection(const AnalysisResult& result) {
+void HistoryListModel::toggleSelection(const ScanSummary& result) {
     if (!m_selection.toggle(result.id))
         return;
     refreshSelectedRoles();
@@ -89,16 +90,16 @@ void HistoryListModel::clearSelection() {
     emit selectionChanged();
 }
 
-QList<AnalysisResult> HistoryListModel::selectedScans() const {
+QList<ScanSummary> HistoryListModel::selectedScans() const {
     return m_selection.selectedScans(allScans());
 }
 
-QList<AnalysisResult> HistoryListModel::allScans() const {
-    return m_history ? m_history->results() : QList<AnalysisResult>{};
+QList<ScanSummary> HistoryListModel::allScans() const {
+    return m_history ? m_history->results() : QList<ScanSummary>{};
 }
 
 void HistoryListModel::refresh() {
-    const QList<AnalysisResult> scans = allScans();
+    const QList<ScanSummary> scans = allScans();
     syncRows(filteredHistory(scans, m_searchText, m_sortOrder));
     if (m_selection.keepOnly(scans))
         emit selectionChanged();

@@ -8,7 +8,7 @@ namespace tessarine {
 
 namespace {
 
-bool matches(const AnalysisResult& result, const QString& searchText) {
+bool matches(const ScanSummary& result, const QString& searchText) {
     return result.rootName.contains(searchText, Qt::CaseInsensitive) ||
            result.rootPath.contains(searchText, Qt::CaseInsensitive);
 }
@@ -31,12 +31,12 @@ QString sortOrderLabel(HistorySortOrder order) {
     return {};
 }
 
-QList<AnalysisResult> filteredHistory(const QList<AnalysisResult>& history,
+QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history,
                                       const QString& searchText, HistorySortOrder order) {
-    QList<AnalysisResult> kept;
+    QList<ScanSummary> kept;
     kept.reserve(history.size());
     std::copy_if(history.begin(), history.end(), std::back_inserter(kept),
-                 [&](const AnalysisResult& result) {
+                 [&](const ScanSummary& result) {
                      return searchText.isEmpty() || matches(result, searchText);
                  });
     switch (order) {
