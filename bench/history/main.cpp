@@ -20,8 +20,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <functional>
+
+#include <sys/resource.h>
 
 using namespace tessarine;
+using tessarine::bench::makeStoredHistory;
 
 namespace {
 
@@ -99,15 +103,34 @@ QProcessEnvironment historyEnvironment() {
     return environment;
 }
 
-double cliHistoryMs(const QString& cli) {
+double childrenCpuMs() {
+    rusage usage{};
+    getrusage(RUSAGE_CHILDREN, &usage);
+    const auto ms = [](const timeval& time) {
+        return double(time.tv_sec) * 1e3 + double(time.tv_usec) / 1e3;
+    };
+    return ms(usage.ru_utime) + ms(usage.ru_stime);
+}
+
+// Wall and processor milliseconds of one `tessarine-cli history`.
+std::pair<double, double> cliHistoryMs(const QString& cli) {
     QProcess run;
     run.setProcessEnvironment(historyEnvironment());
     run.setStandardOutputFile(QProcess::nullDevice());
+    const double cpuBefore = childrenCpuMs();
     QElapsedTimer clock;
     clock.start();
     run.start(cli, {QStringLiteral("history")});
     run.waitForFinished(600'000);
-    return double(clock.nsecsElapsed()) / 1e6;
+    return {double(clock.nsecsElapsed()) / 1e6, childrenCpuMs() - cpuBefore};
+}
+
+// Lets the app's events run until `done` or a minute has passed.
+void waitFor(const std::function<bool()>& done) {
+    QElapsedTimer timeout;
+    timeout.start();
+    while (!done() && timeout.elapsed() < 60'000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
 }
 
 // A scan saved by the command line while the app shows the history: the interface thread's CPU
@@ -121,10 +144,7 @@ std::pair<double, double> cliSaveCost(RunningApp& app, const QString& cli) {
     save.setStandardOutputFile(QProcess::nullDevice());
     const double cpuBefore = threadCpuMs();
     save.start(cli, {QStringLiteral("scan"), QStringLiteral("--save"), scannedFolders.first()});
-    QElapsedTimer timeout;
-    timeout.start();
-    while (history.count() == before && timeout.elapsed() < 60'000)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+    waitFor([&] { return history.count() > before; });
     nextFrameCost(*app.window, [] {});
     const double shownAt = double(QDateTime::currentMSecsSinceEpoch());
     const double cpu = threadCpuMs() - cpuBefore;
@@ -132,6 +152,7 @@ std::pair<double, double> cliSaveCost(RunningApp& app, const QString& cli) {
     const QString file = app.store.historyFilePath(history.results().first().id);
     const double writtenAt = double(QFileInfo(file).lastModified().toMSecsSinceEpoch());
     app.store.deleteResult(history.results().first().id);
+    waitFor([&] { return history.count() == before; });
     return {cpu, shownAt - writtenAt};
 }
 
@@ -181,12 +202,17 @@ int main(int argc, char* argv[]) {
                 .arg(median(warm) / median(empty), 0, 'f', 2));
 
     cliHistoryMs(cli);
-    QList<double> listing;
-    for (int run = 0; run < 3; ++run)
-        listing.append(cliHistoryMs(cli));
+    QList<double> listing, listingCpu;
+    for (int run = 0; run < 3; ++run) {
+        const auto [wall, cpu] = cliHistoryMs(cli);
+        listing.append(wall);
+        listingCpu.append(cpu);
+    }
     verdict(median(listing) < 500,
-            QStringLiteral("tessarine-cli history with a warm index < 500 ms (median of 3: %1 ms)")
-                .arg(median(listing), 0, 'f', 0));
+            QStringLiteral("tessarine-cli history with a warm index < 500 ms (median of 3: %1 ms, "
+                           "of which %2 ms on a processor)")
+                .arg(median(listing), 0, 'f', 0)
+                .arg(median(listingCpu), 0, 'f', 0));
 
     RunningApp app(historyHome);
     if (!app.window)

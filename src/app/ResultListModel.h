@@ -51,7 +51,8 @@ protected:
 
 private:
     void removeRowsMissingFrom(const QHash<QUuid, qsizetype>& latestRows);
-    void insertAndUpdateRows(const QList<ScanSummary>& latest);
+    // `kept` holds the rows left of the list before, by id.
+    void insertAndUpdateRows(const QList<ScanSummary>& latest, const QHash<QUuid, qsizetype>& kept);
 };
 
 } // namespace tessarine

@@ -181,8 +181,9 @@ private slots:
                     latest.append(summary);
             for (int added = random.bounded(4); added > 0; --added) {
                 ScanSummary summary = pool.at(random.bounded(int(pool.size())));
-                if (std::none_of(latest.begin(), latest.end(),
-                                 [&](const auto& s) { return s.id == summary.id; }))
+                const auto same = [&](const ScanSummary& other) { return other.id == summary.id; };
+                if (std::none_of(current.begin(), current.end(), same) &&
+                    std::none_of(latest.begin(), latest.end(), same))
                     latest.insert(random.bounded(int(latest.size()) + 1), summary);
             }
             if (!latest.isEmpty() && random.bounded(5) == 0)

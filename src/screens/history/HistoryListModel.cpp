@@ -103,8 +103,14 @@ void HistoryListModel::refresh() {
     syncRows(filteredHistory(scans, m_searchText, m_sortOrder));
     if (m_selection.keepOnly(scans))
         emit selectionChanged();
-    m_showsTrend = historyHasTrend(scans);
-    m_trend = storageTrend(m_results);
+    // Redrawn only when it changed: the chart of a folder scanned every hour for a year draws
+    // thousands of points.
+    const bool showsTrend = historyHasTrend(scans);
+    TrendSeries trend = storageTrend(m_results);
+    if (showsTrend == m_showsTrend && trend == m_trend)
+        return;
+    m_showsTrend = showsTrend;
+    m_trend = std::move(trend);
     emit trendChanged();
 }
 
