@@ -62,6 +62,27 @@ void verdict(bool pass, const QString& text) {
     std::printf("%s  %s\n", pass ? "PASS" : "MISS", qPrintable(text));
 }
 
+// The slowest frame of a series of changes, and the interface thread's processor time over all of
+// them: on a busy machine the frames' wall time also counts the other processes' turns.
+struct FrameSeries {
+    double slowest = 0;
+    double cpu = 0;
+    int frames = 0;
+    void add(QQuickWindow& window, const std::function<void()>& change) {
+        const double before = threadCpuMs();
+        slowest = std::max(slowest, nextFrameCost(window, change));
+        cpu += threadCpuMs() - before;
+        ++frames;
+    }
+    QString describe(const char* what) const {
+        return QStringLiteral("slowest of %1 frames %2: %3 ms (interface thread busy %4 ms in all)")
+            .arg(frames)
+            .arg(QLatin1String(what))
+            .arg(slowest, 0, 'f', 1)
+            .arg(cpu, 0, 'f', 0);
+    }
+};
+
 // The application over the history in `home`, its window shown.
 struct RunningApp {
     explicit RunningApp(const QString& home)
@@ -142,8 +163,10 @@ std::pair<double, double> cliSaveCost(RunningApp& app, const QString& cli) {
     QProcess save;
     save.setProcessEnvironment(historyEnvironment());
     save.setStandardOutputFile(QProcess::nullDevice());
-    const double cpuBefore = threadCpuMs();
     save.start(cli, {QStringLiteral("scan"), QStringLiteral("--save"), scannedFolders.first()});
+    // Starting the process is the benchmark's work, not the app's.
+    save.waitForStarted();
+    const double cpuBefore = threadCpuMs();
     waitFor([&] { return history.count() > before; });
     nextFrameCost(*app.window, [] {});
     const double shownAt = double(QDateTime::currentMSecsSinceEpoch());
@@ -224,22 +247,14 @@ int main(int argc, char* argv[]) {
         return 1;
     nextFrameCost(*app.window, [] {});
 
-    double slowestScroll = 0;
-    int scrollFrames = 0;
-    for (qreal y = 0; y < 84 * 200; y += 84 / 3.0, ++scrollFrames)
-        slowestScroll = std::max(
-            slowestScroll, nextFrameCost(*app.window, [&] { list->setProperty("contentY", y); }));
-    double slowestSearch = 0;
+    FrameSeries scrolling, searching, sorting;
+    for (qreal y = 0; y < 84 * 200; y += 84 / 3.0)
+        scrolling.add(*app.window, [&] { list->setProperty("contentY", y); });
     for (const QString& text : {QStringLiteral("d"), QStringLiteral("do"), QStringLiteral("doc"),
                                 QStringLiteral("include"), QString()})
-        slowestSearch = std::max(slowestSearch, nextFrameCost(*app.window, [&] {
-                                     scans->setProperty("searchText", text);
-                                 }));
-    double slowestSort = 0;
+        searching.add(*app.window, [&] { scans->setProperty("searchText", text); });
     for (int order : {4, 2, 3, 1, 0})
-        slowestSort = std::max(slowestSort, nextFrameCost(*app.window, [&] {
-                                   scans->setProperty("sortOrder", order);
-                               }));
+        sorting.add(*app.window, [&] { scans->setProperty("sortOrder", order); });
     const double memory = residentMegabytes();
 
     double slowestCpu = 0, slowestLatency = 0;
@@ -258,13 +273,8 @@ int main(int argc, char* argv[]) {
                 .arg(slowestLatency, 0, 'f', 0));
     verdict(memory < 200, QStringLiteral("app memory with the history shown < 200 MB (%1 MB)")
                               .arg(memory, 0, 'f', 0));
-    verdict(slowestScroll <= frameTargetMs,
-            QStringLiteral("slowest of %1 frames scrolling the history: %2 ms")
-                .arg(scrollFrames)
-                .arg(slowestScroll, 0, 'f', 1));
-    verdict(slowestSearch <= frameTargetMs,
-            QStringLiteral("slowest frame of a search: %1 ms").arg(slowestSearch, 0, 'f', 1));
-    verdict(slowestSort <= frameTargetMs,
-            QStringLiteral("slowest frame of a change of order: %1 ms").arg(slowestSort, 0, 'f', 1));
+    verdict(scrolling.slowest <= frameTargetMs, scrolling.describe("scrolling the history"));
+    verdict(searching.slowest <= frameTargetMs, searching.describe("searching it"));
+    verdict(sorting.slowest <= frameTargetMs, sorting.describe("changing its order"));
     return 0;
 }

@@ -1,5 +1,7 @@
 #include "HistoryFollower.h"
 
+#include "storage/SummaryIndex.h"
+
 #include <QFileInfo>
 
 namespace tessarine {
@@ -57,17 +59,20 @@ void HistoryFollower::startLook() {
     m_lookThread.start([this, catalog = m_catalog]() mutable {
         Look look;
         look.catalog = std::move(catalog);
+        std::optional<CatalogEntries> indexUpdate;
         auto outcome = look.catalog.look(HistoryCatalog::Reporting::newlyBrokenFiles);
         if (const auto* error = std::get_if<StorageError>(&outcome)) {
             look.failure = error->errorDescription();
         } else {
             look.changed = std::get<bool>(outcome);
-            look.catalog.updateIndex();
+            indexUpdate = look.catalog.indexUpdate();
             look.summaries = look.catalog.summaries();
         }
         QMetaObject::invokeMethod(
             this, [this, look = std::move(look)]() mutable { finishLook(std::move(look)); },
             Qt::QueuedConnection);
+        if (indexUpdate)
+            writeSummaryIndex(m_folder, *indexUpdate);
     });
 }
 

@@ -7,8 +7,12 @@
 #include "storage/SummaryIndex.h"
 
 #include <QDir>
+#include <QThread>
+#include <QThreadPool>
 
 #include <algorithm>
+#include <atomic>
+#include <vector>
 
 namespace tessarine {
 
@@ -32,6 +36,24 @@ std::optional<CatalogEntry> readEntry(const QString& path, const FileStamp& list
     return entry;
 }
 
+// Reads the files on every core: a start without an index reads every stored scan.
+std::vector<std::optional<CatalogEntry>> readEntries(const QDir& folder,
+                                                     const std::vector<ListedHistoryFile>& files) {
+    std::vector<std::optional<CatalogEntry>> entries(files.size());
+    std::atomic<std::size_t> next = 0;
+    const auto read = [&] {
+        for (std::size_t i; (i = next++) < files.size();)
+            entries[i] = readEntry(folder.filePath(files[i].name), files[i].stamp);
+    };
+    QThreadPool helpers;
+    if (files.size() > 1)
+        for (int helper = 1; helper < QThread::idealThreadCount(); ++helper)
+            helpers.start(read);
+    read();
+    helpers.waitForDone();
+    return entries;
+}
+
 } // namespace
 
 void printLoadFailure(const QString& fileName, const QString& reason) {
@@ -50,13 +72,17 @@ std::variant<bool, StorageError> HistoryCatalog::look(Reporting reporting) {
     auto listing = listHistoryFiles(m_folder);
     if (auto* error = std::get_if<StorageError>(&listing))
         return std::move(*error);
-    const QDir folder(m_folder);
+    const auto& listed = std::get<QList<ListedHistoryFile>>(listing);
+    std::vector<ListedHistoryFile> changed;
+    for (const ListedHistoryFile& file : listed)
+        if (!knowsAsItIs(file))
+            changed.push_back(file);
+    std::vector<std::optional<CatalogEntry>> read = readEntries(QDir(m_folder), changed);
+    auto nextRead = read.begin();
     CatalogEntries latest;
-    for (const ListedHistoryFile& file : std::get<QList<ListedHistoryFile>>(listing)) {
+    for (const ListedHistoryFile& file : listed) {
         const auto known = m_entries.constFind(file.name);
-        const bool unchanged = known != m_entries.cend() && known->stamp == file.stamp;
-        std::optional<CatalogEntry> entry =
-            unchanged ? *known : readEntry(folder.filePath(file.name), file.stamp);
+        std::optional<CatalogEntry> entry = knowsAsItIs(file) ? *known : std::move(*nextRead++);
         if (!entry)
             continue;
         if (!entry->summary) {
@@ -67,17 +93,21 @@ std::variant<bool, StorageError> HistoryCatalog::look(Reporting reporting) {
         }
         latest.insert(file.name, std::move(*entry));
     }
-    const bool changed = latest != m_entries;
+    const bool differs = latest != m_entries;
     m_entries = std::move(latest);
-    return changed;
+    return differs;
 }
 
-void HistoryCatalog::updateIndex() {
+bool HistoryCatalog::knowsAsItIs(const ListedHistoryFile& file) const {
+    const auto known = m_entries.constFind(file.name);
+    return known != m_entries.cend() && known->stamp == file.stamp;
+}
+
+std::optional<CatalogEntries> HistoryCatalog::indexUpdate() {
     if (m_entries == m_indexed)
-        return;
-    // A folder that cannot take the index still works, only without the head start.
-    writeSummaryIndex(m_folder, m_entries);
+        return std::nullopt;
     m_indexed = m_entries;
+    return m_indexed;
 }
 
 QList<ScanSummary> HistoryCatalog::summaries() const {

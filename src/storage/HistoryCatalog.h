@@ -2,6 +2,7 @@
 
 #include "model/ScanSummary.h"
 #include "storage/FileStamp.h"
+#include "storage/HistoryListing.h"
 #include "storage/StorageError.h"
 
 #include <QHash>
@@ -50,14 +51,18 @@ public:
     void takeIndex();
     // Lists the folder and reads what changed. Says whether the summaries or failures changed.
     std::variant<bool, StorageError> look(Reporting reporting);
-    // Rewrites the index when it no longer holds what this catalog knows.
-    void updateIndex();
+    // What the index is to hold from now on, when it no longer holds what this catalog knows;
+    // the catalog counts it as written (by writeSummaryIndex), so that the write, which takes a
+    // moment with ten thousand scans, can wait until the summaries are shown.
+    std::optional<CatalogEntries> indexUpdate();
 
     // Newest first; scans of the same date in the order of their file names.
     QList<ScanSummary> summaries() const;
     const CatalogEntries& entries() const { return m_entries; }
 
 private:
+    bool knowsAsItIs(const ListedHistoryFile& file) const;
+
     QString m_folder;
     CatalogEntries m_entries;
     // What the index on disk holds, as far as this catalog knows.

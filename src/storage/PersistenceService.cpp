@@ -5,6 +5,7 @@
 #include "storage/CsvExport.h"
 #include "storage/HistoryLocation.h"
 #include "storage/StoredFileRead.h"
+#include "storage/SummaryIndex.h"
 
 #include <QDir>
 #include <QFile>
@@ -80,7 +81,9 @@ std::variant<HistoryCatalog, StorageError> PersistenceService::openCatalog() {
     auto looked = catalog.look(HistoryCatalog::Reporting::everyBrokenFile);
     if (auto* error = std::get_if<StorageError>(&looked))
         return std::move(*error);
-    catalog.updateIndex();
+    // A folder that cannot take the index still works, only without the head start.
+    if (auto update = catalog.indexUpdate())
+        writeSummaryIndex(m_storagePath, *update);
     return catalog;
 }
 
