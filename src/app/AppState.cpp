@@ -115,8 +115,7 @@ void AppState::loadHistory() {
     }
     const auto& catalog = std::get<HistoryCatalog>(opened);
     m_scanHistory.reset(catalog.summaries());
-    m_historyFollower =
-        std::make_unique<HistoryFollower>(catalog, m_store.storagePath());
+    m_historyFollower = std::make_unique<HistoryFollower>(catalog, m_store.storagePath());
     connect(m_historyFollower.get(), &HistoryFollower::summariesChanged, this,
             [this](const QList<ScanSummary>& summaries) {
                 m_loadFailureShown = false;

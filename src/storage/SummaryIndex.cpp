@@ -28,8 +28,8 @@ QDataStream& operator>>(QDataStream& in, FileStamp& stamp) {
 
 QDataStream& operator<<(QDataStream& out, const ScanSummary& summary) {
     return out << summary.id << summary.scanDate.toMSecsSinceEpoch() << summary.rootPath
-               << summary.rootName << summary.totalSize << summary.fileCount
-               << summary.folderCount << summary.maxDepth << summary.scanDuration;
+               << summary.rootName << summary.totalSize << summary.fileCount << summary.folderCount
+               << summary.maxDepth << summary.scanDuration;
 }
 
 QDataStream& operator>>(QDataStream& in, ScanSummary& summary) {
@@ -96,8 +96,7 @@ CatalogEntries readSummaryIndex(const QString& historyFolder) {
     if (storedMagic != magic || storedVersion != formatVersion)
         return {};
     in >> payload >> storedDigest;
-    if (in.status() != QDataStream::Ok ||
-        storedDigest != QCryptographicHash::hash(payload, digest))
+    if (in.status() != QDataStream::Ok || storedDigest != QCryptographicHash::hash(payload, digest))
         return {};
     return entriesOf(payload);
 }

@@ -29,12 +29,12 @@ void HistoryListModel::setHistory(ScanHistoryModel* history) {
     if (history) {
         // Every change of the history, however small, is a new list: a search and a sort over
         // ten thousand scans' summaries take well under a frame.
-        connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::refresh);
-        connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::refresh);
-        connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::refresh);
-        connect(history, &QAbstractItemModel::dataChanged, this, &HistoryListModel::refresh);
+        connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::dataChanged, this, &HistoryListModel::followHistory);
     }
-    refresh();
+    followHistory();
     emit historyChanged();
 }
 
@@ -42,7 +42,7 @@ void HistoryListModel::setSearchText(const QString& text) {
     if (m_searchText == text)
         return;
     m_searchText = text;
-    refresh();
+    refreshRows();
     emit searchTextChanged();
 }
 
@@ -50,7 +50,7 @@ void HistoryListModel::setSortOrder(HistorySortOrder order) {
     if (m_sortOrder == order)
         return;
     m_sortOrder = order;
-    refresh();
+    refreshRows();
     emit sortOrderChanged();
 }
 
@@ -98,18 +98,22 @@ QList<ScanSummary> HistoryListModel::allScans() const {
     return m_history ? m_history->results() : QList<ScanSummary>{};
 }
 
-void HistoryListModel::refresh() {
+void HistoryListModel::followHistory() {
     const QList<ScanSummary> scans = allScans();
-    syncRows(filteredHistory(scans, m_searchText, m_sortOrder));
     if (m_selection.keepOnly(scans))
         emit selectionChanged();
+    const bool showsTrend = historyHasTrend(scans);
+    const bool trendShownChanged = std::exchange(m_showsTrend, showsTrend) != showsTrend;
+    refreshRows(trendShownChanged);
+}
+
+void HistoryListModel::refreshRows(bool trendShownChanged) {
+    syncRows(filteredHistory(allScans(), m_searchText, m_sortOrder));
     // Redrawn only when it changed: the chart of a folder scanned every hour for a year draws
     // thousands of points.
-    const bool showsTrend = historyHasTrend(scans);
     TrendSeries trend = storageTrend(m_results);
-    if (showsTrend == m_showsTrend && trend == m_trend)
+    if (!trendShownChanged && trend == m_trend)
         return;
-    m_showsTrend = showsTrend;
     m_trend = std::move(trend);
     emit trendChanged();
 }

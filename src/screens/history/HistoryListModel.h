@@ -65,7 +65,10 @@ signals:
 
 private:
     QList<ScanSummary> allScans() const;
-    void refresh();
+    // Takes in a change of the history: rows, selection, whether any folder has a trend.
+    void followHistory();
+    // Takes in a change of the search or the order: rows and the trend they chart.
+    void refreshRows(bool trendShownChanged = false);
     void refreshSelectedRoles();
 
     QPointer<ScanHistoryModel> m_history;

@@ -32,8 +32,8 @@ QString sortOrderLabel(HistorySortOrder order) {
     return {};
 }
 
-QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history,
-                                      const QString& searchText, HistorySortOrder order) {
+QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history, const QString& searchText,
+                                   HistorySortOrder order) {
     QList<ScanSummary> kept;
     kept.reserve(history.size());
     std::copy_if(history.begin(), history.end(), std::back_inserter(kept),
@@ -70,8 +70,8 @@ QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history,
         std::sort(names.begin(), names.end(),
                   [&](const QString& a, const QString& b) { return collator.compare(a, b) < 0; });
         for (qsizetype i = 1; i < names.size(); ++i)
-            ranks[names.at(i)] =
-                ranks.value(names.at(i - 1)) + (collator.compare(names.at(i - 1), names.at(i)) != 0);
+            ranks[names.at(i)] = ranks.value(names.at(i - 1)) +
+                                 (collator.compare(names.at(i - 1), names.at(i)) != 0);
         std::stable_sort(kept.begin(), kept.end(), [&](const auto& a, const auto& b) {
             return ranks.value(a.rootName) < ranks.value(b.rootName);
         });
