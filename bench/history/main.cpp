@@ -1,8 +1,8 @@
 #include "StoredHistory.h"
 
 #include "app/AppState.h"
-#include "app/shell/ShellEngine.h"
 #include "frames/FrameCost.h"
+#include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 #include "storage/SummaryIndex.h"
 
