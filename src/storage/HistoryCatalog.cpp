@@ -93,9 +93,12 @@ std::variant<bool, StorageError> HistoryCatalog::look(Reporting reporting) {
         }
         latest.insert(file.name, std::move(*entry));
     }
-    const bool differs = latest != m_entries;
+    // Kept as it was when nothing changed, so that copies of the catalog stay shared and the
+    // thread that takes the look in frees nothing.
+    if (latest == m_entries)
+        return false;
     m_entries = std::move(latest);
-    return differs;
+    return true;
 }
 
 bool HistoryCatalog::knowsAsItIs(const ListedHistoryFile& file) const {

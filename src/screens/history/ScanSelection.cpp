@@ -21,6 +21,8 @@ bool ScanSelection::clear() {
 }
 
 bool ScanSelection::keepOnly(const QList<ScanSummary>& history) {
+    if (m_ids.isEmpty())
+        return false;
     QSet<QUuid> present;
     for (const ScanSummary& result : history)
         present.insert(result.id);

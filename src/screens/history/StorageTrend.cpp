@@ -25,10 +25,14 @@ QList<qreal> TrendSeries::sizeValues() const {
 }
 
 bool historyHasTrend(const QList<ScanSummary>& history) {
+    // A folder watched over months shows up again within the first few scans.
     QSet<QString> paths;
-    for (const ScanSummary& result : history)
+    for (const ScanSummary& result : history) {
+        if (paths.contains(result.rootPath))
+            return true;
         paths.insert(result.rootPath);
-    return history.size() >= 2 && paths.size() < history.size();
+    }
+    return false;
 }
 
 TrendSeries storageTrend(const QList<ScanSummary>& scans) {
