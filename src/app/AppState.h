@@ -4,6 +4,7 @@
 #include "HistoryFollower.h"
 #include "ScanHistoryModel.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "model/ScanProgress.h"
 
 #include "model/CancelToken.h"
@@ -23,6 +24,7 @@ class QJSEngine;
 namespace tessarine {
 
 class FileSystemScanner;
+struct FolderSizes;
 class PersistenceService;
 struct ScanError;
 
@@ -48,6 +50,11 @@ class AppState : public QObject {
     Q_PROPERTY(bool hasScanProgress READ hasScanProgress NOTIFY scanProgressChanged)
     Q_PROPERTY(tessarine::AppError error READ errorOrEmpty WRITE setError NOTIFY errorChanged)
     Q_PROPERTY(bool hasError READ hasError NOTIFY errorChanged)
+    // Where the history files are; the comparison reads the scans' folder sizes beside them.
+    Q_PROPERTY(QString historyFolder READ historyFolder CONSTANT)
+    // What new scans count (the Settings window's options), remembered between launches.
+    Q_PROPERTY(tessarine::ScanOptions scanOptions READ scanOptions WRITE setScanOptions NOTIFY
+                   scanOptionsChanged)
 
 public:
     enum AppView { Landing, Scanning, Dashboard, History };
@@ -75,6 +82,7 @@ public:
     bool hasCurrentResult() const { return m_currentResult.has_value(); }
     void setCurrentResult(const AnalysisResult& result);
     ScanHistoryModel* scanHistory() { return &m_scanHistory; }
+    QString historyFolder() const;
     bool showFolderPicker() const { return m_showFolderPicker; }
     void setShowFolderPicker(bool show);
     bool isScanning() const { return m_isScanning; }
@@ -88,11 +96,16 @@ public:
     bool hasError() const { return m_error.has_value(); }
     void setError(const AppError& error);
     bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
+    const ScanOptions& scanOptions() const { return m_scanOptions; }
+    void setScanOptions(const ScanOptions& options);
 
-    // Begins a scan of the folder; a scan already running is cancelled and replaced. Accepts a
-    // file URL or a plain path.
+    // Begins a scan of the folder with the options of scanOptions; a scan already running is
+    // cancelled and replaced. Accepts a file URL or a plain path.
     Q_INVOKABLE void startScan(const QUrl& folder);
     void startScan(const QString& folderPath);
+    // Scans a result's folder again with the options it was made with, so that the new result
+    // compares with it.
+    Q_INVOKABLE void rescan(const tessarine::AnalysisResult& result);
     // Stops the running scan and returns to the landing view at once, without an error.
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
@@ -124,6 +137,7 @@ signals:
     void isScanningChanged();
     void scanProgressChanged();
     void errorChanged();
+    void scanOptionsChanged();
 
 private:
     using TaskId = quint64;
@@ -132,9 +146,11 @@ private:
     // The load alert, raised once for a folder that stays unreadable, not at every change.
     void reportLoadFailure(const QString& description);
     std::optional<AnalysisResult> loadStoredResult(const ScanSummary& scan);
-    void saveResult(const AnalysisResult& result);
+    void saveResult(const AnalysisResult& result, const FolderSizes* folderSizes);
     void setIsScanning(bool scanning);
-    void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath);
+    void beginScan(const QString& folderPath, const ScanOptions& options);
+    void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath,
+                     const ScanOptions& options);
     void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
                     AnalysisResult result);
     void failScan(TaskId task, const ScanError& failure);
@@ -151,6 +167,7 @@ private:
     bool m_isScanning = false;
     std::optional<ScanProgress> m_scanProgress;
     std::optional<AppError> m_error;
+    ScanOptions m_scanOptions;
     // The task of the current scan. A task whose id is no longer here was cancelled: its
     // outcome is dropped without touching the state.
     std::optional<TaskId> m_currentScanTask;

@@ -1,11 +1,12 @@
 #include "FolderDrop.h"
 
-#include <QFileInfo>
+#include "model/PathBytes.h"
+#include "scanner/PathAccess.h"
 
 namespace tessarine {
 
 bool FolderDrop::isFolder(const QUrl& url) {
-    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
+    return url.isLocalFile() && tessarine::isFolder(pathFromUrl(url));
 }
 
 } // namespace tessarine

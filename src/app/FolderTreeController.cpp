@@ -19,16 +19,16 @@ void FolderTreeController::setTree(const SharedFolderTree& tree) {
     setState(m_tree ? Ready : Idle);
 }
 
-void FolderTreeController::build(const QString& rootPath) {
+void FolderTreeController::build(const QString& rootPath, const ScanOptions& options) {
     stopWorker();
     const BuildId build = ++m_currentBuild;
     m_currentCancel = CancelToken();
     setErrorText({});
     setState(Building);
-    m_worker.reset(QThread::create([this, build, rootPath, cancel = m_currentCancel] {
+    m_worker.reset(QThread::create([this, build, rootPath, options, cancel = m_currentCancel] {
         const std::optional<FolderTreeError> rootError = unlistableRootError(rootPath);
         FolderTreeOutcome outcome =
-            rootError ? FolderTreeOutcome(*rootError) : m_service.build(rootPath, cancel);
+            rootError ? FolderTreeOutcome(*rootError) : m_service.build(rootPath, options, cancel);
         // Dropped by Qt when the controller is gone by the time it would arrive.
         QMetaObject::invokeMethod(
             this,

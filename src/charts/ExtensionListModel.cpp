@@ -1,6 +1,7 @@
 #include "charts/ExtensionListModel.h"
 
 #include "design/RoleNames.h"
+#include "model/SaturatingSum.h"
 
 #include <numeric>
 
@@ -70,9 +71,10 @@ int ExtensionListModel::count() const {
 }
 
 qint64 ExtensionListModel::hiddenSize() const {
-    return std::accumulate(
-        m_extensions.cbegin() + count(), m_extensions.cend(), qint64(0),
-        [](qint64 sum, const ExtensionStats& stats) { return sum + stats.totalSize; });
+    return std::accumulate(m_extensions.cbegin() + count(), m_extensions.cend(), qint64(0),
+                           [](qint64 sum, const ExtensionStats& stats) {
+                               return saturatingAdd(sum, stats.totalSize);
+                           });
 }
 
 } // namespace tessarine

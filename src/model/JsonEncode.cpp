@@ -153,6 +153,15 @@ QByteArray encode(const AnalysisResult& result) {
     writer.member(u"rootPath", result.rootPath);
     writer.member(u"scanDate", formatDate(result.scanDate));
     writer.member(u"scanDuration", result.scanDuration);
+    // Left out when every option is off, so that a default result keeps the form it always had.
+    if (!result.scanOptions.isDefault()) {
+        writer.key(u"scanOptions");
+        writer.beginObject();
+        writer.member(u"diskUsage", result.scanOptions.diskUsage);
+        writer.member(u"includeHidden", result.scanOptions.includeHidden);
+        writer.member(u"oneFileSystem", result.scanOptions.oneFileSystem);
+        writer.endObject();
+    }
     writer.member(u"totalSize", result.totalSize);
     writer.endObject();
     return writer.take();

@@ -6,6 +6,7 @@
 #include "model/FolderPath.h"
 #include "model/InsightType.h"
 #include "model/RecordId.h"
+#include "model/ScanOptions.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -207,6 +208,7 @@ struct AnalysisResult {
     Q_PROPERTY(QString formattedDuration READ formattedDuration)
     Q_PROPERTY(QString folderName READ folderName)
     Q_PROPERTY(tessarine::SharedFolderTree folderTree MEMBER folderTree)
+    Q_PROPERTY(tessarine::ScanOptions scanOptions MEMBER scanOptions)
 
 public:
     QUuid id = makeRecordId();
@@ -224,6 +226,7 @@ public:
     QHash<QString, ExtensionStats> extensionStats; // keyed by ExtensionStats::ext
     QList<PatternInsight> insights;
     SharedFolderTree folderTree;
+    ScanOptions scanOptions; // what the scan was made with
 
     // The extension entries, largest totalSize first.
     QList<ExtensionStats> sortedExtensions() const;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ScanOptions.h"
 #include "scanner/DirectoryListing.h"
 
 #include <QByteArray>
@@ -22,9 +23,9 @@ struct WalkProgress {
 //
 // Hidden entries (and all below them) are left out, package folders are listed as one entry
 // without their contents, symbolic links are never followed (the root itself may be one), mount
-// points are crossed. Folders are opened relative to their parent's descriptor, so depth is not
-// limited by PATH_MAX; the result does not depend on thread scheduling: every folder's entries
-// are kept in the order the file system listed them.
+// points are crossed: unless the scan options say otherwise. Folders are opened relative to their
+// parent's descriptor, so depth is not limited by PATH_MAX; the result does not depend on thread
+// scheduling: every folder's entries are kept in the order the file system listed them.
 class DirectoryWalker {
 public:
     struct Options {
@@ -36,6 +37,7 @@ public:
         // the process's open-file limit (whose soft value the walker raises to the hard one).
         int maxHeldDescriptors = 0;
         ListingDetail detail;
+        ScanOptions scanOptions;
         std::chrono::milliseconds progressInterval{120};
         // Called on the thread that runs walk(), about once per progressInterval.
         std::function<void(const WalkProgress&)> onProgress;

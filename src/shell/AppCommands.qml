@@ -5,6 +5,7 @@ import Tessarine.App
 // window of the application, as menu commands do.
 Item {
     signal helpRequested
+    signal settingsRequested
     // The menu's "Close Window": the menu is the main window's, so it closes that window.
     signal closeWindowRequested
     signal quitRequested
@@ -34,6 +35,12 @@ Item {
         sequences: ["Ctrl+?", "Ctrl+Shift+?"]
         context: Qt.ApplicationShortcut
         onActivated: helpRequested()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        context: Qt.ApplicationShortcut
+        onActivated: settingsRequested()
     }
 
     Shortcut {

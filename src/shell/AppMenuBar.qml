@@ -26,6 +26,11 @@ MenuBar {
             shortcutText: "Ctrl+Shift+H"
             onTriggered: bar.commands.viewHistory()
         }
+        AppMenuItem {
+            text: "&Settings…"
+            shortcutText: "Ctrl+,"
+            onTriggered: bar.commands.settingsRequested()
+        }
         MenuSeparator {}
         AppMenuItem {
             text: "&Close Window"

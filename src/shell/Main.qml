@@ -35,6 +35,7 @@ ApplicationWindow {
     AppCommands {
         id: commands
         onHelpRequested: helpWindow.showHelp()
+        onSettingsRequested: settingsWindow.showSettings()
         onCloseWindowRequested: window.close()
         // The engine hands the request to the application, which ends once the event loop turns.
         onQuitRequested: Qt.quit()
@@ -55,5 +56,10 @@ ApplicationWindow {
     HelpWindow {
         id: helpWindow
         objectName: "helpWindow"
+    }
+
+    SettingsWindow {
+        id: settingsWindow
+        objectName: "settingsWindow"
     }
 }

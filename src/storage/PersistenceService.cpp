@@ -3,6 +3,7 @@
 #include "model/Json.h"
 #include "storage/CompleteWrite.h"
 #include "storage/CsvExport.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/HistoryLocation.h"
 #include "storage/StoredFileRead.h"
 #include "storage/SummaryIndex.h"
@@ -126,9 +127,11 @@ std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id) {
         return error;
     m_recentResults.forget(id);
     QFile file(historyFilePath(id));
-    if (!file.exists() || file.remove())
-        return std::nullopt;
-    return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};
+    if (file.exists() && !file.remove())
+        return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};
+    // Second: should this removal fail, the scan has left the history all the same, and a folder
+    // sizes file without its history file is never read.
+    return removeFolderSizes(m_storagePath, id);
 }
 
 QByteArray PersistenceService::encode(const AnalysisResult& result) const {

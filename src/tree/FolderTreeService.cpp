@@ -47,7 +47,8 @@ void FolderTreeService::setCancelled(bool cancelled) {
         QMetaObject::invokeMethod(this, [this] { emit isCancelledChanged(); });
 }
 
-FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken task) {
+FolderTreeOutcome FolderTreeService::build(const QString& rootPath, const ScanOptions& options,
+                                           CancelToken task) {
     using Phase = FolderTreeProgress::Phase;
     setCancelled(false);
     {
@@ -60,7 +61,7 @@ FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken 
     publish(record(Phase::enumerating, 0, 0, root));
 
     const DirectoryListing listing =
-        enumerateFolders(root, task.flag(), [this](qint64 items, qint64 folders) {
+        enumerateFolders(root, options, task.flag(), [this](qint64 items, qint64 folders) {
             publish(record(Phase::enumerating, 0, items, foundText(items, folders)));
         });
     if (task.isCancelled())

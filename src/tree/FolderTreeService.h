@@ -2,6 +2,7 @@
 
 #include "model/CancelToken.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "tree/FolderTreeError.h"
 #include "tree/FolderTreeProgress.h"
 
@@ -46,11 +47,13 @@ public:
     bool isCancelled() const;
     void setCancelled(bool cancelled);
 
-    // Call from a worker thread (or a test thread other than the service's). `task` is the
-    // cancellation of the caller's task: cancelled at any time, before this call included, it
-    // stops the build. A build resets isCancelled when it starts, so a request made through it
-    // before then is forgotten; the task's is not.
-    FolderTreeOutcome build(const QString& rootPath, CancelToken task = CancelToken());
+    // Call from a worker thread (or a test thread other than the service's). `options` are those
+    // of the result whose tree this is, so that both count alike. `task` is the cancellation of
+    // the caller's task: cancelled at any time, before this call included, it stops the build. A
+    // build resets isCancelled when it starts, so a request made through it before then is
+    // forgotten; the task's is not.
+    FolderTreeOutcome build(const QString& rootPath, const ScanOptions& options = {},
+                            CancelToken task = CancelToken());
 
     // Receives every progress record as it is made, before it is handed to the service's thread:
     // a caller can follow the whole sequence instead of sampling it, or act at an exact point of

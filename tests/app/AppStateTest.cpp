@@ -2,6 +2,7 @@
 #include "DashboardResult.h"
 #include "FileTrees.h"
 #include "ScanFolders.h"
+#include "UserFiles.h"
 #include "app/FolderTreeController.h"
 #include "model/ScanProgress.h"
 #include "storage/PersistenceService.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -40,7 +40,7 @@ class AppStateTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void initTestCase() { testing::isolateUserFiles(); }
 
     void successfulScanShowsSavesAndListsTheResult() {
         QTemporaryDir home, folder;
@@ -75,6 +75,37 @@ private slots:
         QCOMPARE(state.scanHistory()->count(), 2);
         QCOMPARE(state.scanHistory()->results().at(0).id, state.currentResult()->id);
         QCOMPARE(state.scanHistory()->results().at(1).id, shown.id);
+    }
+
+    // New scans count as Settings say, and the choice outlives the state; a rescan counts as its
+    // result did, whatever Settings say by then.
+    void scansUseTheRememberedOptionsAndRescansTheirResults() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        testing::writeFile(folder.path() + "/.cache/blob", 5000);
+        PersistenceService store(home.path());
+        const ScanOptions hidden{.includeHidden = true};
+        {
+            AppState chosen(store);
+            QCOMPARE(chosen.scanOptions(), ScanOptions());
+            chosen.setScanOptions(hidden);
+        }
+        AppState state(store);
+        QCOMPARE(state.scanOptions(), hidden);
+
+        state.startScan(folder.path());
+        settle(state);
+        const AnalysisResult counted = *state.currentResult();
+        QCOMPARE(counted.scanOptions, hidden);
+        QCOMPARE(counted.fileCount, 7);
+
+        state.setScanOptions({});
+        state.rescan(counted);
+        settle(state);
+        QVERIFY(state.currentResult()->id != counted.id);
+        QCOMPARE(state.currentResult()->scanOptions, hidden);
+        QCOMPARE(state.currentResult()->fileCount, 7);
+        QCOMPARE(AppState(store).scanOptions(), ScanOptions());
     }
 
     void failedScanReturnsToLandingWithTheScannersMessage() {

@@ -146,6 +146,13 @@ private slots:
         QCOMPARE(comparison.files.at(0).symbol, QString("arrow.down"));
         QCOMPARE(comparison.files.at(1).title, QString("new.png"));
         QCOMPARE(comparison.files.at(1).changeText, QString("+50 bytes"));
+        QCOMPARE(comparison.optionsNote, QString());
+
+        // Scans that counted differently say so, whichever of them counted more.
+        after.scanOptions = {.includeHidden = true, .diskUsage = true};
+        QCOMPARE(compareScans(after, before).optionsNote,
+                 QString("Scanned with different options (Before: none; After: hidden items "
+                         "included, disk usage), so the figures differ for that reason too."));
     }
 
     void trendNeedsAFolderScannedTwice() {

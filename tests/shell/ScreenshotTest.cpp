@@ -3,6 +3,7 @@
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "UserFiles.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
@@ -18,7 +19,6 @@
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -174,7 +174,7 @@ class ScreenshotTest : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 
@@ -366,6 +366,46 @@ private slots:
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
         QMetaObject::invokeMethod(scene.find("compareButton"), "clicked");
         scene.save("history-comparison");
+    }
+
+    // Two scans of a tree, saved as the application saves every scan, between which one folder
+    // grew by 50 MB, one appeared and one went: the sheet lists exactly those folders.
+    void historyComparisonOfFolders() {
+        QTemporaryDir tree;
+        testing::writeFiles(tree.path(), {{"media/videos/clip.mp4", 1'000'000},
+                                          {"old/gone/data.bin", 2'000'000},
+                                          {"docs/readme.txt", 5000}});
+        Scene scene;
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 1);
+        QVERIFY(QFile::resize(tree.path() + "/media/videos/clip.mp4", 51'000'000));
+        QVERIFY(QDir(tree.path() + "/old/gone").removeRecursively());
+        testing::writeFile(tree.path() + "/new/fresh.bin", 3'000'000);
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 2);
+
+        scene.history();
+        auto* scans = scene.find("historyScans");
+        QVERIFY(scans);
+        for (const ScanSummary& picked : scene.state().scanHistory()->results())
+            QMetaObject::invokeMethod(scans, "toggleSelection",
+                                      Q_ARG(tessarine::ScanSummary, picked));
+        QMetaObject::invokeMethod(scene.find("compareButton"), "clicked");
+        scene.save("history-comparison-folders");
+    }
+
+    // The Settings window with an option on, and the dashboard of a result made with options.
+    void settings() {
+        Scene scene(3);
+        scene.state().setScanOptions({.includeHidden = true});
+        AnalysisResult result = dashboardResult();
+        result.scanOptions = {.includeHidden = true, .diskUsage = true};
+        scene.showing(result).save("dashboard-options");
+        auto* settings = scene.find<QQuickWindow>("settingsWindow");
+        QVERIFY(settings);
+        QMetaObject::invokeMethod(settings, "showSettings");
+        scene.save("settings", Scene::AfterTransitions, settings);
+        scene.state().setScanOptions({});
     }
 
     void help() {

@@ -1,10 +1,10 @@
 #include "AccessibilityAudit.h"
 #include "AppFixture.h"
+#include "UserFiles.h"
 
 #include "shell/ShellEngine.h"
 
 #include <QQmlEngine>
-#include <QStandardPaths>
 #include <QtQuickTest>
 
 namespace tessarine {
@@ -17,7 +17,7 @@ class ShellTestSetup : public QObject {
 
 public slots:
     void applicationAvailable() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
         m_fixture = std::make_unique<AppFixture>();
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());

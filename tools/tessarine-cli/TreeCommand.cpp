@@ -2,13 +2,12 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "ScanOptionArguments.h"
 
 #include "model/Json.h"
+#include "model/PathNames.h"
 #include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -24,11 +23,11 @@ qint64 levelsBelow(const FolderInfo& root) {
     return deepest - root.depth;
 }
 
-FolderTreeOutcome buildTree(const QString& rootPath) {
+FolderTreeOutcome buildTree(const QString& rootPath, const ScanOptions& options) {
     FolderTreeService service;
     const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [&] { return service.build(rootPath, task); },
+        [&] { return service.build(rootPath, options, task); },
         [&] { task.cancel(); },
         [&] { return service.progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
@@ -38,15 +37,15 @@ FolderTreeOutcome buildTree(const QString& rootPath) {
 } // namespace
 
 int runTree(const QStringList& arguments) {
-    const auto parsing = parseFolderCommand(arguments, {}, QStringLiteral("tree"));
+    const auto parsing = parseFolderCommand(arguments, scanOptionNames(), QStringLiteral("tree"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
-    const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
-    const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
+    const Arguments& parsed = std::get<Arguments>(parsing);
+    const QString rootPath = cleanRootPath(parsed.positional.first());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
 
-    FolderTreeOutcome outcome = buildTree(rootPath);
+    FolderTreeOutcome outcome = buildTree(rootPath, scanOptionsOf(parsed));
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
     // The tree of a folder chain deeper than JSON readers go (Qt's and Python's stop at some five

@@ -3,6 +3,8 @@
 #include "Commands.h"
 #include "StandardStreams.h"
 
+#include "model/PathBytes.h"
+
 #include <QCoreApplication>
 
 #include <csignal>
@@ -14,5 +16,6 @@ int main(int argc, char** argv) {
     reserveStandardOutput();
 
     QCoreApplication application(argc, argv);
-    return runCommandLine(QCoreApplication::arguments().mid(1));
+    // Not QCoreApplication::arguments(), which loses the bytes of a folder name that is not UTF-8.
+    return runCommandLine(tessarine::argumentsFromBytes(argc, argv).mid(1));
 }

@@ -4,10 +4,12 @@ import Tessarine.App
 import Tessarine.Design
 import Tessarine.Screens
 
-// Which folder the result is of, when it was scanned and how long it took, and Rescan.
+// Which folder the result is of, when it was scanned, how long it took and with which options,
+// and Rescan.
 Card {
     id: header
-    Accessible.name: result.rootName + ", scanned in " + result.formattedDuration
+    Accessible.name: [result.rootName, "scanned in " + result.formattedDuration]
+                     .concat(result.scanOptions.labels).join(", ")
 
     required property analysisResult result
 
@@ -65,6 +67,15 @@ Card {
                     font: Theme.callout
                     text: "Scanned in " + header.result.formattedDuration
                 }
+
+                // How this result counted, when not as by default: its figures read differently.
+                DetailLabel {
+                    objectName: "scanOptionsLabel"
+                    visible: header.result.scanOptions.labels.length > 0
+                    font: Theme.callout
+                    symbol: "gearshape"
+                    text: header.result.scanOptions.labels.join(", ")
+                }
             }
         }
 
@@ -73,7 +84,7 @@ Card {
             Layout.alignment: Qt.AlignTop
             text: "Rescan"
             symbol: "arrow.clockwise"
-            onClicked: AppState.startScan(FolderUrl.fromPath(header.result.rootPath))
+            onClicked: AppState.rescan(header.result)
         }
     }
 }

@@ -31,6 +31,8 @@ QVariant ChangeListModel::data(const QModelIndex& index, int role) const {
         return row.icon;
     case IconColorRole:
         return row.iconColor;
+    case ShareRole:
+        return row.share;
     }
     return {};
 }

@@ -27,6 +27,7 @@ public:
         ColorRole,
         IconRole,
         IconColorRole,
+        ShareRole,
     };
     Q_ENUM(Role)
 

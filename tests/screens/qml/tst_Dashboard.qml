@@ -286,16 +286,28 @@ ScreenTestCase {
         verify(!ViewSearch.shows(view, "Insights"))
     }
 
-    function test_rescanScansTheSameFolder() {
+    // With the result's own options, whatever Settings say by then.
+    function test_rescanScansTheSameFolderAsBefore() {
         // A name that a URL parser would cut at "#" or decode at "%41".
         const folder = Fixture.makeFolder("Odd #1 %41 name")
         Fixture.showResult(folder)
         const view = createTemporaryObject(dashboardComponent, testCase)
+        verify(!ViewSearch.named(view, "scanOptionsLabel"))
+        AppState.scanOptions.includeHidden = true
         mouseClick(ViewSearch.named(view, "rescanButton"))
+        AppState.scanOptions.includeHidden = false
         compare(AppState.currentView, AppState.Scanning)
         tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
         compare(AppState.currentResult.rootPath, folder)
+        compare(AppState.currentResult.scanOptions.includeHidden, false)
         verify(!AppState.hasError)
+
+        // A new scan counts as Settings say, and the header tells how.
+        AppState.scanOptions.diskUsage = true
+        AppState.startScan(Fixture.urlOf(folder))
+        AppState.scanOptions.diskUsage = false
+        tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
+        compare(ViewSearch.named(view, "scanOptionsLabel").text, "disk usage")
     }
 
     // Tab to a control below the fold scrolls it into sight.

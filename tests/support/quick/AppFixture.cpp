@@ -8,7 +8,9 @@
 #include "FileTrees.h"
 
 #include "app/AppState.h"
+#include "scanner/FileSystemScanner.h"
 #include "screens/dashboard/FileActions.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 #include "tree/FolderTreeService.h"
 
@@ -108,6 +110,12 @@ void AppFixture::forgetFolderScans() {
 }
 
 void AppFixture::fillHistory(int count) {
+    // Disk and list agree, so that the application's reload after a change on disk keeps them:
+    // scans an earlier test saved behind the list's back go too.
+    const auto stored = m_store->loadSummaries();
+    if (const auto* summaries = std::get_if<QList<ScanSummary>>(&stored))
+        for (const ScanSummary& scan : *summaries)
+            m_store->deleteResult(scan.id);
     QList<ScanSummary> summaries;
     for (int n = count; n >= 1; --n) {
         AnalysisResult result = resultOf(QStringLiteral("/Users/ann/Scan %1").arg(n));
@@ -115,9 +123,6 @@ void AppFixture::fillHistory(int count) {
         m_store->save(result);
         summaries.append(ScanSummary::of(result));
     }
-    // Disk and list agree, so that the application's reload after a change on disk keeps them.
-    for (const ScanSummary& scan : m_state->scanHistory()->results())
-        m_store->deleteResult(scan.id);
     m_state->scanHistory()->reset(summaries);
 }
 
@@ -191,6 +196,15 @@ QString AppFixture::missingFolder() const {
 
 void AppFixture::createFolderAt(const QString& path) const {
     QDir().mkpath(path);
+}
+
+AnalysisResult AppFixture::saveScan(const QString& root) {
+    FileSystemScanner scanner;
+    const AnalysisResult result = std::get<AnalysisResult>(scanner.scan(root));
+    if (m_store->save(result) ||
+        saveFolderSizes(m_store->storagePath(), result.id, *scanner.folderSizes()))
+        qFatal("cannot store a scan of %s", qPrintable(root));
+    return result;
 }
 
 AnalysisResult AppFixture::resultWithoutTree(const QString& root) const {
