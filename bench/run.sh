@@ -352,4 +352,4 @@ if [[ -x $folders ]]; then
 fi
 
 offscreen "Opening the dashboard" "$dashboard"
-offscreen "Starting over a history of 1,000 scans, scrolling and searching it" "$history"
+offscreen "A history of 10,000 scans: start, a scan saved by the command line, memory, scrolling, searching and sorting" "$history" "$cli"

@@ -23,10 +23,6 @@ namespace {
 // would flood the interface thread.
 constexpr auto progressWatchInterval = std::chrono::milliseconds(120);
 
-// Long enough for a save's temporary file and rename to arrive as one change, short enough that
-// a scan saved by the command-line tool appears while the user still looks.
-constexpr auto historySettleInterval = std::chrono::milliseconds(150);
-
 AppState* sharedInstance = nullptr;
 
 // Assigns the value when it differs, and says whether it did: assigning an equal value must not
@@ -52,13 +48,6 @@ AppState::AppState(PersistenceService& store, QObject* parent)
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
     loadHistory();
-    m_historyReload.setSingleShot(true);
-    m_historyReload.setInterval(historySettleInterval);
-    connect(&m_historyReload, &QTimer::timeout, this, &AppState::reloadHistory);
-    connect(&m_historyWatcher, &QFileSystemWatcher::directoryChanged, &m_historyReload,
-            qOverload<>(&QTimer::start));
-    if (!m_store.directoryError())
-        m_historyWatcher.addPath(m_store.storagePath());
 }
 
 AppState::~AppState() {
@@ -127,23 +116,30 @@ void AppState::waitForWorkers() {
 }
 
 void AppState::loadHistory() {
-    m_scanHistory.reset(loadStoredResults().value_or(QList<AnalysisResult>{}));
-}
-
-void AppState::reloadHistory() {
-    if (auto latest = loadStoredResults())
-        m_scanHistory.sync(*latest);
-}
-
-std::optional<QList<AnalysisResult>> AppState::loadStoredResults() {
-    auto loaded = m_store.loadAll();
-    if (const auto* failure = std::get_if<StorageError>(&loaded)) {
-        if (!std::exchange(m_loadFailureShown, true))
-            setError(AppError::loadFailed(failure->errorDescription()));
-        return std::nullopt;
+    auto opened = m_store.openCatalog();
+    if (const auto* failure = std::get_if<StorageError>(&opened)) {
+        reportLoadFailure(failure->errorDescription());
+        // Nothing to follow in a folder that could not be made; one that could not be listed
+        // may come right, and is followed from nothing.
+        if (m_store.directoryError())
+            return;
+        opened = HistoryCatalog(m_store.storagePath());
     }
-    m_loadFailureShown = false;
-    return std::move(std::get<QList<AnalysisResult>>(loaded));
+    const auto& catalog = std::get<HistoryCatalog>(opened);
+    m_scanHistory.reset(catalog.summaries());
+    m_historyFollower = std::make_unique<HistoryFollower>(catalog, m_store.storagePath());
+    connect(m_historyFollower.get(), &HistoryFollower::summariesChanged, this,
+            [this](const QList<ScanSummary>& summaries) {
+                m_loadFailureShown = false;
+                m_scanHistory.sync(summaries);
+            });
+    connect(m_historyFollower.get(), &HistoryFollower::lookFailed, this,
+            &AppState::reportLoadFailure);
+}
+
+void AppState::reportLoadFailure(const QString& description) {
+    if (!std::exchange(m_loadFailureShown, true))
+        setError(AppError::loadFailed(description));
 }
 
 void AppState::startScan(const QUrl& folder) {
@@ -231,7 +227,9 @@ void AppState::saveResult(const AnalysisResult& result, const FolderSizes* folde
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
-    m_scanHistory.prepend(result);
+    if (m_historyFollower)
+        m_historyFollower->noteOwnChange();
+    m_scanHistory.prepend(ScanSummary::of(result));
     // The scan stays saved when its folder sizes cannot follow: it just has no folder figures.
     if (folderSizes) {
         if (const auto failure = saveFolderSizes(m_store.storagePath(), result.id, *folderSizes))
@@ -243,12 +241,14 @@ QString AppState::historyFolder() const {
     return m_store.storagePath();
 }
 
-void AppState::deleteScan(const AnalysisResult& result) {
-    if (const auto failure = m_store.deleteResult(result)) {
+void AppState::deleteScan(const ScanSummary& scan) {
+    if (const auto failure = m_store.deleteResult(scan.id)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
-    m_scanHistory.removeAll(result.id);
+    if (m_historyFollower)
+        m_historyFollower->noteOwnChange();
+    m_scanHistory.removeAll(scan.id);
 }
 
 void AppState::importScan(const QUrl& file) {
@@ -275,6 +275,36 @@ void AppState::openResult(const AnalysisResult& result) {
     setCurrentView(Dashboard);
 }
 
+std::optional<AnalysisResult> AppState::loadStoredResult(const ScanSummary& scan) {
+    auto loaded = m_store.loadResult(scan.id);
+    if (const auto* failure = std::get_if<StorageError>(&loaded)) {
+        setError(AppError::loadFailed(failure->errorDescription()));
+        return std::nullopt;
+    }
+    return std::get<AnalysisResult>(std::move(loaded));
+}
+
+void AppState::openStoredScan(const ScanSummary& scan) {
+    if (auto result = loadStoredResult(scan))
+        openResult(*result);
+}
+
+AnalysisResult AppState::storedResult(const ScanSummary& scan) {
+    if (auto result = loadStoredResult(scan))
+        return std::move(*result);
+    AnalysisResult figures;
+    figures.id = scan.id;
+    figures.scanDate = scan.scanDate;
+    figures.rootPath = scan.rootPath;
+    figures.rootName = scan.rootName;
+    figures.totalSize = scan.totalSize;
+    figures.fileCount = scan.fileCount;
+    figures.folderCount = scan.folderCount;
+    figures.maxDepth = scan.maxDepth;
+    figures.scanDuration = scan.scanDuration;
+    return figures;
+}
+
 void AppState::cancelScan() {
     m_currentScanTask.reset();
     m_currentScanCancel.cancel();
@@ -285,11 +315,11 @@ void AppState::cancelScan() {
 }
 
 QUrl AppState::folderPickerStart() const {
-    const AnalysisResult* last = m_currentResult             ? &*m_currentResult
-                                 : m_scanHistory.count() > 0 ? &m_scanHistory.results().first()
-                                                             : nullptr;
-    if (last) {
-        const QString parent = parentFolder(last->rootPath);
+    const QString last = m_currentResult             ? m_currentResult->rootPath
+                         : m_scanHistory.count() > 0 ? m_scanHistory.results().first().rootPath
+                                                     : QString();
+    if (!last.isEmpty()) {
+        const QString parent = parentFolder(last);
         if (!parent.isEmpty() && isFolder(parent))
             return urlFromPath(parent);
     }

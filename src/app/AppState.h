@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppError.h"
+#include "HistoryFollower.h"
 #include "ScanHistoryModel.h"
 #include "model/Records.h"
 #include "model/ScanOptions.h"
@@ -8,7 +9,6 @@
 
 #include "model/CancelToken.h"
 
-#include <QFileSystemWatcher>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -109,12 +109,18 @@ public:
     // Stops the running scan and returns to the landing view at once, without an error.
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
-    Q_INVOKABLE void deleteScan(const tessarine::AnalysisResult& result);
+    Q_INVOKABLE void deleteScan(const tessarine::ScanSummary& scan);
     // Reads a scan made elsewhere (an ncdu export, a Tessarine result) off the interface thread,
     // stores it and shows it; a file that is neither raises the import alert.
     Q_INVOKABLE void importScan(const QUrl& file);
-    // Shows a stored result on the dashboard.
+    // Shows a result on the dashboard.
     Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
+    // Reads a stored scan and shows it on the dashboard; one that can no longer be read raises
+    // the load alert instead.
+    Q_INVOKABLE void openStoredScan(const tessarine::ScanSummary& scan);
+    // The whole stored result, for a comparison. One that can no longer be read raises the load
+    // alert and gives what its summary holds, without categories or files.
+    Q_INVOKABLE tessarine::AnalysisResult storedResult(const tessarine::ScanSummary& scan);
     Q_INVOKABLE void clearError();
     // Where the folder picker opens: beside the folder scanned last (the one on display, else the
     // newest stored), so that a neighbour is one click away; the home folder when there is none.
@@ -140,12 +146,9 @@ private:
     using TaskId = quint64;
 
     void loadHistory();
-    // Takes in what changed on disk since the last load: scans saved by the command-line tool,
-    // history files deleted outside the application.
-    void reloadHistory();
-    // The stored results, or nothing after raising the load alert; the alert is raised once for
-    // a folder that stays unreadable, not at every change the watcher reports.
-    std::optional<QList<AnalysisResult>> loadStoredResults();
+    // The load alert, raised once for a folder that stays unreadable, not at every change.
+    void reportLoadFailure(const QString& description);
+    std::optional<AnalysisResult> loadStoredResult(const ScanSummary& scan);
     void saveResult(const AnalysisResult& result, const FolderSizes* folderSizes);
     void setIsScanning(bool scanning);
     void beginScan(const QString& folderPath, const ScanOptions& options);
@@ -183,10 +186,7 @@ private:
     std::shared_ptr<FileSystemScanner> m_watchedScanner;
     QThreadPool m_workers;
 
-    // A save makes a few changes in a row (a temporary file, then its rename): they are taken in
-    // with one reload once they settle.
-    QFileSystemWatcher m_historyWatcher;
-    QTimer m_historyReload;
+    std::unique_ptr<HistoryFollower> m_historyFollower;
     bool m_loadFailureShown = false;
 };
 

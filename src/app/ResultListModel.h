@@ -1,24 +1,24 @@
 #pragma once
 
-#include "design/RowListModel.h"
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
+#include <QAbstractListModel>
 #include <QList>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
-// A list of stored results shown by a view. A new list is taken in by removing and inserting
-// rows, keyed by id, so that the rows both lists hold stay where they are: the view keeps its
-// place and its delegates instead of starting over.
-class ResultListModel : public RowListModel<ResultListModel, QList<AnalysisResult>> {
+// A list of stored scans shown by a view, by their summaries. A new list is taken in by removing
+// and inserting rows, keyed by id, so that the rows both lists hold stay where they are: the view
+// keeps its place and its delegates instead of starting over.
+class ResultListModel : public QAbstractListModel {
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role {
-        ResultRole = Qt::UserRole + 1,
+        SummaryRole = Qt::UserRole + 1,
         RootNameRole,
         RootPathRole,
         FolderNameRole,
@@ -28,24 +28,31 @@ public:
     };
     Q_ENUM(Role)
 
-    using RowListModel::RowListModel;
+    using QAbstractListModel::QAbstractListModel;
 
-    int count() const { return rowCount(); }
-    const QList<AnalysisResult>& results() const { return m_rows; }
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+    int count() const { return static_cast<int>(m_results.size()); }
+    const QList<ScanSummary>& results() const { return m_results; }
 
 signals:
     void countChanged();
 
 protected:
-    void resetRows(QList<AnalysisResult> results);
-    // Becomes the given list; a row whose record changed under the same id changes in place.
-    // Only where the two order their common rows differently is the whole list replaced.
-    void syncRows(const QList<AnalysisResult>& latest);
-    void insertRow(int row, const AnalysisResult& result);
+    void resetRows(QList<ScanSummary> results);
+    // Becomes the given list. Only where the two order their common rows differently, or an id
+    // is listed twice, is the whole list replaced.
+    void syncRows(const QList<ScanSummary>& latest);
+    void insertRow(int row, const ScanSummary& result);
     void removeRowAt(int row);
 
+    QList<ScanSummary> m_results;
+
 private:
-    QVariant rowData(const AnalysisResult& result, int role) const override;
+    void removeRowsMissingFrom(const QHash<QUuid, qsizetype>& latestRows);
+    // `kept` holds the rows left of the list before, by id.
+    void insertAndUpdateRows(const QList<ScanSummary>& latest, const QHash<QUuid, qsizetype>& kept);
 };
 
 } // namespace tessarine

@@ -2,11 +2,11 @@
 
 namespace tessarine {
 
-void ScanHistoryModel::reset(QList<AnalysisResult> results) {
+void ScanHistoryModel::reset(QList<ScanSummary> results) {
     resetRows(std::move(results));
 }
 
-void ScanHistoryModel::prepend(const AnalysisResult& result) {
+void ScanHistoryModel::prepend(const ScanSummary& result) {
     insertRow(0, result);
 }
 

@@ -6,8 +6,8 @@
 
 namespace tessarine {
 
-// The stored results, newest first, as the sidebar, the landing strip and the history list see
-// them. Changed only by the application state.
+// The stored scans' summaries, newest first, as the sidebar, the landing strip and the history
+// list see them. Changed only by the application state.
 class ScanHistoryModel : public ResultListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -16,12 +16,12 @@ class ScanHistoryModel : public ResultListModel {
 public:
     using ResultListModel::ResultListModel;
 
-    void reset(QList<AnalysisResult> results);
-    void prepend(const AnalysisResult& result);
+    void reset(QList<ScanSummary> results);
+    void prepend(const ScanSummary& result);
     // Removes every row showing the record with this id; the others keep their order.
     void removeAll(const QUuid& id);
     // Becomes the given list (newest first), keeping the rows both hold where they are.
-    void sync(const QList<AnalysisResult>& latest) { syncRows(latest); }
+    void sync(const QList<ScanSummary>& latest) { syncRows(latest); }
 };
 
 } // namespace tessarine

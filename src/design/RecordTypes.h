@@ -2,6 +2,7 @@
 
 #include "model/Records.h"
 #include "model/ScanProgress.h"
+#include "model/ScanSummary.h"
 
 #include <QObject>
 #include <QtQml/qqml.h>
@@ -14,6 +15,12 @@ struct AnalysisResultForeign {
     Q_GADGET
     QML_FOREIGN(tessarine::AnalysisResult)
     QML_VALUE_TYPE(analysisResult)
+};
+
+struct ScanSummaryForeign {
+    Q_GADGET
+    QML_FOREIGN(tessarine::ScanSummary)
+    QML_VALUE_TYPE(scanSummary)
 };
 
 struct FileInfoForeign {

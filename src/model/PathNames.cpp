@@ -30,4 +30,11 @@ QString lastPathComponent(QStringView path) {
     return path.sliced(path.lastIndexOf(u'/') + 1).toString();
 }
 
+QString scannedFolderName(const QString& rootPath) {
+    if (rootPath.isEmpty())
+        return QStringLiteral("Unknown");
+    const QString name = lastPathComponent(rootPath);
+    return name == u'/' ? QString() : name;
+}
+
 } // namespace tessarine

@@ -19,4 +19,8 @@ QString parentFolder(QStringView path);
 // (and "//"), empty for "".
 QString lastPathComponent(QStringView path);
 
+// A scanned folder's name as the sidebar and the history show it: its last component, empty for
+// the root folder (which names itself elsewhere), "Unknown" without a path.
+QString scannedFolderName(const QString& rootPath);
+
 } // namespace tessarine

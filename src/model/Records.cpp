@@ -61,11 +61,7 @@ QString AnalysisResult::formattedDuration() const {
 }
 
 QString AnalysisResult::folderName() const {
-    if (rootPath.isEmpty())
-        return QStringLiteral("Unknown");
-    // The sidebar names a folder by the text after its path's last "/": the root has no name.
-    const QString name = lastPathComponent(rootPath);
-    return name == u'/' ? QString() : name;
+    return scannedFolderName(rootPath);
 }
 
 } // namespace tessarine

@@ -3,12 +3,12 @@ import QtQuick.Controls.Basic
 import Tessarine.App
 import Tessarine.Design
 
-// One of the newest results in the sidebar: its folder's name and size. Clicking it puts the
-// result on the dashboard.
+// One of the newest scans in the sidebar: its folder's name and size. Clicking it puts the
+// scan on the dashboard.
 AbstractButton {
     id: row
 
-    required property analysisResult result
+    required property scanSummary summary
     required property string folderName
     required property double totalSize
 
@@ -19,9 +19,9 @@ AbstractButton {
     topPadding: 5
     bottomPadding: 5
     text: folderName
-    Accessible.name: "Open scan of " + (folderName !== "" ? folderName : result.rootPath)
+    Accessible.name: "Open scan of " + (folderName !== "" ? folderName : summary.rootPath)
 
-    onClicked: AppState.openResult(result)
+    onClicked: AppState.openStoredScan(summary)
 
     contentItem: Column {
         spacing: 1

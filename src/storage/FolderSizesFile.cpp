@@ -25,9 +25,9 @@ std::optional<StorageError> saveFolderSizes(const QString& historyFolder, const 
 }
 
 std::optional<FolderSizes> loadFolderSizes(const QString& historyFolder, const QUuid& id) {
-    const auto bytes = readStoredFile(folderSizesPath(historyFolder, id));
-    if (const auto* content = std::get_if<QByteArray>(&bytes))
-        return decodeFolderSizes(*content);
+    const auto read = readStoredFile(folderSizesPath(historyFolder, id));
+    if (const auto* file = std::get_if<StoredFile>(&read))
+        return decodeFolderSizes(file->bytes);
     return std::nullopt;
 }
 

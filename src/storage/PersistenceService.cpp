@@ -3,18 +3,21 @@
 #include "model/Json.h"
 #include "storage/CompleteWrite.h"
 #include "storage/ConsoleLine.h"
+#include "storage/CsvExport.h"
 #include "storage/FolderSizesFile.h"
 #include "storage/HistoryLocation.h"
 #include "storage/StoredFileRead.h"
+#include "storage/SummaryIndex.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
+
+#include <sys/stat.h>
 
 namespace tessarine {
 
@@ -31,25 +34,6 @@ std::optional<PersistenceError> createDirectory(const QString& path) {
     if (!error)
         return std::nullopt;
     return PersistenceError{PersistenceError::Kind::directoryNotAccessible, describe(error)};
-}
-
-// Hidden entries are skipped, and only an exact lower-case "json" suffix counts, so that
-// editor backups and other people's files in the folder are never tried.
-bool mayHoldResult(const QFileInfo& entry) {
-    return !entry.fileName().startsWith(u'.') && entry.suffix() == u"json";
-}
-
-// The result in one history file, or why it could not be had.
-std::variant<AnalysisResult, QString> readHistoryFile(const QString& path) {
-    auto bytes = readStoredFile(path);
-    if (auto* reason = std::get_if<QString>(&bytes))
-        return std::move(*reason);
-    QString decodeError;
-    std::optional<AnalysisResult> result =
-        json::decodeResult(std::get<QByteArray>(bytes), &decodeError);
-    if (!result)
-        return decodeError;
-    return std::move(*result);
 }
 
 } // namespace
@@ -79,6 +63,8 @@ std::optional<StorageError> PersistenceService::unusableDirectory() const {
 std::optional<StorageError> PersistenceService::save(const AnalysisResult& result) {
     if (auto error = unusableDirectory())
         return error;
+    if (auto recreated = createDirectory(m_storagePath))
+        return StorageError{*recreated};
     const QString path = historyFilePath(result.id);
     const QByteArray bytes = json::encode(result);
     // QSaveFile writes beside the target and renames over it, and leaves nothing behind when it
@@ -89,40 +75,48 @@ std::optional<StorageError> PersistenceService::save(const AnalysisResult& resul
     return StorageError{FileSystemError::about(u"write", path, file.errorString())};
 }
 
-std::variant<QList<AnalysisResult>, StorageError> PersistenceService::loadAll() {
+std::variant<HistoryCatalog, StorageError> PersistenceService::openCatalog() {
     if (auto error = unusableDirectory())
         return *error;
-    const QFileInfo directory(m_storagePath);
-    if (!directory.exists())
-        return QList<AnalysisResult>{};
+    HistoryCatalog catalog(m_storagePath);
+    catalog.takeIndex();
+    auto looked = catalog.look(HistoryCatalog::Reporting::everyBrokenFile);
+    if (auto* error = std::get_if<StorageError>(&looked))
+        return std::move(*error);
+    // A folder that cannot take the index still works, only without the head start.
+    if (auto update = catalog.indexUpdate())
+        writeSummaryIndex(m_storagePath, *update);
+    return catalog;
+}
 
-    // Listed through std::filesystem because QDir turns an unreadable folder into an empty list.
-    QList<QFileInfo> candidates;
-    std::error_code listingError;
-    for (std::filesystem::directory_iterator entry(directory.filesystemFilePath(), listingError),
-         end;
-         !listingError && entry != end; entry.increment(listingError)) {
-        const QFileInfo file(entry->path());
-        if (mayHoldResult(file))
-            candidates.append(file);
-    }
-    if (listingError)
-        return StorageError{FileSystemError::about(u"list", m_storagePath, describe(listingError))};
+std::variant<QList<ScanSummary>, StorageError> PersistenceService::loadSummaries() {
+    auto catalog = openCatalog();
+    if (auto* error = std::get_if<StorageError>(&catalog))
+        return std::move(*error);
+    return std::get<HistoryCatalog>(catalog).summaries();
+}
 
-    QList<AnalysisResult> results;
-    for (const QFileInfo& candidate : std::as_const(candidates)) {
-        auto loaded = readHistoryFile(candidate.filePath());
-        if (auto* reason = std::get_if<QString>(&loaded)) {
-            printConsoleLine(QStringLiteral("Failed to load ") + candidate.fileName() +
-                             QStringLiteral(": ") + *reason);
-            continue;
-        }
-        results.append(std::get<AnalysisResult>(std::move(loaded)));
+std::variant<AnalysisResult, StorageError> PersistenceService::loadResult(const QUuid& id) {
+    if (auto error = unusableDirectory())
+        return *error;
+    const QString path = historyFilePath(id);
+    struct stat status;
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0) {
+        if (auto kept = m_recentResults.find(id, FileStamp::of(status)))
+            return std::move(*kept);
     }
-    std::stable_sort(
-        results.begin(), results.end(),
-        [](const AnalysisResult& a, const AnalysisResult& b) { return a.scanDate > b.scanDate; });
-    return results;
+    auto read = readStoredFile(path);
+    if (const auto* failure = std::get_if<StoredFileFailure>(&read)) {
+        if (failure->vanished)
+            return StorageError{PersistenceError{PersistenceError::Kind::fileNotFound, {}}};
+        return StorageError{FileSystemError::about(u"read", path, failure->reason)};
+    }
+    const StoredFile& file = std::get<StoredFile>(read);
+    std::optional<AnalysisResult> result = json::decodeResult(file.bytes);
+    if (!result)
+        return StorageError{PersistenceError{PersistenceError::Kind::decodingFailed, {}}};
+    m_recentResults.keep(*result, file.stamp);
+    return std::move(*result);
 }
 
 std::optional<StorageError> PersistenceService::deleteResult(const AnalysisResult& result) {
@@ -132,6 +126,7 @@ std::optional<StorageError> PersistenceService::deleteResult(const AnalysisResul
 std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id) {
     if (auto error = unusableDirectory())
         return error;
+    m_recentResults.forget(id);
     QFile file(historyFilePath(id));
     if (file.exists() && !file.remove())
         return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/Records.h"
+#include "storage/HistoryCatalog.h"
 #include "storage/PersistenceError.h"
+#include "storage/RecentResults.h"
 #include "storage/StorageError.h"
 
 #include <QByteArray>
@@ -15,8 +17,9 @@
 namespace tessarine {
 
 // The scan history on disk: one JSON file per finished scan, named after the result's id, in the
-// "Tessarine" folder of the user's data directory. It holds no cache; every loadAll reads the
-// folder afresh. Used from the user-interface thread only, so it needs no lock.
+// "Tessarine" folder of the user's data directory. The history is listed by its summaries (see
+// HistoryCatalog); a whole result is read only when asked for, and the last few are kept. Used
+// from one thread only, so it needs no lock.
 class PersistenceService {
 public:
     // The one instance of the application, made on first use and never destroyed.
@@ -33,11 +36,18 @@ public:
     const std::optional<PersistenceError>& directoryError() const { return m_directoryError; }
     QString historyFilePath(const QUuid& id) const;
 
-    // Writes the result's history file atomically, replacing an earlier save of the same id.
+    // Writes the result's history file atomically, replacing an earlier save of the same id. A
+    // history folder deleted since start is made again, so that the scan is not lost.
     std::optional<StorageError> save(const AnalysisResult& result);
-    // Every stored result, latest scanDate first. A file that cannot be read or decoded is
-    // skipped with one line on standard output and left as it is.
-    std::variant<QList<AnalysisResult>, StorageError> loadAll();
+    // The history as a first look finds it, through the summary index, which it brings up to
+    // date. A file that cannot be read or decoded is skipped with one line on standard output
+    // and left as it is.
+    std::variant<HistoryCatalog, StorageError> openCatalog();
+    // The stored scans' summaries, latest scanDate first, as openCatalog finds them.
+    std::variant<QList<ScanSummary>, StorageError> loadSummaries();
+    // The whole stored result with this id: fileNotFound once its file is gone, decodingFailed
+    // when it no longer decodes.
+    std::variant<AnalysisResult, StorageError> loadResult(const QUuid& id);
     // Removes the result's history file; one that is already gone is not an error.
     std::optional<StorageError> deleteResult(const AnalysisResult& result);
     std::optional<StorageError> deleteResult(const QUuid& id);
@@ -47,6 +57,7 @@ private:
 
     QString m_storagePath;
     std::optional<PersistenceError> m_directoryError;
+    RecentResults m_recentResults;
 };
 
 } // namespace tessarine

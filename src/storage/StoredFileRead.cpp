@@ -19,8 +19,8 @@ namespace {
 // show, while a runaway file is refused before it takes gigabytes of memory.
 constexpr qint64 largestStoredFile = 512 * 1024 * 1024;
 
-QString systemReason(int error) {
-    return QString::fromLocal8Bit(std::strerror(error));
+StoredFileFailure systemFailure(int error) {
+    return {QString::fromLocal8Bit(std::strerror(error)), error == ENOENT};
 }
 
 // Closes the descriptor on every way out.
@@ -40,27 +40,27 @@ private:
     int m_fd;
 };
 
-QString tooLarge() {
-    return QStringLiteral("File is larger than %1 bytes, more than any stored scan")
-        .arg(largestStoredFile);
+StoredFileFailure tooLarge() {
+    return {QStringLiteral("File is larger than %1 bytes, more than any stored scan")
+                .arg(largestStoredFile)};
 }
 
 } // namespace
 
-std::variant<QByteArray, QString> readStoredFile(const QString& path) {
+std::variant<StoredFile, StoredFileFailure> readStoredFile(const QString& path) {
     // Without O_NONBLOCK, opening a pipe waits for a writer that may never come. What was opened
     // is checked afterwards, on the descriptor, so nothing can be swapped in between.
     const Descriptor file(
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (file.get() < 0)
-        return systemReason(errno);
+        return systemFailure(errno);
     struct stat status;
     if (::fstat(file.get(), &status) != 0)
-        return systemReason(errno);
+        return systemFailure(errno);
     if (S_ISDIR(status.st_mode))
-        return systemReason(EISDIR);
+        return systemFailure(EISDIR);
     if (!S_ISREG(status.st_mode))
-        return QStringLiteral("Not a regular file");
+        return StoredFileFailure{QStringLiteral("Not a regular file")};
     if (status.st_size > largestStoredFile)
         return tooLarge();
 
@@ -79,13 +79,13 @@ std::variant<QByteArray, QString> readStoredFile(const QString& path) {
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
-            return systemReason(errno);
+            return systemFailure(errno);
         if (got == 0)
             break;
         filled += got;
     }
     bytes.truncate(filled);
-    return bytes;
+    return StoredFile{std::move(bytes), FileStamp::of(status)};
 }
 
 } // namespace tessarine

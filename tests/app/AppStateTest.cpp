@@ -61,7 +61,7 @@ private slots:
         const AnalysisResult shown = *state.currentResult();
         QCOMPARE(shown.rootPath, folder.path());
         QCOMPARE(shown.fileCount, 6);
-        QCOMPARE(state.scanHistory()->results(), QList{shown});
+        QCOMPARE(state.scanHistory()->results(), QList{ScanSummary::of(shown)});
         QCOMPARE(historyFiles(store).size(), 1);
         // The screen is left with the scanner's final counters.
         QCOMPARE(state.scanProgress()->phase, ScanPhase::complete);
@@ -204,10 +204,10 @@ private slots:
         QCOMPARE(state.scanHistory()->count(), 2);
 
         const AnalysisResult shown = *state.currentResult();
-        state.deleteScan(shown);
+        state.deleteScan(ScanSummary::of(shown));
         QCOMPARE(state.currentResult(), shown);
         QCOMPARE(state.currentView(), AppState::Dashboard);
-        QCOMPARE(state.scanHistory()->results(), QList{older});
+        QCOMPARE(state.scanHistory()->results(), QList{ScanSummary::of(older)});
         QCOMPARE(historyFiles(store).size(), 1);
     }
 
@@ -239,7 +239,8 @@ private slots:
     }
 
     // Newest first, broken files skipped and left alone; another process (tessarine-cli scan
-    // --save) writes through a store of its own and the list follows.
+    // --save) writes through a store of its own and the list follows, also after the whole folder
+    // was deleted and made again. A scan opened from the list is read from its file.
     void historyFollowsTheFolderOnDisk() {
         QTemporaryDir home;
         PersistenceService store(home.path());
@@ -253,21 +254,37 @@ private slots:
         testing::writeFile(brokenPath, 0);
         AppState state(store);
         ScanHistoryModel& history = *state.scanHistory();
-        QCOMPARE(history.results(), (QList{recent, old}));
+        const auto summaries = [](const QList<AnalysisResult>& results) {
+            QList<ScanSummary> list;
+            for (const AnalysisResult& result : results)
+                list.append(ScanSummary::of(result));
+            return list;
+        };
+        QCOMPARE(history.results(), summaries({recent, old}));
         QSignalSpy removals(&history, &QAbstractItemModel::rowsRemoved);
 
         PersistenceService otherProcess(home.path());
         const AnalysisResult saved = testing::plainResult(
             QStringLiteral("/a/new"), QDateTime(QDate(2025, 5, 1), {}, Qt::UTC));
         QVERIFY(!otherProcess.save(saved));
-        QTRY_COMPARE(history.results(), (QList{saved, recent, old}));
+        QTRY_COMPARE(history.results(), summaries({saved, recent, old}));
         // The rows already listed were kept, not removed and listed again.
         QCOMPARE(removals.count(), 0);
+        state.openStoredScan(history.results().at(0));
+        QCOMPARE(state.currentResult(), saved);
 
         QVERIFY(QFile::remove(store.historyFilePath(old.id)));
-        QTRY_COMPARE(history.results(), (QList{saved, recent}));
+        QTRY_COMPARE(history.results(), summaries({saved, recent}));
         QVERIFY(QFile::exists(brokenPath));
         QVERIFY(!state.hasError());
+
+        QVERIFY(QDir(store.storagePath()).removeRecursively());
+        QTRY_COMPARE(history.count(), 0);
+        QVERIFY(!otherProcess.save(old));
+        QTRY_COMPARE(history.results(), summaries({old}));
+        QVERIFY(QFile::remove(store.historyFilePath(old.id)));
+        state.openStoredScan(ScanSummary::of(old));
+        QCOMPARE(state.error()->errorDescription(), "Failed to load: File not found");
     }
 
     // A folder that cannot be listed fails the build with its name. A missing folder and a file

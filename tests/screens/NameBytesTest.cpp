@@ -82,9 +82,12 @@ private slots:
         QTemporaryDir home;
         PersistenceService store(home.path());
         QVERIFY(!store.save(result));
-        const auto loaded = store.loadAll();
-        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(loaded));
-        QCOMPARE(pathsOf(std::get<QList<AnalysisResult>>(loaded).value(0).largestFiles),
+        const auto listed = store.loadSummaries();
+        QVERIFY(std::holds_alternative<QList<ScanSummary>>(listed));
+        QCOMPARE(std::get<QList<ScanSummary>>(listed).value(0).rootPath, rootPath);
+        const auto loaded = store.loadResult(result.id);
+        QVERIFY(std::holds_alternative<AnalysisResult>(loaded));
+        QCOMPARE(pathsOf(std::get<AnalysisResult>(loaded).largestFiles),
                  pathsOf(result.largestFiles));
         const QByteArray exported = json::encode(result);
         QVERIFY(exported.contains("caf\\udce9"));

@@ -377,15 +377,15 @@ private slots:
         scene.save("history-search-hides-trend");
         scans->setProperty("searchText", QString());
 
-        const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
-        for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
+        const QList<ScanSummary>& stored = scene.state().scanHistory()->results();
+        for (const ScanSummary& picked : {stored.at(0), stored.at(4)})
             QMetaObject::invokeMethod(scans, "toggleSelection",
-                                      Q_ARG(tessarine::AnalysisResult, picked));
+                                      Q_ARG(tessarine::ScanSummary, picked));
         scene.save("history-selected");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "open");
         scene.save("history-delete-confirmation");
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
-        QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
+        QMetaObject::invokeMethod(scene.find("compareButton"), "clicked");
         scene.save("history-comparison");
     }
 
@@ -405,13 +405,13 @@ private slots:
         scene.state().startScan(tree.path());
         QTRY_COMPARE(scene.state().scanHistory()->count(), 2);
 
-        const QList<AnalysisResult>& scans = scene.state().scanHistory()->results();
         scene.history();
-        auto* sheet = scene.find("comparisonSheet");
-        QVERIFY(sheet);
-        sheet->setProperty("first", QVariant::fromValue(scans.at(0)));
-        sheet->setProperty("second", QVariant::fromValue(scans.at(1)));
-        QMetaObject::invokeMethod(sheet, "open");
+        auto* scans = scene.find("historyScans");
+        QVERIFY(scans);
+        for (const ScanSummary& picked : scene.state().scanHistory()->results())
+            QMetaObject::invokeMethod(scans, "toggleSelection",
+                                      Q_ARG(tessarine::ScanSummary, picked));
+        QMetaObject::invokeMethod(scene.find("compareButton"), "clicked");
         scene.save("history-comparison-folders");
     }
 

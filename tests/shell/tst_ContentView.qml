@@ -197,7 +197,7 @@ TestCase {
         const sidebar = findChild(content, "sidebar")
         const row = recentRows(sidebar)[2]
         mouseClick(row)
-        compare(AppState.currentResult.rootPath, row.result.rootPath)
+        compare(AppState.currentResult.rootPath, row.summary.rootPath)
         compare(AppState.currentView, AppState.Dashboard)
         const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
         verify(currentAnalysis.visible)
@@ -222,7 +222,7 @@ TestCase {
         verify(recent.visualFocus)
         compare(AppState.currentView, lastView)
         keyClick(Qt.Key_Return)
-        compare(AppState.currentResult.rootPath, recent.result.rootPath)
+        compare(AppState.currentResult.rootPath, recent.summary.rootPath)
         compare(AppState.currentView, AppState.Dashboard)
 
         keyClick(Qt.Key_Up)

@@ -3,8 +3,10 @@
 #include "SampleResults.h"
 #include "StandardOutputCapture.h"
 #include "model/Json.h"
+#include "storage/HistoryListing.h"
 #include "storage/HistoryLocation.h"
 #include "storage/PersistenceService.h"
+#include "storage/SummaryIndex.h"
 
 #include <QDir>
 #include <QFile>
@@ -29,12 +31,26 @@ QDateTime wholeSeconds(const QDateTime& date) {
     return QDateTime::fromSecsSinceEpoch(date.toSecsSinceEpoch(), QTimeZone::utc());
 }
 
-QList<AnalysisResult> loadedResults(PersistenceService& store) {
-    auto loaded = store.loadAll();
+QList<ScanSummary> loadedSummaries(PersistenceService& store) {
+    auto loaded = store.loadSummaries();
     if (auto* error = std::get_if<StorageError>(&loaded))
-        qWarning() << "loadAll failed:" << error->errorDescription();
-    return std::get_if<QList<AnalysisResult>>(&loaded) ? std::get<QList<AnalysisResult>>(loaded)
-                                                       : QList<AnalysisResult>();
+        qWarning() << "loadSummaries failed:" << error->errorDescription();
+    return std::get_if<QList<ScanSummary>>(&loaded) ? std::get<QList<ScanSummary>>(loaded)
+                                                    : QList<ScanSummary>();
+}
+
+QStringList rootNames(const QList<ScanSummary>& summaries) {
+    QStringList names;
+    for (const ScanSummary& summary : summaries)
+        names.append(summary.rootName);
+    return names;
+}
+
+// The history folder as its files hold it, without the index the store keeps beside them.
+QMap<QString, QByteArray> historyFiles(const QString& folder) {
+    QMap<QString, QByteArray> files = folderSnapshot(folder);
+    files.remove(summaryIndexPath(folder));
+    return files;
 }
 
 bool isDirectoryNotAccessible(const std::optional<StorageError>& error) {
@@ -53,15 +69,15 @@ private slots:
         QTemporaryDir base;
         PersistenceService store(base.path());
         QCOMPARE(store.storagePath(), base.filePath("Tessarine"));
-        QVERIFY(loadedResults(store).isEmpty());
+        QVERIFY(loadedSummaries(store).isEmpty());
 
         QVERIFY(QDir(store.storagePath()).removeRecursively());
-        auto loaded = store.loadAll();
-        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(loaded));
-        QVERIFY(std::get<QList<AnalysisResult>>(loaded).isEmpty());
+        auto loaded = store.loadSummaries();
+        QVERIFY(std::holds_alternative<QList<ScanSummary>>(loaded));
+        QVERIFY(std::get<QList<ScanSummary>>(loaded).isEmpty());
 
         writeFile(store.storagePath(), "the folder was replaced by a file");
-        loaded = store.loadAll();
+        loaded = store.loadSummaries();
         QVERIFY(std::holds_alternative<StorageError>(loaded));
         const StorageError& error = std::get<StorageError>(loaded);
         QVERIFY(!error.persistenceError());
@@ -100,7 +116,7 @@ private slots:
         const QMap<QString, QByteArray> before = folderSnapshot(history.path());
 
         StandardOutputCapture output;
-        const QList<AnalysisResult> loaded = loadedResults(store);
+        const QList<ScanSummary> loaded = loadedSummaries(store);
         const QStringList lines =
             QString::fromUtf8(output.finish()).split(u'\n', Qt::SkipEmptyParts);
 
@@ -110,7 +126,70 @@ private slots:
         // With its reason after the name.
         QVERIFY2(lines[0].startsWith("Failed to load foreign.json: ") && lines[0].size() > 30,
                  qPrintable(lines[0]));
-        QCOMPARE(folderSnapshot(history.path()), before);
+        QCOMPARE(historyFiles(history.path()), before);
+    }
+
+    // The index is believed for a file only while the file is as it was indexed: an index that
+    // says otherwise than the files shows which one was read.
+    void indexStandsInForUnchangedFilesOnly() {
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        const AnalysisResult kept = sampleResult(utc(10));
+        AnalysisResult changed = sampleResult(utc(11));
+        QVERIFY(!store.save(kept) && !store.save(changed));
+        QCOMPARE(loadedSummaries(store).size(), 2);
+        CatalogEntries entries = readSummaryIndex(store.storagePath());
+        QCOMPARE(entries.size(), 2);
+        for (CatalogEntry& entry : entries)
+            entry.summary->rootName = QStringLiteral("from the index");
+        QVERIFY(writeSummaryIndex(store.storagePath(), entries));
+
+        changed.rootName = QStringLiteral("saved again");
+        QVERIFY(!store.save(changed));
+        QCOMPARE(rootNames(loadedSummaries(store)), (QStringList{"saved again", "from the index"}));
+        QVERIFY(!store.deleteResult(kept));
+        QCOMPARE(rootNames(loadedSummaries(store)), QStringList{"saved again"});
+        QCOMPARE(readSummaryIndex(store.storagePath()).size(), 1);
+    }
+
+    // An index that cannot be believed costs reading the files, and is made again.
+    void unusableIndexIsRebuilt_data() {
+        QTest::addColumn<QByteArray>("damage");
+        QTest::newRow("empty") << QByteArray("empty");
+        QTest::newRow("cut short") << QByteArray("cut");
+        QTest::newRow("one byte changed") << QByteArray("flip");
+        QTest::newRow("another version") << QByteArray("version");
+        QTest::newRow("a folder") << QByteArray("folder");
+    }
+    void unusableIndexIsRebuilt() {
+        QFETCH(QByteArray, damage);
+        QTemporaryDir base;
+        PersistenceService store(base.path());
+        const AnalysisResult stored = sampleResult(utc(10));
+        QVERIFY(!store.save(stored));
+        QCOMPARE(loadedSummaries(store).size(), 1);
+        const QString index = summaryIndexPath(store.storagePath());
+        QByteArray bytes = readBytes(index);
+        if (damage == "empty")
+            bytes.clear();
+        else if (damage == "cut")
+            bytes.chop(bytes.size() / 2);
+        else if (damage == "flip")
+            bytes[bytes.size() / 2] = char(bytes[bytes.size() / 2] ^ 1);
+        else if (damage == "version")
+            bytes[7] = char(bytes[7] + 1);
+        QVERIFY(QFile::remove(index));
+        if (damage == "folder")
+            QVERIFY(QDir().mkdir(index));
+        else
+            writeFile(index, bytes);
+        QVERIFY(readSummaryIndex(store.storagePath()).isEmpty());
+
+        StandardOutputCapture output;
+        QCOMPARE(loadedSummaries(store), QList{ScanSummary::of(stored)});
+        QCOMPARE(output.finish(), QByteArray());
+        if (damage != "folder")
+            QCOMPARE(readSummaryIndex(store.storagePath()).size(), 1);
     }
 
     void savingAgainReplacesAndDeletingTwiceSucceeds() {
@@ -124,9 +203,7 @@ private slots:
         QVERIFY(!store.save(result));
 
         const QDir history(store.storagePath());
-        const QList<AnalysisResult> loaded = loadedResults(store);
-        QCOMPARE(loaded.size(), 2);
-        QCOMPARE(loaded.last().rootName, QStringLiteral("renamed"));
+        QCOMPARE(rootNames(loadedSummaries(store)), (QStringList{other.rootName, "renamed"}));
 
         QVERIFY(!store.deleteResult(result));
         QVERIFY(!QFile::exists(store.historyFilePath(result.id)));
@@ -134,7 +211,10 @@ private slots:
         QVERIFY(!store.deleteResult(result));
         QVERIFY(!store.deleteResult(QUuid::createUuid()));
         QCOMPARE(folderSnapshot(history.path()), remaining);
-        QCOMPARE(loadedResults(store).size(), 1);
+        QCOMPARE(loadedSummaries(store).size(), 1);
+        const auto gone = store.loadResult(result.id);
+        QVERIFY(std::holds_alternative<StorageError>(gone));
+        QCOMPARE(std::get<StorageError>(gone).errorDescription(), "File not found");
     }
 
     void roundTripKeepsEverythingButFractionalSeconds() {
@@ -149,9 +229,11 @@ private slots:
         expected.scanDate = wholeSeconds(result.scanDate);
         expected.largestFiles.first().modificationDate =
             wholeSeconds(result.largestFiles.first().modificationDate);
-        const QList<AnalysisResult> loaded = loadedResults(store);
-        QCOMPARE(loaded.size(), 1);
-        QVERIFY(loaded.first() == expected);
+        const QList<ScanSummary> listed = loadedSummaries(store);
+        QCOMPARE(listed, QList{ScanSummary::of(expected)});
+        const auto loaded = store.loadResult(result.id);
+        QVERIFY(std::holds_alternative<AnalysisResult>(loaded));
+        QVERIFY(std::get<AnalysisResult>(loaded) == expected);
 
         // The JSON export is the history file itself, so an export dropped into the history
         // folder loads like any saved scan.
@@ -172,7 +254,7 @@ private slots:
         const std::optional<StorageError> saveError = store.save(result);
         QVERIFY(isDirectoryNotAccessible(saveError));
         QCOMPARE(saveError->errorDescription(), store.directoryError()->errorDescription());
-        auto loaded = store.loadAll();
+        auto loaded = store.loadSummaries();
         QVERIFY(std::holds_alternative<StorageError>(loaded));
         QVERIFY(isDirectoryNotAccessible(std::get<StorageError>(loaded)));
         QVERIFY(isDirectoryNotAccessible(store.deleteResult(result)));
@@ -242,16 +324,21 @@ private slots:
             QVERIFY(QDir().mkdir(hostile));
         }
 
-        StandardOutputCapture output;
-        auto loaded = store.loadAll();
-        const QString printed = QString::fromUtf8(output.finish());
-
-        QVERIFY(std::holds_alternative<QList<AnalysisResult>>(loaded));
-        const auto& results = std::get<QList<AnalysisResult>>(loaded);
-        QCOMPARE(results.size(), 1);
-        QCOMPARE(results.first().id, stored.id);
-        QVERIFY2(printed.startsWith("Failed to load " + hostileName + ": "), qPrintable(printed));
-        QCOMPARE(printed.count(u'\n'), 1);
+        // Reported at every first look, as a start does, and once among later looks.
+        for (int start = 0; start < 2; ++start) {
+            StandardOutputCapture output;
+            const QList<ScanSummary> loaded = loadedSummaries(store);
+            const QString printed = QString::fromUtf8(output.finish());
+            QCOMPARE(loaded, QList{ScanSummary::of(stored)});
+            QVERIFY2(printed.startsWith("Failed to load " + hostileName + ": "),
+                     qPrintable(printed));
+            QCOMPARE(printed.count(u'\n'), 1);
+        }
+        HistoryCatalog catalog(store.storagePath());
+        StandardOutputCapture later;
+        QVERIFY(std::get<bool>(catalog.look(HistoryCatalog::Reporting::newlyBrokenFiles)));
+        QVERIFY(!std::get<bool>(catalog.look(HistoryCatalog::Reporting::newlyBrokenFiles)));
+        QCOMPARE(later.finish().count('\n'), 1);
     }
 };
 

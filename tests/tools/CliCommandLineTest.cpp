@@ -4,6 +4,7 @@
 #include "ProgressLine.h"
 #include "ProgressText.h"
 #include "model/ScanProgress.h"
+#include "model/ScanSummary.h"
 
 #include <QDir>
 #include <QFile>
@@ -203,12 +204,13 @@ private slots:
     }
 
     void historyTableIsAlignedAndSafe() {
-        AnalysisResult small;
+        ScanSummary small;
+        small.id = QUuid::createUuid();
         small.scanDate = m_start;
         small.rootPath = "/home/a\nb\033[2J";
         small.totalSize = 999;
         small.fileCount = 3;
-        AnalysisResult large = small;
+        ScanSummary large = small;
         large.id = QUuid::createUuid();
         large.rootPath = "/srv/much/longer/path";
         large.totalSize = 1'230'000'000;

@@ -8,6 +8,7 @@
 #include "Usage.h"
 
 #include "model/Json.h"
+#include "storage/HistoryCatalog.h"
 #include "storage/PersistenceService.h"
 
 #include <QFileInfo>
@@ -19,26 +20,38 @@ namespace {
 
 const QString jsonOption = QStringLiteral("--json");
 
-// The stored results as one JSON array whose elements are the history files' own bytes.
-QByteArray jsonArray(const QList<AnalysisResult>& results) {
-    if (results.isEmpty())
-        return QByteArrayLiteral("[]\n");
+// The stored results as one JSON array whose elements are the history files' own bytes. A file
+// deleted since the listing is left out, as the listing would have left it out a moment later.
+QByteArray jsonArray(PersistenceService& store, const QList<ScanSummary>& summaries) {
     QByteArrayList elements;
-    for (const AnalysisResult& result : results)
-        elements.append(json::encode(result).trimmed());
+    for (const ScanSummary& summary : summaries) {
+        auto loaded = store.loadResult(summary.id);
+        if (const auto* result = std::get_if<AnalysisResult>(&loaded)) {
+            elements.append(json::encode(*result).trimmed());
+            continue;
+        }
+        const StorageError& error = std::get<StorageError>(loaded);
+        const PersistenceError* own = error.persistenceError();
+        if (!own || own->kind != PersistenceError::Kind::fileNotFound)
+            printLoadFailure(QFileInfo(store.historyFilePath(summary.id)).fileName(),
+                             error.errorDescription());
+    }
+    if (elements.isEmpty())
+        return QByteArrayLiteral("[]\n");
     return "[\n" + elements.join(",\n") + "\n]\n";
 }
 
 int list(bool asJson) {
-    auto loaded = PersistenceService::shared().loadAll();
+    PersistenceService& store = PersistenceService::shared();
+    auto loaded = store.loadSummaries();
     if (const auto* error = std::get_if<StorageError>(&loaded)) {
         printError(error->errorDescription());
         return exitFailure;
     }
-    const auto& results = std::get<QList<AnalysisResult>>(loaded);
+    const auto& results = std::get<QList<ScanSummary>>(loaded);
     QByteArray output;
     if (asJson)
-        output = jsonArray(results);
+        output = jsonArray(store, results);
     else if (results.isEmpty())
         output = QByteArrayLiteral("No stored scans.\n");
     else

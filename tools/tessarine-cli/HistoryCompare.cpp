@@ -4,10 +4,8 @@
 #include "ExitCode.h"
 #include "StandardStreams.h"
 
-#include "model/Json.h"
 #include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
-#include "storage/StoredFileRead.h"
 
 #include <QFileInfo>
 #include <QUuid>
@@ -17,34 +15,30 @@ namespace tessarine::cli {
 namespace {
 
 // One stored scan by the id the user typed; none, with the reason printed, when there is none.
-std::optional<AnalysisResult> loadStoredScan(const PersistenceService& store,
-                                             const QString& idText) {
+std::optional<AnalysisResult> loadStoredScan(PersistenceService& store, const QString& idText) {
     const QUuid id = QUuid::fromString(idText);
     if (id.isNull()) {
         printError(QStringLiteral("Not a scan id: ") + idText);
         return std::nullopt;
     }
-    const QString path = store.historyFilePath(id);
-    const auto bytes = readStoredFile(path);
-    QString reason;
-    if (const auto* content = std::get_if<QByteArray>(&bytes)) {
-        if (auto result = json::decodeResult(*content, &reason))
-            return result;
-    } else if (!QFileInfo::exists(path)) {
+    auto loaded = store.loadResult(id);
+    if (auto* result = std::get_if<AnalysisResult>(&loaded))
+        return std::move(*result);
+    const StorageError& error = std::get<StorageError>(loaded);
+    const PersistenceError* own = error.persistenceError();
+    if (own && own->kind == PersistenceError::Kind::fileNotFound)
         printError(QStringLiteral("No stored scan with id ") + idText);
-        return std::nullopt;
-    } else {
-        reason = std::get<QString>(bytes);
-    }
-    printError(QStringLiteral("Failed to load ") + QFileInfo(path).fileName() +
-               QStringLiteral(": ") + reason);
+    else
+        printError(QStringLiteral("Failed to load ") +
+                   QFileInfo(store.historyFilePath(id)).fileName() + QStringLiteral(": ") +
+                   error.errorDescription());
     return std::nullopt;
 }
 
 } // namespace
 
 int compareStoredScans(const QString& firstId, const QString& secondId, bool asJson) {
-    const PersistenceService& store = PersistenceService::shared();
+    PersistenceService& store = PersistenceService::shared();
     if (const auto& error = store.directoryError()) {
         printError(error->errorDescription());
         return exitFailure;

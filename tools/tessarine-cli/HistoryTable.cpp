@@ -16,7 +16,7 @@ constexpr int columnCount = 5;
 using Row = std::array<QString, columnCount>;
 constexpr std::array<bool, columnCount> alignedRight{false, false, true, true, false};
 
-Row rowOf(const AnalysisResult& result) {
+Row rowOf(const ScanSummary& result) {
     return {format::absoluteDate(result.scanDate), escapeControlCharacters(result.rootPath),
             format::byteCount(result.totalSize), format::count(result.fileCount),
             result.id.toString(QUuid::WithoutBraces).toUpper()};
@@ -35,10 +35,10 @@ QString line(const Row& row, const std::array<qsizetype, columnCount>& widths) {
 
 } // namespace
 
-QString historyTable(const QList<AnalysisResult>& results) {
+QString historyTable(const QList<ScanSummary>& results) {
     QList<Row> rows{{QStringLiteral("Date"), QStringLiteral("Folder"), QStringLiteral("Size"),
                      QStringLiteral("Files"), QStringLiteral("ID")}};
-    for (const AnalysisResult& result : results)
+    for (const ScanSummary& result : results)
         rows.append(rowOf(result));
 
     std::array<qsizetype, columnCount> widths{};

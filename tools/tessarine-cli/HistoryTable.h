@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QList>
 #include <QString>
@@ -9,6 +9,6 @@ namespace tessarine::cli {
 
 // The stored scans as an aligned table with a header row: date, folder, total size, files, id.
 // Sizes and counts are right-aligned so that their digits line up.
-QString historyTable(const QList<AnalysisResult>& results);
+QString historyTable(const QList<ScanSummary>& results);
 
 } // namespace tessarine::cli

@@ -11,7 +11,7 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
         return ResultListModel::data(index, role);
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    return m_selection.contains(m_rows.at(index.row()).id);
+    return m_selection.contains(m_results.at(index.row()).id);
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
@@ -27,13 +27,14 @@ void HistoryListModel::setHistory(ScanHistoryModel* history) {
         m_history->disconnect(this);
     m_history = history;
     if (history) {
-        // Every change of the history, however small, is a new list: a search and a sort over a
-        // thousand scans take well under a frame.
-        connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::refresh);
-        connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::refresh);
-        connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::refresh);
+        // Every change of the history, however small, is a new list: a search and a sort over
+        // ten thousand scans' summaries take well under a frame.
+        connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::followHistory);
+        connect(history, &QAbstractItemModel::dataChanged, this, &HistoryListModel::followHistory);
     }
-    refresh();
+    followHistory();
     emit historyChanged();
 }
 
@@ -41,7 +42,7 @@ void HistoryListModel::setSearchText(const QString& text) {
     if (m_searchText == text)
         return;
     m_searchText = text;
-    refresh();
+    refreshRows();
     emit searchTextChanged();
 }
 
@@ -49,7 +50,7 @@ void HistoryListModel::setSortOrder(HistorySortOrder order) {
     if (m_sortOrder == order)
         return;
     m_sortOrder = order;
-    refresh();
+    refreshRows();
     emit sortOrderChanged();
 }
 
@@ -65,17 +66,17 @@ bool HistoryListModel::canCompare() const {
     return m_selection.comparisonPair(allScans()).has_value();
 }
 
-AnalysisResult HistoryListModel::comparedFirst() const {
+ScanSummary HistoryListModel::comparedFirst() const {
     const auto pair = m_selection.comparisonPair(allScans());
-    return pair ? pair->first : AnalysisResult{};
+    return pair ? pair->first : ScanSummary{};
 }
 
-AnalysisResult HistoryListModel::comparedSecond() const {
+ScanSummary HistoryListModel::comparedSecond() const {
     const auto pair = m_selection.comparisonPair(allScans());
-    return pair ? pair->second : AnalysisResult{};
+    return pair ? pair->second : ScanSummary{};
 }
 
-void HistoryListModel::toggleSelection(const AnalysisResult& result) {
+void HistoryListModel::toggleSelection(const ScanSummary& result) {
     if (!m_selection.toggle(result.id))
         return;
     refreshSelectedRoles();
@@ -89,21 +90,31 @@ void HistoryListModel::clearSelection() {
     emit selectionChanged();
 }
 
-QList<AnalysisResult> HistoryListModel::selectedScans() const {
+QList<ScanSummary> HistoryListModel::selectedScans() const {
     return m_selection.selectedScans(allScans());
 }
 
-QList<AnalysisResult> HistoryListModel::allScans() const {
-    return m_history ? m_history->results() : QList<AnalysisResult>{};
+QList<ScanSummary> HistoryListModel::allScans() const {
+    return m_history ? m_history->results() : QList<ScanSummary>{};
 }
 
-void HistoryListModel::refresh() {
-    const QList<AnalysisResult> scans = allScans();
-    syncRows(filteredHistory(scans, m_searchText, m_sortOrder));
+void HistoryListModel::followHistory() {
+    const QList<ScanSummary> scans = allScans();
     if (m_selection.keepOnly(scans))
         emit selectionChanged();
-    m_showsTrend = historyHasTrend(scans);
-    m_trend = storageTrend(m_rows);
+    const bool showsTrend = historyHasTrend(scans);
+    const bool trendShownChanged = std::exchange(m_showsTrend, showsTrend) != showsTrend;
+    refreshRows(trendShownChanged);
+}
+
+void HistoryListModel::refreshRows(bool trendShownChanged) {
+    syncRows(filteredHistory(allScans(), m_searchText, m_sortOrder));
+    // Redrawn only when it changed: the chart of a folder scanned every hour for a year draws
+    // thousands of points.
+    TrendSeries trend = storageTrend(m_results);
+    if (!trendShownChanged && trend == m_trend)
+        return;
+    m_trend = std::move(trend);
     emit trendChanged();
 }
 

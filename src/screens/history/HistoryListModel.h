@@ -23,8 +23,8 @@ class HistoryListModel : public ResultListModel {
     Q_PROPERTY(QStringList sortOrderLabels READ sortOrderLabels CONSTANT)
     Q_PROPERTY(int selectedCount READ selectedCount NOTIFY selectionChanged)
     Q_PROPERTY(bool canCompare READ canCompare NOTIFY selectionChanged)
-    Q_PROPERTY(tessarine::AnalysisResult comparedFirst READ comparedFirst NOTIFY selectionChanged)
-    Q_PROPERTY(tessarine::AnalysisResult comparedSecond READ comparedSecond NOTIFY selectionChanged)
+    Q_PROPERTY(tessarine::ScanSummary comparedFirst READ comparedFirst NOTIFY selectionChanged)
+    Q_PROPERTY(tessarine::ScanSummary comparedSecond READ comparedSecond NOTIFY selectionChanged)
     Q_PROPERTY(bool showsTrend READ showsTrend NOTIFY trendChanged)
     Q_PROPERTY(tessarine::TrendSeries trend READ trend NOTIFY trendChanged)
 
@@ -46,15 +46,15 @@ public:
     QStringList sortOrderLabels() const;
     int selectedCount() const { return static_cast<int>(m_selection.count()); }
     bool canCompare() const;
-    AnalysisResult comparedFirst() const;
-    AnalysisResult comparedSecond() const;
+    ScanSummary comparedFirst() const;
+    ScanSummary comparedSecond() const;
     bool showsTrend() const { return m_showsTrend; }
     const TrendSeries& trend() const { return m_trend; }
 
-    Q_INVOKABLE void toggleSelection(const tessarine::AnalysisResult& result);
+    Q_INVOKABLE void toggleSelection(const tessarine::ScanSummary& result);
     Q_INVOKABLE void clearSelection();
     // The selected scans in history order, for the bulk delete.
-    Q_INVOKABLE QList<tessarine::AnalysisResult> selectedScans() const;
+    Q_INVOKABLE QList<tessarine::ScanSummary> selectedScans() const;
 
 signals:
     void historyChanged();
@@ -64,8 +64,11 @@ signals:
     void trendChanged();
 
 private:
-    QList<AnalysisResult> allScans() const;
-    void refresh();
+    QList<ScanSummary> allScans() const;
+    // Takes in a change of the history: rows, selection, whether any folder has a trend.
+    void followHistory();
+    // Takes in a change of the search or the order: rows and the trend they chart.
+    void refreshRows(bool trendShownChanged = false);
     void refreshSelectedRoles();
 
     QPointer<ScanHistoryModel> m_history;

@@ -1,6 +1,7 @@
 #include "HistoryOrder.h"
 
 #include <QCollator>
+#include <QHash>
 
 #include <algorithm>
 
@@ -8,7 +9,7 @@ namespace tessarine {
 
 namespace {
 
-bool matches(const AnalysisResult& result, const QString& searchText) {
+bool matches(const ScanSummary& result, const QString& searchText) {
     return result.rootName.contains(searchText, Qt::CaseInsensitive) ||
            result.rootPath.contains(searchText, Qt::CaseInsensitive);
 }
@@ -31,12 +32,12 @@ QString sortOrderLabel(HistorySortOrder order) {
     return {};
 }
 
-QList<AnalysisResult> filteredHistory(const QList<AnalysisResult>& history,
-                                      const QString& searchText, HistorySortOrder order) {
-    QList<AnalysisResult> kept;
+QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history, const QString& searchText,
+                                   HistorySortOrder order) {
+    QList<ScanSummary> kept;
     kept.reserve(history.size());
     std::copy_if(history.begin(), history.end(), std::back_inserter(kept),
-                 [&](const AnalysisResult& result) {
+                 [&](const ScanSummary& result) {
                      return searchText.isEmpty() || matches(result, searchText);
                  });
     switch (order) {
@@ -59,9 +60,20 @@ QList<AnalysisResult> filteredHistory(const QList<AnalysisResult>& history,
     case HistoryOrder::NameAscending: {
         // Accents and case sort as the user's language does ("émile" beside "Emma", not after
         // "Zoe"), which code points do not.
+        // The collator is slow per comparison, and a history holds few folders scanned many
+        // times: each distinct name is ranked once, names that collate alike sharing a rank.
         QCollator collator;
+        QHash<QString, int> ranks;
+        for (const ScanSummary& scan : std::as_const(kept))
+            ranks.insert(scan.rootName, 0);
+        QStringList names = ranks.keys();
+        std::sort(names.begin(), names.end(),
+                  [&](const QString& a, const QString& b) { return collator.compare(a, b) < 0; });
+        for (qsizetype i = 1; i < names.size(); ++i)
+            ranks[names.at(i)] = ranks.value(names.at(i - 1)) +
+                                 (collator.compare(names.at(i - 1), names.at(i)) != 0);
         std::stable_sort(kept.begin(), kept.end(), [&](const auto& a, const auto& b) {
-            return collator.compare(a.rootName, b.rootName) < 0;
+            return ranks.value(a.rootName) < ranks.value(b.rootName);
         });
         break;
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QList>
 #include <QObject>
@@ -25,7 +25,7 @@ QString sortOrderLabel(HistorySortOrder order);
 // The scans whose name, or else whose path, holds the search text (ignoring case, as the locale
 // compares letters), in the order asked for. An empty search keeps every scan. Sorting is stable,
 // so scans that tie keep their history order (newest first).
-QList<AnalysisResult> filteredHistory(const QList<AnalysisResult>& history,
-                                      const QString& searchText, HistorySortOrder order);
+QList<ScanSummary> filteredHistory(const QList<ScanSummary>& history, const QString& searchText,
+                                   HistorySortOrder order);
 
 } // namespace tessarine

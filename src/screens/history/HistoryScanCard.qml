@@ -10,7 +10,7 @@ Rectangle {
     id: card
 
     required property HistoryListModel scans
-    required property analysisResult result
+    required property scanSummary summary
     required property string rootName
     required property string rootPath
     required property double totalSize
@@ -20,7 +20,7 @@ Rectangle {
 
     // Asks for the context menu, which the list shares among its cards: one menu per card would
     // make every card several times as costly to create.
-    signal menuRequested(analysisResult result, bool selected)
+    signal menuRequested(scanSummary summary, bool selected)
 
     implicitHeight: 72
     radius: Theme.radiusCard
@@ -31,7 +31,7 @@ Rectangle {
     Accessible.role: Accessible.Button
     Accessible.name: "Open scan of " + (rootName !== "" ? rootName : rootPath) + ", "
                      + Format.byteCount(totalSize) + ", " + Format.absoluteDate(scanDate)
-    Accessible.onPressAction: AppState.openResult(card.result)
+    Accessible.onPressAction: AppState.openStoredScan(card.summary)
 
     // The list's current card, while the list has the keyboard (only keys give it the focus).
     FocusRing {
@@ -47,9 +47,9 @@ Rectangle {
         acceptedButtons: Qt.LeftButton | Qt.RightButton
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton)
-                card.menuRequested(card.result, card.selected)
+                card.menuRequested(card.summary, card.selected)
             else
-                AppState.openResult(card.result)
+                AppState.openStoredScan(card.summary)
         }
     }
 
@@ -64,13 +64,13 @@ Rectangle {
         Accessible.name: "Select scan of " + (card.rootName !== "" ? card.rootName : card.rootPath)
         Accessible.checkable: true
         Accessible.checked: card.selected
-        Accessible.onToggleAction: card.scans.toggleSelection(card.result)
-        Accessible.onPressAction: card.scans.toggleSelection(card.result)
+        Accessible.onToggleAction: card.scans.toggleSelection(card.summary)
+        Accessible.onPressAction: card.scans.toggleSelection(card.summary)
 
         MouseArea {
             anchors.fill: parent
             anchors.margins: -6
-            onClicked: card.scans.toggleSelection(card.result)
+            onClicked: card.scans.toggleSelection(card.summary)
         }
     }
 

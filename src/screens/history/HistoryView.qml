@@ -26,7 +26,12 @@ Rectangle {
         HistoryHeader {
             Layout.fillWidth: true
             scans: historyScans
-            onCompareRequested: comparison.open()
+            // Only a comparison reads the two whole results.
+            onCompareRequested: {
+                comparison.first = AppState.storedResult(historyScans.comparedFirst)
+                comparison.second = AppState.storedResult(historyScans.comparedSecond)
+                comparison.open()
+            }
             onDeleteRequested: deleteConfirmation.open()
         }
 
@@ -59,12 +64,12 @@ Rectangle {
             activeFocusOnTab: true
             Keys.onReturnPressed: openCurrent()
             Keys.onEnterPressed: openCurrent()
-            Keys.onSpacePressed: if (currentItem) historyScans.toggleSelection(currentItem.result)
-            Keys.onMenuPressed: if (currentItem) scanMenu.openFor(currentItem.result, currentItem.selected)
+            Keys.onSpacePressed: if (currentItem) historyScans.toggleSelection(currentItem.summary)
+            Keys.onMenuPressed: if (currentItem) scanMenu.openFor(currentItem.summary, currentItem.selected)
 
             function openCurrent() {
                 if (currentItem)
-                    AppState.openResult(currentItem.result)
+                    AppState.openStoredScan(currentItem.summary)
             }
 
             header: Item {
@@ -81,7 +86,7 @@ Rectangle {
             delegate: HistoryScanCard {
                 width: list.width
                 scans: historyScans
-                onMenuRequested: (result, selected) => scanMenu.openFor(result, selected)
+                onMenuRequested: (summary, selected) => scanMenu.openFor(summary, selected)
             }
         }
     }
@@ -90,9 +95,9 @@ Rectangle {
     Loader {
         id: scanMenu
 
-        function openFor(result, selected) {
+        function openFor(summary, selected) {
             active = true
-            item.openFor(result, selected)
+            item.openFor(summary, selected)
         }
 
         active: false
@@ -103,16 +108,14 @@ Rectangle {
 
     ComparisonSheet {
         id: comparison
-        first: historyScans.comparedFirst
-        second: historyScans.comparedSecond
     }
 
     DeleteConfirmation {
         id: deleteConfirmation
         selectedCount: historyScans.selectedCount
         onAccepted: {
-            for (const result of historyScans.selectedScans())
-                AppState.deleteScan(result)
+            for (const summary of historyScans.selectedScans())
+                AppState.deleteScan(summary)
             historyScans.clearSelection()
         }
     }

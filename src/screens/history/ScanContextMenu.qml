@@ -9,11 +9,11 @@ Menu {
     id: menu
 
     required property HistoryListModel scans
-    property analysisResult result
+    property scanSummary summary
     property bool selected: false
 
-    function openFor(result, selected) {
-        menu.result = result
+    function openFor(summary, selected) {
+        menu.summary = summary
         menu.selected = selected
         popup()
     }
@@ -23,18 +23,18 @@ Menu {
     SymbolMenuItem {
         text: "View Details"
         symbol: "eye"
-        onTriggered: AppState.openResult(menu.result)
+        onTriggered: AppState.openStoredScan(menu.summary)
     }
     SymbolMenuItem {
         text: menu.selected ? "Deselect" : "Select"
         symbol: menu.selected ? "checkmark.circle" : "circle"
-        onTriggered: menu.scans.toggleSelection(menu.result)
+        onTriggered: menu.scans.toggleSelection(menu.summary)
     }
     MenuSeparator {}
     SymbolMenuItem {
         text: "Delete"
         symbol: "trash"
         destructive: true
-        onTriggered: AppState.deleteScan(menu.result)
+        onTriggered: AppState.deleteScan(menu.summary)
     }
 }

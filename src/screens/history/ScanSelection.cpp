@@ -20,17 +20,19 @@ bool ScanSelection::clear() {
     return true;
 }
 
-bool ScanSelection::keepOnly(const QList<AnalysisResult>& history) {
+bool ScanSelection::keepOnly(const QList<ScanSummary>& history) {
+    if (m_ids.isEmpty())
+        return false;
     QSet<QUuid> present;
-    for (const AnalysisResult& result : history)
+    for (const ScanSummary& result : history)
         present.insert(result.id);
     return m_ids.removeIf([&](const QUuid& id) { return !present.contains(id); }) > 0;
 }
 
-QList<AnalysisResult> ScanSelection::selectedScans(const QList<AnalysisResult>& history) const {
-    QList<AnalysisResult> scans;
+QList<ScanSummary> ScanSelection::selectedScans(const QList<ScanSummary>& history) const {
+    QList<ScanSummary> scans;
     QSet<QUuid> taken;
-    for (const AnalysisResult& result : history) {
+    for (const ScanSummary& result : history) {
         if (contains(result.id) && !taken.contains(result.id)) {
             taken.insert(result.id);
             scans.append(result);
@@ -39,9 +41,9 @@ QList<AnalysisResult> ScanSelection::selectedScans(const QList<AnalysisResult>& 
     return scans;
 }
 
-std::optional<std::pair<AnalysisResult, AnalysisResult>>
-ScanSelection::comparisonPair(const QList<AnalysisResult>& history) const {
-    const QList<AnalysisResult> scans = selectedScans(history);
+std::optional<std::pair<ScanSummary, ScanSummary>>
+ScanSelection::comparisonPair(const QList<ScanSummary>& history) const {
+    const QList<ScanSummary> scans = selectedScans(history);
     if (m_ids.size() != maximumCount || scans.size() != maximumCount)
         return std::nullopt;
     return std::pair(scans.first(), scans.last());

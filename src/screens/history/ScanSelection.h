@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QList>
 #include <QUuid>
@@ -24,13 +24,13 @@ public:
     bool clear();
     // Drops the ids no longer in the history, so that a scan deleted elsewhere does not stay
     // selected unseen. Says whether the selection changed.
-    bool keepOnly(const QList<AnalysisResult>& history);
+    bool keepOnly(const QList<ScanSummary>& history);
 
     // The selected scans, in history order; an id selected twice in the history is taken once.
-    QList<AnalysisResult> selectedScans(const QList<AnalysisResult>& history) const;
+    QList<ScanSummary> selectedScans(const QList<ScanSummary>& history) const;
     // With exactly two selected: the first and the last selected scan in history order.
-    std::optional<std::pair<AnalysisResult, AnalysisResult>>
-    comparisonPair(const QList<AnalysisResult>& history) const;
+    std::optional<std::pair<ScanSummary, ScanSummary>>
+    comparisonPair(const QList<ScanSummary>& history) const;
 
 private:
     QList<QUuid> m_ids;

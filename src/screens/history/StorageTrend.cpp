@@ -24,19 +24,23 @@ QList<qreal> TrendSeries::sizeValues() const {
     return QList<qreal>(sizes.begin(), sizes.end());
 }
 
-bool historyHasTrend(const QList<AnalysisResult>& history) {
+bool historyHasTrend(const QList<ScanSummary>& history) {
+    // A folder watched over months shows up again within the first few scans.
     QSet<QString> paths;
-    for (const AnalysisResult& result : history)
+    for (const ScanSummary& result : history) {
+        if (paths.contains(result.rootPath))
+            return true;
         paths.insert(result.rootPath);
-    return history.size() >= 2 && paths.size() < history.size();
+    }
+    return false;
 }
 
-TrendSeries storageTrend(const QList<AnalysisResult>& scans) {
-    QHash<QString, QList<const AnalysisResult*>> byFolder;
-    for (const AnalysisResult& result : scans)
+TrendSeries storageTrend(const QList<ScanSummary>& scans) {
+    QHash<QString, QList<const ScanSummary*>> byFolder;
+    for (const ScanSummary& result : scans)
         byFolder[result.rootPath].append(&result);
 
-    const QList<const AnalysisResult*>* chosen = nullptr;
+    const QList<const ScanSummary*>* chosen = nullptr;
     QString chosenPath;
     QDateTime chosenLatest;
     for (auto group = byFolder.cbegin(); group != byFolder.cend(); ++group) {
@@ -58,11 +62,11 @@ TrendSeries storageTrend(const QList<AnalysisResult>& scans) {
     TrendSeries series;
     if (!chosen)
         return series;
-    QList<const AnalysisResult*> ordered = *chosen;
+    QList<const ScanSummary*> ordered = *chosen;
     std::stable_sort(ordered.begin(), ordered.end(),
                      [](auto* a, auto* b) { return a->scanDate < b->scanDate; });
     series.folderPath = chosenPath;
-    for (const AnalysisResult* result : ordered) {
+    for (const ScanSummary* result : ordered) {
         series.dates.push_back(result->scanDate);
         series.sizes.push_back(result->totalSize);
     }

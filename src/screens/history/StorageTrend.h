@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QDateTime>
 #include <QList>
@@ -36,11 +36,11 @@ public:
 
 // Whether the history holds a folder scanned at least twice. The whole history decides, so that
 // the trend section does not come and go while the user types a search.
-bool historyHasTrend(const QList<AnalysisResult>& history);
+bool historyHasTrend(const QList<ScanSummary>& history);
 
 // The folder the trend charts among the given scans: of the folders scanned at least twice, the
 // one scanned most recently (the folder the user is most likely watching), the earlier path
 // first on a tie. Empty when no folder qualifies.
-TrendSeries storageTrend(const QList<AnalysisResult>& scans);
+TrendSeries storageTrend(const QList<ScanSummary>& scans);
 
 } // namespace tessarine

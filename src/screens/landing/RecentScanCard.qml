@@ -8,13 +8,13 @@ import Tessarine.Screens
 AbstractButton {
     id: card
 
-    required property analysisResult result
+    required property scanSummary summary
 
     implicitWidth: 210
     padding: Theme.spacingMedium
-    Accessible.name: "Open scan of " + (result.rootName !== "" ? result.rootName : result.rootPath)
+    Accessible.name: "Open scan of " + (summary.rootName !== "" ? summary.rootName : summary.rootPath)
 
-    onClicked: AppState.openResult(result)
+    onClicked: AppState.openStoredScan(summary)
 
     background: Rectangle {
         radius: Theme.radiusButton
@@ -44,7 +44,7 @@ AbstractButton {
             Text {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width - 22
-                text: card.result.rootName
+                text: card.summary.rootName
                 font: Theme.headline
                 color: Theme.primary
                 elide: Text.ElideMiddle
@@ -56,12 +56,12 @@ AbstractButton {
 
             DetailLabel {
                 symbol: "internaldrive"
-                text: Format.byteCount(card.result.totalSize)
+                text: Format.byteCount(card.summary.totalSize)
             }
 
             DetailLabel {
                 symbol: "clock"
-                text: Format.relativeDate(card.result.scanDate)
+                text: Format.relativeDate(card.summary.scanDate)
             }
         }
     }

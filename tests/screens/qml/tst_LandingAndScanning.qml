@@ -52,7 +52,7 @@ ScreenTestCase {
     }
 
     function recentCards(view) {
-        return ViewSearch.withProperty(view, "result")
+        return ViewSearch.withProperty(view, "summary")
     }
 
     // None without a history; the five newest once there is one.
@@ -66,12 +66,12 @@ ScreenTestCase {
         // The strip scrolls sideways, so only the cards in view exist at first.
         const strip = ViewSearch.named(view, "recentStrip")
         compare(strip.count, 5)
-        compare(recentCards(view)[0].result.rootName, "Scan 7")
+        compare(recentCards(view)[0].summary.rootName, "Scan 7")
         strip.positionViewAtEnd()
-        compare(strip.itemAtIndex(4).result.rootName, "Scan 3")
+        compare(strip.itemAtIndex(4).summary.rootName, "Scan 3")
         strip.positionViewAtBeginning()
         waitForRendering(strip)
-        mouseClick(recentCards(view).find(card => card.result.rootName === "Scan 6"))
+        mouseClick(recentCards(view).find(card => card.summary.rootName === "Scan 6"))
         compare(AppState.currentView, AppState.Dashboard)
         compare(AppState.currentResult.rootName, "Scan 6")
     }

@@ -103,27 +103,27 @@ void AppFixture::leave() {
 }
 
 void AppFixture::forgetFolderScans() {
-    const QList<AnalysisResult> stored = m_state->scanHistory()->results();
-    for (const AnalysisResult& result : stored)
-        if (result.rootPath.startsWith(m_files.path()))
-            m_state->deleteScan(result);
+    const QList<ScanSummary> stored = m_state->scanHistory()->results();
+    for (const ScanSummary& scan : stored)
+        if (scan.rootPath.startsWith(m_files.path()))
+            m_state->deleteScan(scan);
 }
 
 void AppFixture::fillHistory(int count) {
-    QList<AnalysisResult> results;
+    // Disk and list agree, so that the application's reload after a change on disk keeps them:
+    // scans an earlier test saved behind the list's back go too.
+    const auto stored = m_store->loadSummaries();
+    if (const auto* summaries = std::get_if<QList<ScanSummary>>(&stored))
+        for (const ScanSummary& scan : *summaries)
+            m_store->deleteResult(scan.id);
+    QList<ScanSummary> summaries;
     for (int n = count; n >= 1; --n) {
         AnalysisResult result = resultOf(QStringLiteral("/Users/ann/Scan %1").arg(n));
         result.scanDate = QDateTime::currentDateTimeUtc().addDays(n - count);
-        results.append(std::move(result));
-    }
-    // Disk and list agree, so that the application's reload after a change on disk keeps them.
-    const auto stored = m_store->loadAll();
-    if (const auto* storedResults = std::get_if<QList<AnalysisResult>>(&stored))
-        for (const AnalysisResult& result : *storedResults)
-            m_store->deleteResult(result);
-    for (const AnalysisResult& result : results)
         m_store->save(result);
-    m_state->scanHistory()->reset(results);
+        summaries.append(ScanSummary::of(result));
+    }
+    m_state->scanHistory()->reset(summaries);
 }
 
 void AppFixture::saveElsewhere(const QString& rootPath, double hoursAgo) {

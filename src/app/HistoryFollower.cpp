@@ -1,0 +1,98 @@
+#include "HistoryFollower.h"
+
+#include "storage/SummaryIndex.h"
+
+#include <QFileInfo>
+
+namespace tessarine {
+
+namespace {
+
+// Long enough for a save's temporary file and rename to arrive as one change, short enough that
+// a scan saved by the command-line tool appears while the user still looks.
+constexpr auto settleInterval = std::chrono::milliseconds(150);
+
+} // namespace
+
+HistoryFollower::HistoryFollower(HistoryCatalog catalog, const QString& folder, QObject* parent)
+    : QObject(parent)
+    , m_folder(folder)
+    , m_catalog(std::move(catalog)) {
+    m_lookThread.setMaxThreadCount(1);
+    m_settle.setSingleShot(true);
+    m_settle.setInterval(settleInterval);
+    connect(&m_settle, &QTimer::timeout, this, &HistoryFollower::startLook);
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this](const QString& path) {
+        if (path == m_folder)
+            m_settle.start();
+        else
+            watchFolderAgain();
+    });
+    // The parent tells when a history folder deleted as a whole is made again: the watch on the
+    // folder itself ends with it.
+    m_watcher.addPath(QFileInfo(folder).path());
+    m_watcher.addPath(folder);
+}
+
+HistoryFollower::~HistoryFollower() {
+    m_lookThread.waitForDone();
+}
+
+void HistoryFollower::noteOwnChange() {
+    if (m_looking)
+        m_ownChangeDuringLook = true;
+}
+
+void HistoryFollower::watchFolderAgain() {
+    if (m_watcher.directories().contains(m_folder) || !QFileInfo(m_folder).isDir())
+        return;
+    m_watcher.addPath(m_folder);
+    m_settle.start();
+}
+
+void HistoryFollower::startLook() {
+    if (m_looking) {
+        m_changedDuringLook = true;
+        return;
+    }
+    m_looking = true;
+    m_lookThread.start([this, catalog = m_catalog]() mutable {
+        Look look;
+        look.catalog = std::move(catalog);
+        std::optional<CatalogEntries> indexUpdate;
+        auto outcome = look.catalog.look(HistoryCatalog::Reporting::newlyBrokenFiles);
+        if (const auto* error = std::get_if<StorageError>(&outcome)) {
+            look.failure = error->errorDescription();
+        } else {
+            look.changed = std::get<bool>(outcome);
+            indexUpdate = look.catalog.indexUpdate();
+            look.summaries = look.catalog.summaries();
+        }
+        QMetaObject::invokeMethod(
+            this, [this, look = std::move(look)]() mutable { finishLook(std::move(look)); },
+            Qt::QueuedConnection);
+        if (indexUpdate)
+            writeSummaryIndex(m_folder, *indexUpdate);
+    });
+}
+
+void HistoryFollower::finishLook(Look look) {
+    m_looking = false;
+    if (look.failure) {
+        emit lookFailed(*look.failure);
+    } else {
+        m_catalog = std::move(look.catalog);
+        if (std::exchange(m_ownChangeDuringLook, false)) {
+            // Listed before the application's own save or delete: its rows would undo it for a
+            // moment. Another look sees both.
+            m_rowsBehind = true;
+            m_changedDuringLook = true;
+        } else if (const bool behind = std::exchange(m_rowsBehind, false); look.changed || behind) {
+            emit summariesChanged(look.summaries);
+        }
+    }
+    if (std::exchange(m_changedDuringLook, false))
+        startLook();
+}
+
+} // namespace tessarine

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "model/ScanSummary.h"
+#include "storage/HistoryCatalog.h"
+
+#include <QFileSystemWatcher>
+#include <QList>
+#include <QObject>
+#include <QThreadPool>
+#include <QTimer>
+
+namespace tessarine {
+
+// Keeps the history's summaries in step with the history folder while the application runs:
+// scans saved by the command-line tool or another instance, files deleted or broken outside the
+// application. Each change is taken in by a look on a thread of its own that reads only the files
+// that changed, so the interface thread only applies the rows.
+class HistoryFollower : public QObject {
+    Q_OBJECT
+
+public:
+    // Follows the folder from what the catalog (opened at start) already knows.
+    HistoryFollower(HistoryCatalog catalog, const QString& folder, QObject* parent = nullptr);
+    // Waits for a look still running.
+    ~HistoryFollower() override;
+
+    // The application saved or deleted a scan itself and has shown it already: a look that
+    // listed the folder before that must not undo it.
+    void noteOwnChange();
+
+signals:
+    // The summaries, newest first, after a look found a change.
+    void summariesChanged(const QList<tessarine::ScanSummary>& summaries);
+    void lookFailed(const QString& description);
+
+private:
+    struct Look {
+        HistoryCatalog catalog;
+        QList<ScanSummary> summaries;
+        bool changed = false;
+        std::optional<QString> failure;
+    };
+
+    void startLook();
+    void finishLook(Look look);
+    void watchFolderAgain();
+
+    QString m_folder;
+    HistoryCatalog m_catalog;
+    QFileSystemWatcher m_watcher;
+    // A save makes a few changes in a row (a temporary file, then its rename): they are taken in
+    // with one look once they settle.
+    QTimer m_settle;
+    QThreadPool m_lookThread;
+    bool m_looking = false;
+    bool m_changedDuringLook = false;
+    bool m_ownChangeDuringLook = false;
+    // A look's rows were held back, so the next one applies its rows even if it finds no change.
+    bool m_rowsBehind = false;
+};
+
+} // namespace tessarine
