@@ -1,6 +1,7 @@
 #include "AppState.h"
 
 #include "model/PathNames.h"
+#include "model/WorkerThread.h"
 #include "scanner/FileSystemScanner.h"
 #include "storage/PersistenceService.h"
 
@@ -58,7 +59,6 @@ AppState::AppState(PersistenceService& store, QObject* parent)
 
 AppState::~AppState() {
     m_currentScanCancel.cancel();
-    waitForWorkers();
     if (sharedInstance == this)
         sharedInstance = nullptr;
 }
@@ -110,10 +110,6 @@ void AppState::clearError() {
         emit errorChanged();
 }
 
-void AppState::waitForWorkers() {
-    m_workers.waitForDone();
-}
-
 void AppState::loadHistory() {
     m_scanHistory.reset(loadStoredResults().value_or(QList<AnalysisResult>{}));
 }
@@ -157,19 +153,16 @@ void AppState::performScan(TaskId task, const CancelToken& cancel, const QString
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();
-    m_workers.start([this, task, cancel, scanner, folderPath] {
-        ScanOutcome outcome = scanner->scan(folderPath, cancel);
-        // Back on the interface thread; dropped by Qt if the state is gone by then.
-        QMetaObject::invokeMethod(
-            this,
-            [this, task, scanner, outcome = std::move(outcome)]() mutable {
+    startWorkerThread(
+        [this, replies = m_workerReplies.sender(), task, cancel, scanner, folderPath] {
+            ScanOutcome outcome = scanner->scan(folderPath, cancel);
+            replies.post([this, task, scanner, outcome = std::move(outcome)]() mutable {
                 if (auto* result = std::get_if<AnalysisResult>(&outcome))
                     finishScan(task, scanner, std::move(*result));
                 else
                     failScan(task, std::get<ScanError>(outcome));
-            },
-            Qt::QueuedConnection);
-    });
+            });
+        });
 }
 
 void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,

@@ -13,7 +13,7 @@ constexpr std::chrono::milliseconds progressInterval{100};
 } // namespace
 
 DirectoryListing enumerateFolders(const QString& rootPath, const std::atomic<bool>& cancelled,
-                                  const std::function<void(qint64, qint64)>& onProgress) {
+                                  const std::function<void(const WalkProgress&)>& onProgress) {
     auto lastSent = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
     options.cancelled = &cancelled;
@@ -31,7 +31,7 @@ DirectoryListing enumerateFolders(const QString& rootPath, const std::atomic<boo
         if (now - lastSent < progressInterval)
             return;
         lastSent = now;
-        onProgress(walk.items, walk.folders);
+        onProgress(walk);
     };
     return DirectoryWalker(std::move(options)).walk(rootPath);
 }

@@ -16,12 +16,12 @@ const QString saveOption = QStringLiteral("--save");
 const QString csvOption = QStringLiteral("--csv");
 
 ScanOutcome scan(const QString& folder) {
-    FileSystemScanner scanner;
+    const auto scanner = std::make_shared<FileSystemScanner>();
     const CancelToken task;
     return runCancellable<ScanOutcome, ScanProgress>({
-        [&] { return scanner.scan(folder, task); },
-        [&] { task.cancel(); },
-        [&] { return scanner.currentProgress(); },
+        [scanner, folder, task] { return scanner->scan(folder, task); },
+        [task] { task.cancel(); },
+        [scanner] { return scanner->currentProgress(); },
         ScanError{ScanError::Kind::cancelled, {}},
     });
 }

@@ -25,12 +25,12 @@ qint64 levelsBelow(const FolderInfo& root) {
 }
 
 FolderTreeOutcome buildTree(const QString& rootPath) {
-    FolderTreeService service;
+    const auto service = FolderTreeService::makeShared();
     const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [&] { return service.build(rootPath, task); },
-        [&] { task.cancel(); },
-        [&] { return service.progress(); },
+        [service, rootPath, task] { return service->build(rootPath, task); },
+        [task] { task.cancel(); },
+        [service] { return service->progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
     });
 }

@@ -3,6 +3,8 @@
 #include "Commands.h"
 #include "StandardStreams.h"
 
+#include "model/WorkerThread.h"
+
 #include <QCoreApplication>
 
 #include <csignal>
@@ -14,5 +16,5 @@ int main(int argc, char** argv) {
     reserveStandardOutput();
 
     QCoreApplication application(argc, argv);
-    return runCommandLine(QCoreApplication::arguments().mid(1));
+    return tessarine::leaveProcess(runCommandLine(QCoreApplication::arguments().mid(1)));
 }

@@ -1,6 +1,7 @@
 #include "app/AppState.h"
 #include "app/shell/LaunchOptions.h"
 #include "app/shell/ShellEngine.h"
+#include "model/WorkerThread.h"
 #include "storage/PersistenceService.h"
 
 #include "ReleaseInfo.h"
@@ -59,5 +60,5 @@ int main(int argc, char* argv[]) {
         return 1;
     if (launch.folder)
         state.startScan(*launch.folder);
-    return QGuiApplication::exec();
+    return tessarine::leaveProcess(QGuiApplication::exec());
 }
