@@ -22,7 +22,7 @@ build: deps $(BUILD)/build.ninja
 	cmake --build $(BUILD) -j $(JOBS)
 
 run: build
-	$(BUILD)/src/app/shell/tessarine
+	$(BUILD)/src/shell/tessarine
 
 scan: build
 	$(BUILD)/tools/tessarine-cli scan "$(DIR)"

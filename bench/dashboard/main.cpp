@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstdio>
 
+Q_IMPORT_QML_PLUGIN(Tessarine_DesignPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)

@@ -1,7 +1,7 @@
 #include "app/AppState.h"
-#include "app/shell/ShellEngine.h"
 #include "frames/FrameCost.h"
 #include "model/FileCategory.h"
+#include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 
 #include <QElapsedTimer>

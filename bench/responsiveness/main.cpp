@@ -1,7 +1,7 @@
 #include "ResponsivenessProbe.h"
 
 #include "app/AppState.h"
-#include "app/shell/ShellEngine.h"
+#include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 
 #include <QElapsedTimer>

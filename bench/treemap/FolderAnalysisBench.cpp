@@ -16,8 +16,10 @@
 
 #include <cstdio>
 
+Q_IMPORT_QML_PLUGIN(Tessarine_DesignPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
+Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)
 
 using namespace tessarine;
 
@@ -63,7 +65,7 @@ int main(int argc, char** argv) {
     engine.addImportPath(QStringLiteral(":/"));
     QQmlComponent component(&engine);
     component.setData(
-        "import QtQuick\nimport Tessarine.Charts\nFolderAnalysisSection { width: 1200 }", QUrl());
+        "import QtQuick\nimport Tessarine.Screens\nFolderAnalysisSection { width: 1200 }", QUrl());
     std::unique_ptr<QObject> created(
         component.createWithInitialProperties({{"result", QVariant::fromValue(result)}}));
     auto* section = qobject_cast<QQuickItem*>(created.get());

@@ -1,6 +1,6 @@
-#include "charts/NestedTreemap.h"
 #include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
+#include "charts/geometry/NestedTreemap.h"
 #include "frames/FrameCost.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "ResultListModel.h"
 
-#include "RoleNames.h"
+#include "design/RoleNames.h"
 
 #include <QSet>
 

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 
 // Where the treemap has drilled to: the root, then each folder drilled into. Every entry but the
 // last leads back to it.

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // A symbol before a short text, in the caption font: one figure of a row of figures.
 Row {

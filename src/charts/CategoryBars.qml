@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // The bars of the category chart over their plot: 36 points per category plus the axis, names

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "Storage by Category": one horizontal bar per category, largest first, growing into place when

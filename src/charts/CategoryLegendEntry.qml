@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One category of the chart's legend: its colour, name and share; clicking it selects the
 // category, or clears the selection when it is the selected one (as Space and Return do).

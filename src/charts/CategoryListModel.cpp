@@ -1,7 +1,7 @@
 #include "charts/CategoryListModel.h"
 
-#include "app/RoleNames.h"
-#include "charts/AxisTicks.h"
+#include "charts/geometry/AxisTicks.h"
+#include "design/RoleNames.h"
 #include "model/Format.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "charts/CategoryTreemapModel.h"
 
-#include "app/RoleNames.h"
-#include "app/design/ColorScheme.h"
 #include "charts/TreemapCellStyle.h"
+#include "design/ColorScheme.h"
+#include "design/RoleNames.h"
 
 namespace tessarine {
 

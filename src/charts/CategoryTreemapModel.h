@@ -1,8 +1,8 @@
 #pragma once
 
 #include "charts/CategoryListModel.h"
-#include "charts/CategoryTreemapLayout.h"
 #include "charts/TreemapCell.h"
+#include "charts/geometry/CategoryTreemapLayout.h"
 
 #include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // The card every chart of a result sits on: its sections stacked 16 points apart inside the
 // standard padding.

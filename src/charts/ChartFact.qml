@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // One figure of a chart's strip, led by its symbol, in the caption font and secondary colour.
 Row {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // A chart card's header: its symbol and title, then whatever the card adds at the trailing end.
 RowLayout {

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // Dashed grid lines across a plot at the given positions: vertical lines at x positions, or
 // horizontal ones at y positions. Painted in one item, as the software renderer draws no shapes.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "Depth Distribution": how many files lie at each folder depth, as purple bars that grow when

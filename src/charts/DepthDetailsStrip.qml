@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The figures of the depth level under the pointer, on a purple tint.
 Rectangle {

@@ -1,8 +1,8 @@
 #include "charts/DepthListModel.h"
 
-#include "app/RoleNames.h"
-#include "charts/AxisTicks.h"
-#include "charts/SlicePicking.h"
+#include "charts/geometry/AxisTicks.h"
+#include "charts/geometry/SlicePicking.h"
+#include "design/RoleNames.h"
 
 #include <algorithm>
 #include <numeric>

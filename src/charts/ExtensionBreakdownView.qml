@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "File Extensions": the largest extensions with bars proportional to their share, ten at first

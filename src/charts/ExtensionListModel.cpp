@@ -1,6 +1,6 @@
 #include "charts/ExtensionListModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 
 #include <numeric>
 

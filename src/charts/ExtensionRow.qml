@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One extension: its chip in its category's colour, a bar of its share of the scanned bytes (never
 // thinner than 4 points so a small one still shows), and its size and file count.

@@ -1,7 +1,7 @@
 #include "charts/FolderBarChartModel.h"
 
-#include "app/RoleNames.h"
-#include "charts/AxisTicks.h"
+#include "charts/geometry/AxisTicks.h"
+#include "design/RoleNames.h"
 
 #include <algorithm>
 

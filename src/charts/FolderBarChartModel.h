@@ -1,6 +1,6 @@
 #pragma once
 
-#include "charts/FolderBars.h"
+#include "charts/geometry/FolderBars.h"
 
 #include <QAbstractListModel>
 #include <QList>

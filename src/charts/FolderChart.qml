@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "Largest Folders": a bar for each of the first folders of the tree's walk (its largest

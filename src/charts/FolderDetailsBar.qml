@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // The figures of the folder under the pointer, or of the folder shown when none is.

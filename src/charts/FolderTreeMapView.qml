@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "Folder Treemap": the shown folder's sub-folders as nested rectangles three levels deep, each

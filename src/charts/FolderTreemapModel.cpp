@@ -1,7 +1,7 @@
 #include "charts/FolderTreemapModel.h"
 
-#include "app/design/ColorScheme.h"
 #include "charts/TreemapCellStyle.h"
+#include "design/ColorScheme.h"
 
 namespace tessarine {
 

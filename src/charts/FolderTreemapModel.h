@@ -1,8 +1,8 @@
 #pragma once
 
 #include "charts/FolderSummary.h"
-#include "charts/NestedTreemap.h"
 #include "charts/TreemapCell.h"
+#include "charts/geometry/NestedTreemap.h"
 
 #include <QObject>
 #include <QSizeF>

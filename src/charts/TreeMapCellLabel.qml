@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // What a treemap cell says over its colour: its symbol once the cell is large enough to read,
 // then its name and size once there is room. Grows with the cell under the pointer. Screen readers

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 
 // "Storage Treemap": one cell per category, its area its share of the scanned bytes. Hovering a

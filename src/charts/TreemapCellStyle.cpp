@@ -1,6 +1,6 @@
 #include "charts/TreemapCellStyle.h"
 
-#include "app/design/Palette.h"
+#include "design/Palette.h"
 #include "model/Format.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "charts/CategoryTreemapLayout.h"
-#include "charts/NestedTreemap.h"
 #include "charts/TreemapCell.h"
+#include "charts/geometry/CategoryTreemapLayout.h"
+#include "charts/geometry/NestedTreemap.h"
 
 #include <optional>
 #include <vector>

@@ -1,9 +1,9 @@
 #include "charts/TreemapCells.h"
 
-#include "app/design/Palette.h"
 #include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 #include "charts/TreemapNavigation.h"
+#include "design/Palette.h"
 
 #include <QKeyEvent>
 #include <QPainter>

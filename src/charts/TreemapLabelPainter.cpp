@@ -1,6 +1,6 @@
 #include "charts/TreemapLabelPainter.h"
 
-#include "app/SymbolTable.h"
+#include "design/SymbolTable.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>

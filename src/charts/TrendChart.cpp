@@ -1,7 +1,7 @@
 #include "TrendChart.h"
 
-#include "AxisTicks.h"
-#include "CatmullRomCurve.h"
+#include "charts/geometry/AxisTicks.h"
+#include "charts/geometry/CatmullRomCurve.h"
 #include "model/Format.h"
 
 #include <QDateTime>

@@ -2,6 +2,7 @@
 #include "charts/CategoryTreemapModel.h"
 #include "charts/DepthListModel.h"
 #include "charts/ExtensionListModel.h"
+#include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
 
 #include <QAbstractItemModelTester>
@@ -156,6 +157,26 @@ private slots:
         QCOMPARE(model.cells().cells().at(1).border.width, 0);
         model.setSelectedCategory(int(FileCategory::videos));
         QCOMPARE(model.cells().cells().at(1).border.width, 3);
+    }
+
+    void cellFramesKeepTheirGap() {
+        CategoryStats images;
+        images.category = FileCategory::images;
+        CategoryStats code;
+        code.category = FileCategory::code;
+        const std::vector<TreeMapRect> rects{{images, QRectF(0, 0, 200, 100)},
+                                             {code, QRectF(200, 0, 1, 100)}};
+        const QList<TreemapCell> cells = categoryTreemapCells(rects, 0, FileCategory::code);
+        QCOMPARE(cells[0].rect, QRectF(1, 1, 198, 98));
+        QCOMPARE(cells[0].border.width, 0.0);
+        // A 1-point sliver is still drawn 1 point wide, on its own centre, and shows the selection.
+        QCOMPARE(cells[1].rect, QRectF(200, 1, 1, 98));
+        QCOMPARE(cells[1].border.color, QColor(Qt::white));
+
+        FolderInfo folder;
+        folder.totalSize = 10;
+        const NestedTreemap treemap = layoutNestedTreemap(folder, QRectF(0, 0, 1.5, 50));
+        QCOMPARE(folderTreemapCells(treemap, 10)[0].rect.width(), 0.0);
     }
 
     // What a screen reader finds in a treemap whose cells are painted, not items.

@@ -3,6 +3,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest>
 
+Q_IMPORT_QML_PLUGIN(Tessarine_DesignPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ChartsPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_ScreensPlugin)

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // A secondary fact led by its symbol in the tertiary colour, as in the dashboard header and the
 // recent-scan cards.

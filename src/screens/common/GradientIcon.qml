@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // A symbol filled with the blue-to-purple gradient. Painted on a canvas because the software
 // renderer has no shader effects to mask a gradient with a glyph.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // Which folder the result is of, when it was scanned and how long it took, and Rescan.

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 
 // The dashboard's actions, at the trailing end of the bar above its content.
 Rectangle {

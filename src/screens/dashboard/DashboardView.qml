@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Charts
 import Tessarine.Screens
 

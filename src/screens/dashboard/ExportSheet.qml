@@ -3,6 +3,7 @@ import QtQuick.Controls.Basic
 import QtQuick.Dialogs
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // "Export Analysis": the format, then a save dialog for that type only. A failed write raises the

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // One detected pattern: its kind's symbol on a tinted tile, what it is, and how much it weighs.

@@ -1,6 +1,6 @@
 #include "screens/dashboard/InsightListModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 #include "screens/dashboard/InsightStyle.h"
 
 namespace tessarine {

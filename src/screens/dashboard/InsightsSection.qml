@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The patterns found in the result, as cards in as many columns as fit; absent when none.

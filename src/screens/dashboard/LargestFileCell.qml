@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One cell of the largest-files table: the row's alternating or selected background, the clicks
 // on it, which it hands to its table, and only what its column shows (the file's icon, name and

@@ -2,6 +2,7 @@ import QtQuick
 import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // "Largest Files": the result's largest files in a table sorted by its headers and searched by

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The table of the largest files: headers that sort, alternating rows, clicks that select with

@@ -1,6 +1,6 @@
 #include "screens/dashboard/LargestFilesTableModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 #include "model/Format.h"
 
 #include <QFileInfo>

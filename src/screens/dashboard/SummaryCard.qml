@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One headline figure of a result. Cards fade and grow into place after a short random delay, so
 // the four of them settle one after another in no fixed order.

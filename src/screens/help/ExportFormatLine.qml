@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // An export format: its name in its colour, then what it is for.

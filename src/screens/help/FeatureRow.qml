@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A feature or an action: its symbol in its colour, then the text.

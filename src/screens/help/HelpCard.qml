@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A titled card of the help: its symbol in its colour and its title, then what it explains.

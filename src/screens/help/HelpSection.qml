@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // One section of the help: its title, its introduction where it has one, then its cards.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The help's table of contents, with the application's name and version at the bottom.

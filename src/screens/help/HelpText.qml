@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A paragraph of help text, wrapped to its card: plain, a semibold lead line, or a secondary

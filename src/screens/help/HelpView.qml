@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // How the application is used, in seven sections picked from a sidebar; opens on the first.

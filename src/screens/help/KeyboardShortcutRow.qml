@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A keyboard shortcut as key caps, then what it does. The text names the Command key; on this

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // What changed inside the folder: one line per category or file, with its size before and after

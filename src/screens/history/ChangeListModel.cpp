@@ -1,6 +1,6 @@
 #include "ChangeListModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 
 namespace tessarine {
 

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A difference with its arrow, in red for growth and green for shrinkage; a dash for none.

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // One side of the comparison: which scan, then its four totals, row by row beside the changes.

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // Two scans side by side, the earlier as "Before": their totals with the change of each, then

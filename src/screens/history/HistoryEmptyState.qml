@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // What the history shows before the first scan is saved.

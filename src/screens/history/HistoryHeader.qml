@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The title with how many scans are saved, and the actions on the selection and a new scan.

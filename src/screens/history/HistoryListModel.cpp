@@ -1,6 +1,6 @@
 #include "HistoryListModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 
 #include <QMetaEnum>
 

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // One saved scan: its selection circle, folder, date and size. A click opens it on the

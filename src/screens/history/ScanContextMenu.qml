@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The context menu of a saved scan: open it, pick it for a comparison, or delete it at once.

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // Whether a scan is picked: a filled accent circle with a check, or an empty faint ring.

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // A context menu entry with its symbol before the text; red when it destroys something.

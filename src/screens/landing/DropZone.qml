@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
-import Tessarine.App
+import Tessarine.Design
 
 // The dashed target that invites a dropped folder; clicking it opens the folder picker instead.
 AbstractButton {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Tessarine.App
+import Tessarine.Design
 
 // The start screen: drop a folder or pick one, or reopen one of the latest scans.
 Item {

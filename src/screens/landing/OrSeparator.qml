@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // "or" between two short hairlines, between the drop zone and the picker button.
 Row {

@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Controls.Basic
 import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // One of the latest scans on the start screen; a click shows it on the dashboard.

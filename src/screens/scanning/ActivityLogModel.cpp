@@ -1,6 +1,6 @@
 #include "screens/scanning/ActivityLogModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 
 #include "model/Format.h"
 #include "model/PathNames.h"

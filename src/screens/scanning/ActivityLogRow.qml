@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One reported item: when, whether folder or file, its name and, when known, its size.
 RowLayout {

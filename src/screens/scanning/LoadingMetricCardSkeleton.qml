@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // A performance card before the first snapshot: its title and a grey bar where the value goes.
 SkeletonSurface {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // A statistics box before the first snapshot: its label over a grey bar.
 SkeletonSurface {

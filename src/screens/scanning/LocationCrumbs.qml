@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The folders leading to the item the scan is at, separated by chevrons.
 Flow {

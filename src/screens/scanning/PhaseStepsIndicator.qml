@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // Five dots from "Init" to "Done": green behind the scan, blue where it is, faint ahead.

@@ -1,6 +1,6 @@
 #include "screens/scanning/PhaseStepsModel.h"
 
-#include "app/RoleNames.h"
+#include "design/RoleNames.h"
 
 namespace tessarine {
 

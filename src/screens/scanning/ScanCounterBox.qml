@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // A running count of the status panel: symbol, the grouped number and its label.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // A figure of the status panel: an optional symbol beside the value, a lower-case caption under.
 Column {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One performance figure: symbol and title, the value and its unit, on a tint of its colour.
 Rectangle {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // The share of the estimated items done, as a percentage and a gradient bar.
 ColumnLayout {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // A titled block of the scan details; its children stack under the header.
 ColumnLayout {

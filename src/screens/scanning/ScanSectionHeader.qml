@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The blue symbol and title over one section of the scan details.
 Row {

@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Layouts
-import Tessarine.App
+import Tessarine.Design
 
 // One statistic: its label over its value, on a faint tint of its colour.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 import Tessarine.Screens
 
 // The spinning ring with the phase's symbol and the item count inside, and the phase under it.

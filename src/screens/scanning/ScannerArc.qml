@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The ring's spinning arc: a third of the circle with round caps, blue to purple. It is painted
 // once; the spin turns the item, so the canvas repaints only when the appearance switches.

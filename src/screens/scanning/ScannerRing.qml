@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The ring's full circle: a thin stroke whose colour turns from blue through purple to pale blue.
 Canvas {

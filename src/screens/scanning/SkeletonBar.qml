@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The grey bar that stands where a value will appear.
 Rectangle {

@@ -1,5 +1,5 @@
 import QtQuick
-import Tessarine.App
+import Tessarine.Design
 
 // The faint tinted ground of a placeholder card.
 Rectangle {

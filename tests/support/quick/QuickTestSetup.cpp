@@ -2,7 +2,7 @@
 
 #include "AppFixture.h"
 
-#include "app/design/ReturnKeyClicks.h"
+#include "design/ReturnKeyClicks.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -1,0 +1,49 @@
+#include "charts/geometry/CategoryTreemapLayout.h"
+
+#include <algorithm>
+
+namespace tessarine {
+
+std::vector<TreeMapRect> calculateTreeMapRects(const QList<CategoryStats>& categories,
+                                               qint64 totalSize, const QRectF& bounds) {
+    std::vector<TreeMapRect> rects;
+    if (categories.isEmpty() || totalSize < 1)
+        return rects;
+
+    QList<CategoryStats> sorted = categories;
+    std::stable_sort(
+        sorted.begin(), sorted.end(),
+        [](const CategoryStats& a, const CategoryStats& b) { return a.totalSize > b.totalSize; });
+
+    bool horizontal = bounds.height() < bounds.width();
+    qint64 remaining = totalSize;
+    QRectF free = bounds;
+    rects.reserve(sorted.size());
+    for (qsizetype i = 0; i < sorted.size(); ++i) {
+        const CategoryStats& stat = sorted[i];
+        // With nothing left to share the ratio is 0/0; such a cell has no size to show.
+        const double ratio =
+            remaining > 0 ? static_cast<double>(stat.totalSize) / static_cast<double>(remaining)
+                          : 0.0;
+        // The free area moves by the true extent so that the clamp never pushes later cells out.
+        if (horizontal) {
+            const double extent = ratio * free.width();
+            rects.push_back(
+                {stat, QRectF(free.x(), free.y(), std::max(extent, 1.0), free.height())});
+            free = QRectF(free.x() + extent, free.y(), std::max(free.width() - extent, 0.0),
+                          free.height());
+        } else {
+            const double extent = ratio * free.height();
+            rects.push_back(
+                {stat, QRectF(free.x(), free.y(), free.width(), std::max(extent, 1.0))});
+            free = QRectF(free.x(), free.y() + extent, free.width(),
+                          std::max(free.height() - extent, 0.0));
+        }
+        remaining -= stat.totalSize;
+        if ((sorted.size() - i - 1) % 2 == 0)
+            horizontal = !horizontal;
+    }
+    return rects;
+}
+
+} // namespace tessarine

@@ -1,0 +1,196 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtTest
+import Tessarine.App
+import Tessarine.Design
+import Tessarine.Screens
+import Tessarine.Testing
+import "../qml/ViewSearch.js" as ViewSearch
+
+TestCase {
+    id: testCase
+
+    name: "FolderAnalysisSection"
+    width: 1000
+    height: 900
+    when: windowShown
+    // Hover reaches visible items only.
+    visible: true
+
+    Component {
+        id: sectionComponent
+
+        FolderAnalysisSection {
+            width: testCase.width
+        }
+    }
+
+    function makeSection(result) {
+        return createTemporaryObject(sectionComponent, testCase, { result: result })
+    }
+
+    // A button where it is on screen: rows place their items when the next frame is prepared.
+    function button(section, text) {
+        const found = ViewSearch.visibleItems(
+                          section, item => typeof item.clicked === "function" && item.text === text)
+        verify(found.length === 1, "one button " + text)
+        for (let item = found[0].parent; item !== section; item = item.parent)
+            verify(waitForItemPolished(item))
+        return found[0]
+    }
+
+    function errorRows(section) {
+        // A labelled symbol reads as its label and the label's text: count each text once.
+        return [...new Set(ViewSearch.texts(section).filter(text => text.startsWith("Failed to load: ")))]
+    }
+
+    function test_cancel_data() {
+        return [{ tag: "enumerating", phase: "enumerating", step: "Scan" },
+                { tag: "building", phase: "building", step: "Build" }]
+    }
+
+    // A build cancelled in either phase, then one that shows its tree.
+    function test_cancel(data) {
+        const section = makeSection(Fixture.resultWithoutTree(Fixture.makeTree("cancel-" + data.phase)))
+        verify(ViewSearch.shows(section, "4 folders to analyze"))
+        let failures = 0
+        section.controller.stateChanged.connect(() => {
+            if (section.controller.state === FolderTreeController.Failed)
+                ++failures
+        })
+        const service = section.controller.service
+        Fixture.holdBuild(service, data.phase)
+        mouseClick(button(section, "Build Folder Treemap"))
+        tryCompare(service, "phaseName", data.phase)
+        verify(ViewSearch.shows(section, "Building Folder Treemap"))
+        verify(ViewSearch.shows(section, data.step))
+        verify(ViewSearch.shows(section, service.statusText))
+
+        mouseClick(button(section, "Cancel"))
+        // Back at once, while the held build has not even noticed.
+        verify(ViewSearch.shows(section, "Build Folder Treemap"))
+        compare(section.controller.state, FolderTreeController.Idle)
+        // The next build (held no more) waits for the cancelled one to end; its outcome never shows.
+        mouseClick(button(section, "Build Folder Treemap"))
+        tryVerify(() => section.controller.hasTree)
+        compare(failures, 0)
+        compare(errorRows(section), [])
+        // What the tree holds shows in the bars and the treemap.
+        verify(ViewSearch.shows(section, "4 of 4 folders shown"))
+        const treemap = ViewSearch.named(section, "folderTreemap").treemap
+        compare(treemap.rootName, "cancel-" + data.phase)
+        verify(treemap.cellNamed("media") >= 0 && treemap.cellNamed("clips") >= 0)
+    }
+
+    function test_failedBuildAndRetry() {
+        const missing = Fixture.missingFolder()
+        const section = makeSection(Fixture.resultWithoutTree(missing))
+        mouseClick(button(section, "Build Folder Treemap"))
+        tryCompare(section.controller, "state", FolderTreeController.Failed)
+        compare(errorRows(section).length, 1)
+        verify(errorRows(section)[0].indexOf(missing) > 0, errorRows(section)[0])
+
+        // A folder of nothing but itself builds, and the retry clears the error.
+        Fixture.createFolderAt(missing)
+        mouseClick(button(section, "Build Folder Treemap"))
+        compare(errorRows(section), [])
+        tryVerify(() => section.controller.hasTree)
+        verify(ViewSearch.shows(section, "No folder data available"))
+        verify(ViewSearch.shows(section, "0 folders"))
+    }
+
+    function test_barsFollowTheWalk() {
+        const section = makeSection(Fixture.resultWithTree())
+        // A result with its own tree shows it without a build.
+        verify(section.controller.hasTree)
+        verify(ViewSearch.shows(section, "7 folders"))
+        const plot = ViewSearch.withProperty(section, "barsHeight")[0]
+        compare(plot.implicitHeight, 7 * 28 + 40)
+        // Symbols are single glyphs; sizes and axis labels have a unit after a space.
+        const names = ViewSearch.texts(plot).filter(text => text.length > 1 && text.indexOf(" ") < 0)
+        compare(names, ["alpha", "alpha1", "deep", "deeper", "alpha2", "beta", "beta1"])
+        // Folders inside shown folders count again: the share may pass 100%.
+        verify(ViewSearch.shows(section, Format.byteCount(2250000) + " (225.0% of total)"))
+    }
+
+    // However deep the tree, the treemap shows three levels and the bars fifteen folders.
+    function test_deepChain() {
+        const section = makeSection(Fixture.resultWithChain(10000))
+        verify(ViewSearch.shows(section, "10,000 folders"))
+        verify(ViewSearch.shows(section, "15 of 10,000 folders shown"))
+        const treemap = ViewSearch.named(section, "folderTreemap").treemap
+        compare(treemap.cells.count, 3)
+        waitForRendering(section)
+    }
+
+    function test_drillDownAndBack() {
+        const section = makeSection(Fixture.resultWithTree())
+        const view = ViewSearch.named(section, "folderTreemap")
+        const treemap = view.treemap
+        const cells = ViewSearch.withProperty(view, "hoverScale")[0]
+        const at = name => {
+            const rect = treemap.cellRect(treemap.cellNamed(name))
+            verify(rect.width > 0, name + " is drawn")
+            // Inside the cell's label row, above any nested level.
+            return Qt.point(rect.x + 6, rect.y + 6)
+        }
+        const doubleClick = name => {
+            // Where a cell lies is known once the last change has settled.
+            tryCompare(cells, "scale", 1)
+            const point = at(name)
+            mouseDoubleClickSequence(cells, point.x, point.y)
+        }
+        const breadcrumbShown = () => ViewSearch.withProperty(view, "rootName").length > 0
+
+        compare(treemap.pathNames, [])
+        verify(!breadcrumbShown())
+        compare(treemap.details.name, "ann")
+
+        doubleClick("alpha")
+        compare(treemap.pathNames, ["alpha"])
+        verify(breadcrumbShown())
+        verify(ViewSearch.shows(view, "Back") && ViewSearch.shows(view, "Root"))
+        doubleClick("alpha1")
+        compare(treemap.pathNames, ["alpha", "alpha1"])
+        // The last entry is where the treemap is: only the others lead somewhere.
+        verify(!button(view, "alpha1").enabled)
+        mouseClick(button(view, "alpha"))
+        compare(treemap.pathNames, ["alpha"])
+        mouseClick(button(view, "Back"))
+        compare(treemap.pathNames, [])
+        verify(!breadcrumbShown())
+        verify(!ViewSearch.shows(view, "Back"))
+
+        doubleClick("alpha")
+        doubleClick("alpha1")
+        mouseClick(button(view, "ann"))
+        compare(treemap.pathNames, [])
+        doubleClick("alpha")
+        mouseClick(button(view, "Root"))
+        compare(treemap.pathNames, [])
+
+        // Neither the direct files nor a folder without sub-folders lead anywhere.
+        doubleClick("Files")
+        doubleClick("beta1")
+        compare(treemap.pathNames, [])
+    }
+
+    function test_hoverShowsTheFolder() {
+        const section = makeSection(Fixture.resultWithTree())
+        const view = ViewSearch.named(section, "folderTreemap")
+        const treemap = view.treemap
+        const cells = ViewSearch.withProperty(view, "hoverScale")[0]
+        const rect = treemap.cellRect(treemap.cellNamed("alpha"))
+        mouseMove(cells, rect.x + 6, rect.y + 6)
+        tryVerify(() => treemap.details.name === "alpha")
+        for (const text of ["600 KB", "6,000 files", "2 subfolders", "Click to drill down"])
+            verify(ViewSearch.shows(view, text), text)
+        const leaf = treemap.cellRect(treemap.cellNamed("beta1"))
+        mouseMove(cells, leaf.x + 6, leaf.y + 6)
+        tryVerify(() => treemap.details.name === "beta1")
+        verify(!ViewSearch.shows(view, "Click to drill down"))
+        // Off the cells the bar describes the folder shown.
+        mouseMove(cells, -5, -5)
+        tryVerify(() => treemap.details.name === "ann")
+    }
+}

@@ -1,0 +1,415 @@
+#include "BuildHold.h"
+#include "DashboardResult.h"
+#include "DesktopPalette.h"
+#include "FileTrees.h"
+#include "SampleHistory.h"
+#include "WindowDrag.h"
+
+#include "app/AppState.h"
+#include "app/FolderTreeController.h"
+#include "charts/FolderTreemapModel.h"
+#include "design/ColorScheme.h"
+#include "scanner/FileSystemScanner.h"
+#include "shell/ShellEngine.h"
+#include "storage/PersistenceService.h"
+
+#include <QDir>
+#include <QQmlApplicationEngine>
+#include <QQmlProperty>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace tessarine;
+
+namespace {
+
+// Five scans of one folder a week apart as it grows, besides the sample history.
+void storeProjectsTrend(PersistenceService& store) {
+    const qint64 sizes[] = {41'000'000'000, 43'500'000'000, 42'800'000'000, 47'200'000'000,
+                            52'900'000'000};
+    for (int week = 0; week < 5; ++week) {
+        AnalysisResult scan = testing::sampleResult(
+            QStringLiteral("/Users/ann/Projects"),
+            QDateTime(QDate(2025, 4, 1).addDays(7 * week), QTime(9, 30), Qt::UTC));
+        scan.totalSize = sizes[week];
+        scan.fileCount += 1200 * week;
+        QVERIFY(!store.save(scan));
+    }
+}
+
+AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
+    return testing::sampleResult(root, QDateTime(QDate(2025, 6, 1), QTime(10, 0), Qt::UTC));
+}
+
+// The main window over a history of its own, for one picture.
+class Scene {
+public:
+    explicit Scene(int storedScans = 0, bool withTrend = false)
+        : m_store(m_home.path()) {
+        testing::storeSampleHistory(m_store, storedScans);
+        if (withTrend)
+            storeProjectsTrend(m_store);
+        m_state = std::make_unique<AppState>(m_store);
+        AppState::setSharedInstance(m_state.get());
+        prepareEngine(m_engine);
+        m_engine.load(QUrl(QString::fromLatin1(mainWindowUrl)));
+    }
+
+    AppState& state() { return *m_state; }
+    QQuickWindow* window() const {
+        return m_engine.rootObjects().isEmpty()
+                   ? nullptr
+                   : qobject_cast<QQuickWindow*>(m_engine.rootObjects().first());
+    }
+    template <typename T = QObject> T* find(const char* objectName) const {
+        return window() ? window()->findChild<T*>(QString::fromLatin1(objectName)) : nullptr;
+    }
+
+    Scene& resized(QSize size) {
+        window()->resize(size);
+        return *this;
+    }
+    Scene& scanning(const QString& currentPath) {
+        m_state->setCurrentView(AppState::Scanning);
+        m_state->setScanProgress(testing::sampleProgress(currentPath));
+        return *this;
+    }
+    Scene& showing(const AnalysisResult& result) {
+        m_state->openResult(result);
+        return *this;
+    }
+    Scene& history() {
+        m_state->setCurrentView(AppState::History);
+        return *this;
+    }
+
+    // Lets transitions finish, then writes what the window shows to <build>/screenshots/name.png,
+    // or name-dark.png while the desktop is in dark mode.
+    // A picture of the pointer's hover is taken at once: the offscreen window forgets the
+    // pointer within a few frames. A window of its own (the help window) is saved the same way.
+    enum Timing { AfterTransitions, Immediately };
+    void save(const QString& name, Timing timing = AfterTransitions,
+              QQuickWindow* shown = nullptr) {
+        if (!shown)
+            shown = window();
+        QVERIFY(shown);
+        QVERIFY(QTest::qWaitForWindowExposed(shown));
+        if (timing == AfterTransitions)
+            QTest::qWait(450);
+        const QString folder = QStringLiteral(TESSARINE_SCREENSHOT_DIR);
+        QVERIFY(QDir().mkpath(folder));
+        const QImage image = shown->grabWindow();
+        QVERIFY(!image.isNull());
+        const QString appearance =
+            ColorScheme::instance().dark() ? QStringLiteral("-dark") : QString();
+        QVERIFY(image.save(folder + u'/' + name + appearance + QStringLiteral(".png")));
+    }
+
+private:
+    QTemporaryDir m_home;
+    PersistenceService m_store;
+    std::unique_ptr<AppState> m_state;
+    // Made after the state and so destroyed before it: QML holds the state as a singleton.
+    QQmlApplicationEngine m_engine;
+};
+
+// A full result as a scan of a busy projects folder gives it.
+AnalysisResult fullResult(int categories, bool withInsights = true) {
+    AnalysisResult result =
+        testing::dashboardResult(QStringLiteral("/Users/ann/Projects"), categories, 40, 20, 100);
+    if (withInsights)
+        result.insights = testing::sampleInsights();
+    return result;
+}
+
+// The item of that name in the window's visual tree, wherever loaders made it.
+QQuickItem* findItem(QQuickItem* root, const QString& objectName) {
+    if (root->objectName() == objectName)
+        return root;
+    for (QQuickItem* child : root->childItems())
+        if (QQuickItem* found = findItem(child, objectName))
+            return found;
+    return nullptr;
+}
+
+QQuickItem* findItem(QQuickWindow* window, const char* objectName) {
+    return findItem(window->contentItem(), QString::fromLatin1(objectName));
+}
+
+// The dashboard's scroll area and the named item in it, scrolled so that the item's top shows.
+QQuickItem* scrollTo(QQuickWindow* window, const char* objectName) {
+    auto* scroller = findItem(window, "dashboardScroller");
+    auto* item = findItem(window, objectName);
+    if (!scroller || !item)
+        return nullptr;
+    auto* flickable =
+        QQmlProperty::read(scroller, QStringLiteral("contentItem")).value<QQuickItem*>();
+    const qreal top =
+        item->mapToItem(flickable->property("contentItem").value<QQuickItem*>(), QPointF()).y();
+    const qreal end = flickable->property("contentHeight").toReal() - flickable->height();
+    flickable->setProperty("contentY", std::clamp(top - 60, 0.0, std::max(end, 0.0)));
+    return item;
+}
+
+// The named item scrolled into sight, once the page has moved.
+QQuickItem* inSight(QQuickWindow* window, const char* objectName) {
+    QQuickItem* item = scrollTo(window, objectName);
+    QTest::qWait(100);
+    return item;
+}
+
+QPoint centerOf(const QQuickItem* item, qreal fractionX = 0.5) {
+    return item->mapToScene(QPointF(item->width() * fractionX, item->height() / 2)).toPoint();
+}
+
+} // namespace
+
+// Renders the main window in its characteristic states, for people to look at; the assertions
+// only check that each picture was made.
+class ScreenshotTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        QStandardPaths::setTestModeEnabled(true);
+        prepareShell();
+    }
+
+    void landing() {
+        Scene(0).save("landing-empty");
+        Scene(7).save("landing-recent");
+        Scene scene(3);
+        scene.state().setError(
+            AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
+        scene.save("error-alert");
+    }
+
+    void scanning() {
+        Scene()
+            .scanning(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app"))
+            .save("scanning");
+    }
+
+    // The dashboard, a drag over it, and where the keys went: the ring around a button Tab
+    // reached, then around the treemap cell the arrows moved to, with its details below.
+    void dashboard() {
+        Scene scene(3);
+        scene.showing(dashboardResult()).save("dashboard");
+        testing::WindowDrag drag(scene.window()->contentItem(),
+                                 {QUrl::fromLocalFile(QDir::tempPath())});
+        QVERIFY(drag.enter());
+        scene.save("drop-overlay");
+        drag.leave();
+
+        auto* button = findItem(scene.window(), "exportToolbarButton");
+        QVERIFY(button);
+        button->forceActiveFocus(Qt::TabFocusReason);
+        scene.save("focus-ring");
+        auto* cells = findItem(scene.window(), "categoryTreemapCells");
+        QVERIFY(cells);
+        cells->forceActiveFocus(Qt::TabFocusReason);
+        QTest::keyClick(scene.window(), Qt::Key_Right);
+        scene.save("focus-ring-treemap");
+    }
+
+    // Every screen at the smallest window and at full HD, with names long enough to need
+    // eliding: no text may run out of its card.
+    void screensAtWindowSizes_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("smallest") << QSize(900, 600);
+        QTest::newRow("full-hd") << QSize(1920, 1080);
+    }
+
+    void screensAtWindowSizes() {
+        QFETCH(QSize, size);
+        const QString suffix = QLatin1Char('-') + QString::fromLatin1(QTest::currentDataTag());
+        const QString longFolder = QStringLiteral(
+            "/Users/ann/Documents/Client Projects 2025/Quarterly Reports and Presentations/"
+            "Final Versions Approved by the Board of Directors");
+        Scene(7).resized(size).save("landing" + suffix);
+        Scene()
+            .resized(size)
+            .scanning(longFolder + QStringLiteral("/Appendix/Spreadsheets/raw data"))
+            .save("scanning" + suffix);
+        Scene(3).resized(size).showing(dashboardResult(longFolder)).save("dashboard" + suffix);
+        Scene(5, true).resized(size).history().save("history" + suffix);
+    }
+
+    void folderAnalysis() {
+        const QTemporaryDir folders = testing::makeFastTemporaryDir();
+        testing::generateTree(folders.path(), 6000, 7);
+        AnalysisResult result = dashboardResult();
+        result.rootPath = folders.path();
+        result.folderTree = {};
+        Scene scene(3);
+        scene.showing(result);
+        QQuickItem* section = scrollTo(scene.window(), "folderAnalysis");
+        QVERIFY(section);
+        auto* controller = section->property("controller").value<FolderTreeController*>();
+
+        testing::holdBuildInPhase(*controller->service(), FolderTreeProgress::Phase::building);
+        controller->build(result.rootPath);
+        QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
+        scene.save("folder-analysis-building");
+        controller->cancel();
+
+        controller->build(result.rootPath);
+        QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
+        scrollTo(scene.window(), "folderAnalysis");
+        scene.save("folder-analysis-tree");
+
+        auto* treemap = findItem(section, QStringLiteral("folderTreemap"))
+                            ->property("treemap")
+                            .value<FolderTreemapModel*>();
+        for (int level = 0; level < 2; ++level) {
+            int drillable = 0;
+            while (treemap->folderAt(drillable) && !treemap->drillDown(drillable))
+                ++drillable;
+        }
+        QCOMPARE(treemap->pathNames().size(), 2);
+        scene.save("folder-treemap-drilled");
+
+        // The treemap itself in sight, wherever drilling left the page.
+        scrollTo(scene.window(), "folderTreemap");
+        QQuickItem* cells = findItem(section, QStringLiteral("treemapCells"));
+        const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
+        QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
+        QTRY_VERIFY(treemap->hoveredIndex() >= 0);
+        scene.save("folder-treemap-hover");
+    }
+
+    // Every page of the dashboard of a real scan of a generated tree, then its interactive states.
+    void fullDashboard() {
+        const QTemporaryDir folders = testing::makeFastTemporaryDir();
+        const QString projects = folders.filePath(QStringLiteral("Projects"));
+        testing::generateTree(projects, 20000, 11u);
+        FileSystemScanner scanner;
+        ScanOutcome scanned = scanner.scan(projects);
+        QVERIFY(std::holds_alternative<AnalysisResult>(scanned));
+        Scene scene(3);
+        scene.resized(QSize(1200, 800))
+            .showing(std::get<AnalysisResult>(scanned))
+            .save("dashboard-full-1");
+        auto* flickable = QQmlProperty::read(findItem(scene.window(), "dashboardScroller"),
+                                             QStringLiteral("contentItem"))
+                              .value<QQuickItem*>();
+        QVERIFY(flickable);
+        const qreal end = flickable->property("contentHeight").toReal() - flickable->height();
+        for (int page = 2; (page - 1) * flickable->height() < end + flickable->height(); ++page) {
+            flickable->setProperty("contentY", std::min((page - 1) * flickable->height(), end));
+            scene.save(QStringLiteral("dashboard-full-%1").arg(page));
+        }
+        QQuickWindow* window = scene.window();
+
+        QQuickItem* treemap = inSight(window, "categoryTreemapCells");
+        QTest::mouseMove(window, centerOf(treemap, 0.6));
+        QTRY_VERIFY(treemap->property("hoveredIndex").toInt() >= 0);
+        scene.save("dashboard-treemap-hover", Scene::Immediately);
+        QTest::mouseClick(window, Qt::LeftButton, {}, centerOf(treemap, 0.6));
+        QTest::mouseMove(window, QPoint(5, 5));
+        scene.save("dashboard-category-selected");
+
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(inSight(window, "showAllExtensionsButton")));
+        QQuickItem* depth = inSight(window, "depthHoverArea");
+        QTest::mouseMove(window, centerOf(depth, 0.25));
+        QTest::mouseMove(window, centerOf(depth, 0.3));
+        QTRY_VERIFY(!findItem(window, "depthSummary")->isVisible());
+        scene.save("dashboard-depth-hover-extensions-all", Scene::Immediately);
+
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(inSight(window, "largestFilesSearch")));
+        for (const char typed : std::string_view("file-1"))
+            QTest::keyClick(window, typed);
+        QTest::qWait(100);
+        const QPoint firstRow =
+            findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
+        QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);
+        QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, firstRow + QPoint(0, 80));
+        scene.save("dashboard-table-search-selection");
+
+        QTest::mouseClick(window, Qt::LeftButton, {},
+                          centerOf(findItem(window, "exportToolbarButton")));
+        scene.save("dashboard-export-sheet");
+    }
+
+    void dashboardVariants() {
+        Scene(0).showing(fullResult(12)).save("dashboard-12-categories");
+        Scene scene(0);
+        scene.showing(fullResult(4, false));
+        // The end of the page, where the insights would be.
+        QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
+        scene.save("dashboard-no-insights");
+    }
+
+    void history() {
+        Scene(0).history().save("history-empty");
+        Scene scene(5, true);
+        scene.history().save("history-trend");
+
+        auto* scans = scene.find("historyScans");
+        QVERIFY(scans);
+        scans->setProperty("searchText", QStringLiteral("Project 2"));
+        scene.save("history-search-hides-trend");
+        scans->setProperty("searchText", QString());
+
+        const QList<AnalysisResult>& stored = scene.state().scanHistory()->results();
+        for (const AnalysisResult& picked : {stored.at(0), stored.at(4)})
+            QMetaObject::invokeMethod(scans, "toggleSelection",
+                                      Q_ARG(tessarine::AnalysisResult, picked));
+        scene.save("history-selected");
+        QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "open");
+        scene.save("history-delete-confirmation");
+        QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
+        QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
+        scene.save("history-comparison");
+    }
+
+    void help() {
+        Scene scene;
+        auto* help = scene.find<QQuickWindow>("helpWindow");
+        QVERIFY(help);
+        QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
+        help->show();
+        auto* sidebar = help->findChild<QObject*>(QStringLiteral("helpSidebar"));
+        QVERIFY(sidebar);
+        for (int section = 0; section < 7; ++section) {
+            sidebar->setProperty("currentIndex", section);
+            scene.save(QStringLiteral("help-%1").arg(section + 1), Scene::AfterTransitions, help);
+        }
+    }
+
+    // The screens with painted parts (canvases, treemap cells), switched to dark while shown:
+    // nothing may keep its light colours. Taken once, in the light run.
+    void switchedToDarkWhileShown() {
+        if (ColorScheme::instance().dark())
+            QSKIP("taken in the light run");
+        const QPalette light = QGuiApplication::palette();
+        Scene landing(3);
+        Scene scanning;
+        scanning.scanning(QStringLiteral("/Users/ann"));
+        Scene dashboard(3);
+        dashboard.showing(dashboardResult());
+        for (Scene* scene : {&landing, &scanning, &dashboard})
+            QVERIFY(QTest::qWaitForWindowExposed(scene->window()));
+        QGuiApplication::setPalette(testing::darkDesktopPalette());
+        landing.save("landing-switched");
+        scanning.save("scanning-switched");
+        dashboard.save("dashboard-switched");
+        QGuiApplication::setPalette(light);
+    }
+};
+
+// Every picture as a light desktop shows it, then again after the desktop switched to dark.
+int main(int argc, char** argv) {
+    QGuiApplication application(argc, argv);
+    application.setAttribute(Qt::AA_Use96Dpi, true);
+    ScreenshotTest test;
+    const int lightFailures = QTest::qExec(&test, argc, argv);
+    QGuiApplication::setPalette(testing::darkDesktopPalette());
+    return lightFailures + QTest::qExec(&test, argc, argv);
+}
+#include "ScreenshotTest.moc"

@@ -1,0 +1,247 @@
+import QtQuick
+import QtTest
+import Tessarine
+import Tessarine.App
+import Tessarine.Testing
+import "../screens/qml/ViewSearch.js" as ViewSearch
+
+// The content view as a user drives it: its sidebar, the menu commands and their shortcuts,
+// folders dropped from a file manager, and the alert that shows an error.
+TestCase {
+    id: testCase
+
+    name: "ContentView"
+    width: 1200
+    height: 800
+    // Hover, drags and shortcuts reach only items in a shown window.
+    visible: true
+    when: windowShown
+
+    Component {
+        id: contentComponent
+        ContentView {
+            width: testCase.width
+            height: testCase.height
+        }
+    }
+
+    Component {
+        id: commandsComponent
+        AppCommands {}
+    }
+
+    Component {
+        id: alertComponent
+        ErrorAlert {}
+    }
+
+    SignalSpy {
+        id: helpSpy
+        signalName: "helpRequested"
+    }
+
+    property ContentView content
+    property var viewsSeen: []
+
+    Connections {
+        target: AppState
+        function onCurrentViewChanged() {
+            testCase.viewsSeen.push(AppState.currentView)
+        }
+    }
+    property AppCommands commands
+
+    function init() {
+        content = createTemporaryObject(contentComponent, testCase)
+        commands = createTemporaryObject(commandsComponent, testCase)
+        helpSpy.target = commands
+        helpSpy.clear()
+        AppState.currentView = AppState.Landing
+    }
+
+    function cleanup() {
+        Fixture.leave()
+        if (AppState.isScanning)
+            AppState.cancelScan()
+        if (content.folderPicker.visible)
+            content.folderPicker.reject()
+        AppState.clearError()
+        Fixture.forgetFolderScans()
+    }
+
+    function overlay() {
+        return findChild(content, "dropOverlay")
+    }
+
+    function test_newScanOpensThePickerWhoseChoiceIsScanned() {
+        keyClick(Qt.Key_N, Qt.ControlModifier)
+        verify(AppState.showFolderPicker)
+        tryCompare(content.folderPicker, "visible", true)
+
+        content.folderPicker.currentFolder = Fixture.folderUrl
+        content.folderPicker.selectedFolder = Fixture.folderUrl
+        content.folderPicker.accept()
+        verify(!AppState.showFolderPicker)
+        compare(AppState.currentView, AppState.Scanning)
+        verify(AppState.isScanning)
+
+        // Closing the picker without a choice hands the request back too.
+        keyClick(Qt.Key_N, Qt.ControlModifier)
+        tryCompare(content.folderPicker, "visible", true)
+        content.folderPicker.reject()
+        verify(!AppState.showFolderPicker)
+    }
+
+    function test_viewHistoryWorksFromEveryViewAndKeepsAScanRunning() {
+        for (const view of [AppState.Landing, AppState.Dashboard]) {
+            AppState.currentView = view
+            keyClick(Qt.Key_H, Qt.ControlModifier | Qt.ShiftModifier)
+            compare(AppState.currentView, AppState.History)
+        }
+        AppState.startScan(Fixture.largeFolderUrl)
+        viewsSeen = []
+        keyClick(Qt.Key_H, Qt.ControlModifier | Qt.ShiftModifier)
+        // The scan was left to run to its result (which may come before the key on a slow
+        // machine, so the order of the two views is not checked).
+        tryCompare(AppState, "isScanning", false, 30000)
+        verify(viewsSeen.includes(AppState.History))
+        compare(AppState.currentResult.fileCount, 5000)
+    }
+
+    function test_helpShortcutAsksForTheHelpWindow() {
+        keyClick(Qt.Key_Question, Qt.ControlModifier)
+        compare(helpSpy.count, 1)
+        keyClick(Qt.Key_Question, Qt.ControlModifier | Qt.ShiftModifier)
+        compare(helpSpy.count, 2)
+    }
+
+    function test_droppedFolderStartsAScan() {
+        // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
+        verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
+        verify(content.isDropTargeted)
+        verify(overlay().shown)
+        verify(!overlay().startsNewScan)
+        compare(Fixture.drop(), Qt.CopyAction)
+        verify(!content.isDropTargeted)
+        tryCompare(AppState, "currentView", AppState.Scanning)
+        tryCompare(AppState, "isScanning", false, 30000)
+        compare(AppState.currentView, AppState.Dashboard)
+        compare(AppState.currentResult.rootPath, Fixture.folderPath)
+
+        // Over the dashboard the overlay says that a new scan replaces the one on display.
+        verify(Fixture.dragOver(content, Fixture.folderUrl))
+        verify(overlay().startsNewScan)
+        Fixture.leave()
+        verify(!content.isDropTargeted)
+        tryCompare(overlay(), "visible", false)
+    }
+
+    function test_dropsAreRefusedWhileScanning() {
+        AppState.startScan(Fixture.folderUrl)
+        verify(AppState.isScanning)
+        verify(!Fixture.dragOver(content, Fixture.folderUrl))
+        verify(!content.isDropTargeted)
+        verify(!overlay().shown)
+        compare(Fixture.drop(), Qt.IgnoreAction)
+        compare(AppState.currentView, AppState.Scanning)
+    }
+
+    function test_alertShowsTheErrorAndOkClearsIt() {
+        const alert = createTemporaryObject(alertComponent, testCase)
+        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        tryCompare(alert, "opened", true)
+        compare(findChild(alert.contentItem, "errorDescription").text,
+                "Scan failed: Cannot access directory: /x")
+        const suggestion = findChild(alert.contentItem, "recoverySuggestion")
+        verify(suggestion.visible)
+        compare(suggestion.text,
+                "Try selecting a different folder or check if you have permission to access it.")
+
+        // A newer error replaces the one on show.
+        AppState.error = AppError.cancelled()
+        compare(findChild(alert.contentItem, "errorDescription").text, "Operation was cancelled")
+        verify(!suggestion.visible)
+
+        mouseClick(findChild(alert.contentItem, "okButton"))
+        tryCompare(alert, "visible", false)
+        verify(!AppState.hasError)
+    }
+
+    // Escape dismisses, and so does Return, the key of "OK".
+    function test_keysDismissAndClear() {
+        const alert = createTemporaryObject(alertComponent, testCase)
+        for (const key of [Qt.Key_Escape, Qt.Key_Return]) {
+            AppState.error = AppError.unknown("")
+            tryCompare(alert, "opened", true)
+            verify(!findChild(alert.contentItem, "errorDescription").visible)
+            keyClick(key)
+            tryCompare(alert, "visible", false)
+            verify(!AppState.hasError)
+        }
+    }
+
+    function recentRows(sidebar) {
+        return ViewSearch.visibleItems(sidebar, item => item.objectName === "recentScanRow")
+    }
+
+    function test_recentRowsShowTheFiveNewestScans() {
+        const sidebar = findChild(content, "sidebar")
+        const rows = recentRows(sidebar)
+        compare(rows.length, 5)
+        // The newest is a scan of "/": the text after its only slash is empty.
+        compare(rows[0].folderName, "")
+        compare(rows[1].folderName, "Project 1")
+        compare(rows[4].folderName, "Project 4")
+    }
+
+    function test_aRunningScanKeepsARowThatLeadsBackToIt() {
+        const sidebar = findChild(content, "sidebar")
+        const running = findChild(sidebar, "runningScanRow")
+        verify(!running.visible)
+        AppState.startScan(Fixture.largeFolderUrl)
+        AppState.currentView = AppState.History
+        verify(running.visible)
+        // Not clicked: the scan may end at any turn of the event loop and leave for the
+        // dashboard; the row is the plain view row every other sidebar row is.
+        compare(running.view, AppState.Scanning)
+        AppState.cancelScan()
+        verify(!running.visible)
+    }
+
+    function test_choosingARecentRowShowsItsResult() {
+        AppState.currentView = AppState.History
+        const sidebar = findChild(content, "sidebar")
+        const row = recentRows(sidebar)[2]
+        mouseClick(row)
+        compare(AppState.currentResult.rootPath, row.result.rootPath)
+        compare(AppState.currentView, AppState.Dashboard)
+        const currentAnalysis = findChild(sidebar, "currentAnalysisRow")
+        verify(currentAnalysis.visible)
+        verify(currentAnalysis.selected)
+    }
+
+    // Up and Down walk the rows as a sidebar list does: a view's row shows its view at once, a
+    // recent scan only takes the focus until Return opens it.
+    function test_arrowsWalkTheRowsAndReturnOpensARecentScan() {
+        AppState.currentView = AppState.Landing
+        const sidebar = findChild(content, "sidebar")
+        const viewRows = ViewSearch.visibleItems(sidebar, item => item.hasOwnProperty("view"))
+        viewRows[0].forceActiveFocus(Qt.TabFocusReason)
+        for (const row of viewRows.slice(1)) {
+            keyClick(Qt.Key_Down)
+            verify(row.activeFocus)
+            compare(AppState.currentView, row.view)
+        }
+        const lastView = AppState.currentView
+        keyClick(Qt.Key_Down)
+        const recent = recentRows(sidebar)[0]
+        verify(recent.visualFocus)
+        compare(AppState.currentView, lastView)
+        keyClick(Qt.Key_Return)
+        compare(AppState.currentResult.rootPath, recent.result.rootPath)
+        compare(AppState.currentView, AppState.Dashboard)
+
+        keyClick(Qt.Key_Up)
+        verify(viewRows[viewRows.length - 1].activeFocus)
+    }
+}
