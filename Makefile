@@ -4,7 +4,8 @@ BUILD      ?= build
 ASAN_BUILD ?= build-asan
 FUZZ_BUILD ?= build-fuzz
 FUZZ_SECONDS ?= 60
-FUZZ_TARGETS = ResultDecoderFuzz JsonExportFuzz CsvExportFuzz
+FUZZ_TARGETS = ResultDecoderFuzz JsonExportFuzz CsvExportFuzz FolderSizesDecoderFuzz \
+               ImportDecoderFuzz
 DIR        ?= $(CURDIR)
 JOBS       ?= $(shell nproc)
 CMAKE_GEN   = cmake -G Ninja -Wno-dev

@@ -22,6 +22,8 @@ packages=(
   dbus-daemon
   # a folder that stops answering, as a hung network mount does: a FUSE file system in Python
   python3-fusepy fuse3
+  # the real-window test: an X server of its own and real pointer and key events
+  xvfb xdotool
   # benchmark peers and the peak-memory probe
   gdu ncdu time
 )

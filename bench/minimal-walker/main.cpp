@@ -1,8 +1,9 @@
-// minimal-walker DIR THREADS: the least a disk-usage walk has to do, as a floor for the others.
-// It lists every folder (getdents through readdir) and reads the metadata of every entry that is
-// not a folder (fstatat), on THREADS threads sharing one stack of folders. Like Tessarine it leaves
-// out hidden entries and everything below them, so that both do the same work. Nothing is kept
-// but two counters, which it prints so that a run can be checked against the others.
+// minimal-walker DIR THREADS [--hidden]: the least a disk-usage walk has to do, as a floor for the
+// others. It lists every folder (getdents through readdir) and reads the metadata of every entry
+// that is not a folder (fstatat), on THREADS threads sharing one stack of folders. Like Tessarine
+// it leaves out hidden entries and everything below them, so that both do the same work; with
+// --hidden it takes them too, as Tessarine's scan --hidden does. Nothing is kept but two counters,
+// which it prints so that a run can be checked against the others.
 
 #include <atomic>
 #include <condition_variable>
@@ -31,7 +32,10 @@ struct Pending {
 
 class Walk {
 public:
-    explicit Walk(Folder root) { m_stack.push_back({std::move(root), std::string()}); }
+    Walk(Folder root, bool hiddenToo)
+        : m_hiddenToo(hiddenToo) {
+        m_stack.push_back({std::move(root), std::string()});
+    }
 
     void work() {
         while (auto pending = take()) {
@@ -69,7 +73,7 @@ private:
         long long bytes = 0;
         while (const dirent* entry = readdir(folder.get())) {
             const std::string_view name = entry->d_name;
-            if (name.front() == '.') // hidden, and "." and ".."
+            if (name == "." || name == ".." || (!m_hiddenToo && name.front() == '.'))
                 continue;
             ++entries;
             if (entry->d_type == DT_DIR) {
@@ -99,6 +103,7 @@ private:
         return folder ? Folder(folder, closedir) : nullptr;
     }
 
+    const bool m_hiddenToo;
     std::mutex m_mutex;
     std::condition_variable m_ready;
     std::vector<Pending> m_stack; // last in, first out: depth-first, so few folders stay open
@@ -111,9 +116,10 @@ private:
 } // namespace
 
 int main(int argc, char** argv) {
-    const int threads = argc == 3 ? std::atoi(argv[2]) : 0;
+    const bool hiddenToo = argc == 4 && std::string_view(argv[3]) == "--hidden";
+    const int threads = argc == 3 || hiddenToo ? std::atoi(argv[2]) : 0;
     if (threads < 1) {
-        std::fputs("usage: minimal-walker DIR THREADS\n", stderr);
+        std::fputs("usage: minimal-walker DIR THREADS [--hidden]\n", stderr);
         return 2;
     }
     DIR* root = opendir(argv[1]);
@@ -121,7 +127,7 @@ int main(int argc, char** argv) {
         std::perror(argv[1]);
         return 1;
     }
-    Walk walk(Folder(root, closedir));
+    Walk walk(Folder(root, closedir), hiddenToo);
     std::vector<std::thread> workers;
     for (int i = 0; i < threads; ++i)
         workers.emplace_back([&walk] { walk.work(); });

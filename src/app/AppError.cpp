@@ -32,6 +32,10 @@ AppError AppError::exportFailed(const QString& underlyingDescription) {
     return {Kind::exportFailed, underlyingDescription};
 }
 
+AppError AppError::importFailed(const QString& underlyingDescription) {
+    return {Kind::importFailed, underlyingDescription};
+}
+
 AppError AppError::unknown(const QString& message) {
     return {Kind::unknown, message};
 }
@@ -54,6 +58,8 @@ QString AppError::errorDescription() const {
         return QStringLiteral("Failed to load: ") + m_detail;
     case Kind::exportFailed:
         return QStringLiteral("Export failed: ") + m_detail;
+    case Kind::importFailed:
+        return QStringLiteral("Import failed: ") + m_detail;
     case Kind::unknown:
         return m_detail;
     case Kind::cancelled:
@@ -76,6 +82,8 @@ QString AppError::recoverySuggestion() const {
         return QStringLiteral("Check if you have enough disk space and try again.");
     case Kind::exportFailed:
         return QStringLiteral("Check if you have write permission to the selected location.");
+    case Kind::importFailed:
+        return QStringLiteral("Import a file written by ncdu -o or by tessarine-cli scan.");
     case Kind::unknown:
         return QStringLiteral("Please try again or restart the application.");
     case Kind::cancelled:

@@ -27,6 +27,7 @@ public:
         saveFailed,
         loadFailed,
         exportFailed,
+        importFailed,
         unknown,
         cancelled
     };
@@ -41,6 +42,7 @@ public:
     static AppError saveFailed(const QString& underlyingDescription);
     static AppError loadFailed(const QString& underlyingDescription);
     static AppError exportFailed(const QString& underlyingDescription);
+    static AppError importFailed(const QString& underlyingDescription);
     static AppError unknown(const QString& message);
     static AppError cancelled();
 

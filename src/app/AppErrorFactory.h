@@ -8,7 +8,8 @@
 
 namespace tessarine {
 
-// Lets QML raise the same errors as C++: AppState.error = AppError.exportFailed(reason).
+// The errors that arise in QML, raised as C++ raises them: AppState.error =
+// AppError.exportFailed(reason).
 class AppErrorFactory : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(AppError)
@@ -17,14 +18,8 @@ class AppErrorFactory : public QObject {
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE tessarine::AppError scanFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::AppError permissionDenied(const QString& path) const;
     Q_INVOKABLE tessarine::AppError invalidPath(const QString& path) const;
-    Q_INVOKABLE tessarine::AppError saveFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::AppError loadFailed(const QString& underlyingDescription) const;
     Q_INVOKABLE tessarine::AppError exportFailed(const QString& underlyingDescription) const;
-    Q_INVOKABLE tessarine::AppError unknown(const QString& message) const;
-    Q_INVOKABLE tessarine::AppError cancelled() const;
 };
 
 } // namespace tessarine

@@ -1,12 +1,16 @@
 #include "AppState.h"
 
+#include "StoredScanOptions.h"
+#include "import/ScanImport.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "model/WorkerThread.h"
 #include "scanner/FileSystemScanner.h"
+#include "scanner/PathAccess.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QJSEngine>
 #include <QQmlEngine>
 
@@ -36,14 +40,15 @@ template <typename T> bool assignIfChanged(T& field, const T& value) {
 }
 
 QString folderPathOf(const QUrl& folder) {
-    return folder.isLocalFile() ? folder.toLocalFile() : folder.toString(QUrl::PreferLocalFile);
+    return folder.isLocalFile() ? pathFromUrl(folder) : folder.toString(QUrl::PreferLocalFile);
 }
 
 } // namespace
 
 AppState::AppState(PersistenceService& store, QObject* parent)
     : QObject(parent)
-    , m_store(store) {
+    , m_store(store)
+    , m_scanOptions(loadScanOptions()) {
     m_progressWatcher.setInterval(progressWatchInterval);
     m_progressWatcher.setTimerType(Qt::PreciseTimer);
     connect(&m_progressWatcher, &QTimer::timeout, this, &AppState::copyLatestProgress);
@@ -105,6 +110,13 @@ void AppState::setError(const AppError& error) {
         emit errorChanged();
 }
 
+void AppState::setScanOptions(const ScanOptions& options) {
+    if (!assignIfChanged(m_scanOptions, options))
+        return;
+    storeScanOptions(options);
+    emit scanOptionsChanged();
+}
+
 void AppState::clearError() {
     if (assignIfChanged(m_error, std::optional<AppError>()))
         emit errorChanged();
@@ -135,6 +147,21 @@ void AppState::startScan(const QUrl& folder) {
 }
 
 void AppState::startScan(const QString& folderPath) {
+    beginScan(folderPath, m_scanOptions);
+}
+
+void AppState::rescan(const AnalysisResult& result) {
+    if (result.importSource) {
+        setError(AppError::scanFailed(
+            QStringLiteral("%1 was scanned on another machine (imported from %2); import a new "
+                           "scan of it instead.")
+                .arg(result.rootPath, result.importSource->fileName)));
+        return;
+    }
+    beginScan(result.rootPath, result.scanOptions);
+}
+
+void AppState::beginScan(const QString& folderPath, const ScanOptions& options) {
     // A running scan is replaced: its outcome is dropped, and its task cancelled so that it does
     // not compete with the new one for the disk, even if its worker has not started yet.
     m_currentScanCancel.cancel();
@@ -145,11 +172,12 @@ void AppState::startScan(const QString& folderPath) {
     const TaskId task = ++m_lastTaskId;
     m_currentScanTask = task;
     m_currentScanCancel = CancelToken();
-    performScan(task, m_currentScanCancel, folderPath);
+    performScan(task, m_currentScanCancel, folderPath, options);
 }
 
-void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath) {
-    auto scanner = std::make_shared<FileSystemScanner>();
+void AppState::performScan(TaskId task, const CancelToken& cancel, const QString& folderPath,
+                           const ScanOptions& options) {
+    auto scanner = std::make_shared<FileSystemScanner>(options);
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();
@@ -174,7 +202,7 @@ void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>&
     if (auto last = scanner->currentProgress())
         setScanProgress(last);
     setCurrentResult(result);
-    saveResult(result);
+    saveResult(result, scanner->folderSizes());
     setIsScanning(false);
     setCurrentView(Dashboard);
     m_currentScanner.reset();
@@ -191,12 +219,21 @@ void AppState::failScan(TaskId task, const ScanError& failure) {
     m_currentScanner.reset();
 }
 
-void AppState::saveResult(const AnalysisResult& result) {
+void AppState::saveResult(const AnalysisResult& result, const FolderSizes* folderSizes) {
     if (const auto failure = m_store.save(result)) {
         setError(AppError::saveFailed(failure->errorDescription()));
         return;
     }
     m_scanHistory.prepend(result);
+    // The scan stays saved when its folder sizes cannot follow: it just has no folder figures.
+    if (folderSizes) {
+        if (const auto failure = saveFolderSizes(m_store.storagePath(), result.id, *folderSizes))
+            setError(AppError::saveFailed(failure->errorDescription()));
+    }
+}
+
+QString AppState::historyFolder() const {
+    return m_store.storagePath();
 }
 
 void AppState::deleteScan(const AnalysisResult& result) {
@@ -205,6 +242,22 @@ void AppState::deleteScan(const AnalysisResult& result) {
         return;
     }
     m_scanHistory.removeAll(result.id);
+}
+
+void AppState::importScan(const QUrl& file) {
+    startWorkerThread([this, replies = m_workerReplies.sender(), path = folderPathOf(file)] {
+        ImportOutcome outcome = importScanFile(path);
+        replies.post([this, outcome = std::move(outcome)] {
+            if (const auto* failure = std::get_if<ImportError>(&outcome)) {
+                setError(AppError::importFailed(failure->errorDescription()));
+                return;
+            }
+            // No scan pass tallied its folders here, so it keeps no folder sizes file.
+            const auto& result = std::get<AnalysisResult>(outcome);
+            saveResult(result, nullptr);
+            openResult(result);
+        });
+    });
 }
 
 void AppState::openResult(const AnalysisResult& result) {
@@ -227,8 +280,8 @@ QUrl AppState::folderPickerStart() const {
                                                              : nullptr;
     if (last) {
         const QString parent = parentFolder(last->rootPath);
-        if (!parent.isEmpty() && QFileInfo(parent).isDir())
-            return QUrl::fromLocalFile(parent);
+        if (!parent.isEmpty() && isFolder(parent))
+            return urlFromPath(parent);
     }
     return QUrl::fromLocalFile(QDir::homePath());
 }

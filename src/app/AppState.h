@@ -3,6 +3,7 @@
 #include "AppError.h"
 #include "ScanHistoryModel.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "model/ScanProgress.h"
 
 #include "model/CancelToken.h"
@@ -23,6 +24,7 @@ class QJSEngine;
 namespace tessarine {
 
 class FileSystemScanner;
+struct FolderSizes;
 class PersistenceService;
 struct ScanError;
 
@@ -48,6 +50,11 @@ class AppState : public QObject {
     Q_PROPERTY(bool hasScanProgress READ hasScanProgress NOTIFY scanProgressChanged)
     Q_PROPERTY(tessarine::AppError error READ errorOrEmpty WRITE setError NOTIFY errorChanged)
     Q_PROPERTY(bool hasError READ hasError NOTIFY errorChanged)
+    // Where the history files are; the comparison reads the scans' folder sizes beside them.
+    Q_PROPERTY(QString historyFolder READ historyFolder CONSTANT)
+    // What new scans count (the Settings window's options), remembered between launches.
+    Q_PROPERTY(tessarine::ScanOptions scanOptions READ scanOptions WRITE setScanOptions NOTIFY
+                   scanOptionsChanged)
 
 public:
     enum AppView { Landing, Scanning, Dashboard, History };
@@ -74,6 +81,7 @@ public:
     bool hasCurrentResult() const { return m_currentResult.has_value(); }
     void setCurrentResult(const AnalysisResult& result);
     ScanHistoryModel* scanHistory() { return &m_scanHistory; }
+    QString historyFolder() const;
     bool showFolderPicker() const { return m_showFolderPicker; }
     void setShowFolderPicker(bool show);
     bool isScanning() const { return m_isScanning; }
@@ -86,16 +94,24 @@ public:
     AppError errorOrEmpty() const { return m_error.value_or(AppError{}); }
     bool hasError() const { return m_error.has_value(); }
     void setError(const AppError& error);
-    bool hasCurrentScanner() const { return m_currentScanner != nullptr; }
+    const ScanOptions& scanOptions() const { return m_scanOptions; }
+    void setScanOptions(const ScanOptions& options);
 
-    // Begins a scan of the folder; a scan already running is cancelled and replaced. Accepts a
-    // file URL or a plain path.
+    // Begins a scan of the folder with the options of scanOptions; a scan already running is
+    // cancelled and replaced. Accepts a file URL or a plain path.
     Q_INVOKABLE void startScan(const QUrl& folder);
     void startScan(const QString& folderPath);
+    // Scans a result's folder again with the options it was made with, so that the new result
+    // compares with it. An imported result names a folder on another machine, so the alert says
+    // so instead of scanning whatever has that path here.
+    Q_INVOKABLE void rescan(const tessarine::AnalysisResult& result);
     // Stops the running scan and returns to the landing view at once, without an error.
     Q_INVOKABLE void cancelScan();
     // Deletes one stored result; a result on display stays on display.
     Q_INVOKABLE void deleteScan(const tessarine::AnalysisResult& result);
+    // Reads a scan made elsewhere (an ncdu export, a Tessarine result) off the interface thread,
+    // stores it and shows it; a file that is neither raises the import alert.
+    Q_INVOKABLE void importScan(const QUrl& file);
     // Shows a stored result on the dashboard.
     Q_INVOKABLE void openResult(const tessarine::AnalysisResult& result);
     Q_INVOKABLE void clearError();
@@ -113,6 +129,7 @@ signals:
     void isScanningChanged();
     void scanProgressChanged();
     void errorChanged();
+    void scanOptionsChanged();
 
 private:
     using TaskId = quint64;
@@ -124,9 +141,11 @@ private:
     // The stored results, or nothing after raising the load alert; the alert is raised once for
     // a folder that stays unreadable, not at every change the watcher reports.
     std::optional<QList<AnalysisResult>> loadStoredResults();
-    void saveResult(const AnalysisResult& result);
+    void saveResult(const AnalysisResult& result, const FolderSizes* folderSizes);
     void setIsScanning(bool scanning);
-    void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath);
+    void beginScan(const QString& folderPath, const ScanOptions& options);
+    void performScan(TaskId task, const CancelToken& cancel, const QString& folderPath,
+                     const ScanOptions& options);
     void finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
                     AnalysisResult result);
     void failScan(TaskId task, const ScanError& failure);
@@ -143,6 +162,7 @@ private:
     bool m_isScanning = false;
     std::optional<ScanProgress> m_scanProgress;
     std::optional<AppError> m_error;
+    ScanOptions m_scanOptions;
     // The task of the current scan. A task whose id is no longer here was cancelled: its
     // outcome is dropped without touching the state.
     std::optional<TaskId> m_currentScanTask;
@@ -156,8 +176,8 @@ private:
     // interface by polling, never once per file.
     QTimer m_progressWatcher;
     std::shared_ptr<FileSystemScanner> m_watchedScanner;
-    // Each scan has a worker thread of its own: a cancelled scan stuck on a folder that does not
-    // answer is left behind, and the next one starts at once beside it.
+    // Each scan and import has a worker thread of its own: a cancelled scan stuck on a folder that
+    // does not answer is left behind, and the next one starts at once beside it.
     WorkerReplies m_workerReplies{this};
 
     // A save makes a few changes in a row (a temporary file, then its rename): they are taken in

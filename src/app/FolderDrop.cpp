@@ -1,11 +1,19 @@
 #include "FolderDrop.h"
 
-#include <QFileInfo>
+#include "model/PathBytes.h"
+#include "scanner/PathAccess.h"
 
 namespace tessarine {
 
 bool FolderDrop::isFolder(const QUrl& url) {
-    return url.isLocalFile() && QFileInfo(url.toLocalFile()).isDir();
+    return url.isLocalFile() && tessarine::isFolder(pathFromUrl(url));
+}
+
+bool FolderDrop::isImportable(const QUrl& url) {
+    if (!url.isLocalFile())
+        return false;
+    const std::optional<struct stat> status = pathStatus(pathFromUrl(url));
+    return status && S_ISREG(status->st_mode);
 }
 
 } // namespace tessarine

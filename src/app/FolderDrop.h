@@ -19,6 +19,9 @@ public:
     // True for a local URL naming an existing folder (a symbolic link to one included, since the
     // user dropped it on purpose); false for files, vanished paths and remote URLs.
     Q_INVOKABLE static bool isFolder(const QUrl& url);
+    // True for a local URL naming a file that is not a folder: a scan made elsewhere to import
+    // (an ncdu export, a Tessarine result), which the import itself then checks.
+    Q_INVOKABLE static bool isImportable(const QUrl& url);
 };
 
 } // namespace tessarine

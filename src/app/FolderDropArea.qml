@@ -1,10 +1,10 @@
 import QtQuick
 import Tessarine.App
 
-// The one drop target for folders to scan, for the whole window and the landing screen's drop
-// zone alike. Only drags that carry file locations reach it, and none while a scan runs; of a
-// dropped set only the first item counts, and it starts a scan only when it is a folder: a dropped
-// file is accepted and then quietly ignored.
+// The one drop target for folders to scan and scans to import, for the whole window and the
+// landing screen's drop zone alike. Only drags that carry file locations reach it, and none while
+// a scan runs; of a dropped set only the first item counts: a folder starts a scan, a file is
+// imported as a scan made elsewhere (an ncdu export, a Tessarine result).
 DropArea {
     id: area
 
@@ -18,6 +18,8 @@ DropArea {
         // Later, not now: the scan replaces the view that may hold this very area.
         if (FolderDrop.isFolder(url))
             Qt.callLater(AppState.startScan, url)
+        else if (FolderDrop.isImportable(url))
+            Qt.callLater(AppState.importScan, url)
         return true
     }
 

@@ -20,17 +20,17 @@ void FolderTreeController::setTree(const SharedFolderTree& tree) {
     setState(m_tree ? Ready : Idle);
 }
 
-void FolderTreeController::build(const QString& rootPath) {
+void FolderTreeController::build(const QString& rootPath, const ScanOptions& options) {
     m_currentCancel.cancel();
     const BuildId build = ++m_currentBuild;
     m_currentCancel = CancelToken();
     setErrorText({});
     setState(Building);
     startWorkerThread([this, service = m_service, replies = m_replies.sender(), build, rootPath,
-                       cancel = m_currentCancel] {
+                       options, cancel = m_currentCancel] {
         const std::optional<FolderTreeError> rootError = unlistableRootError(rootPath);
         FolderTreeOutcome outcome =
-            rootError ? FolderTreeOutcome(*rootError) : service->build(rootPath, cancel);
+            rootError ? FolderTreeOutcome(*rootError) : service->build(rootPath, options, cancel);
         replies.post([this, build, outcome = std::move(outcome)]() mutable {
             finish(build, std::move(outcome));
         });

@@ -2,6 +2,7 @@
 
 #include "model/CancelToken.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "model/WorkerReplies.h"
 #include "tree/FolderTreeService.h"
 
@@ -47,9 +48,10 @@ public:
     // called off.
     Q_INVOKABLE void setTree(const tessarine::SharedFolderTree& tree);
 
-    // Builds the tree of a scanned folder, replacing a build under way. A root that is not a
-    // folder this process may list fails the build.
-    Q_INVOKABLE void build(const QString& rootPath);
+    // Builds the tree of a scanned folder with the options its result was made with, replacing a
+    // build under way. A root that is not a folder this process may list fails the build.
+    Q_INVOKABLE void build(const QString& rootPath,
+                           const tessarine::ScanOptions& options = tessarine::ScanOptions());
     // Back to idle at once; the build winds down on its own and its outcome is dropped.
     Q_INVOKABLE void cancel();
 

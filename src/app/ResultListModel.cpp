@@ -1,19 +1,10 @@
 #include "ResultListModel.h"
 
-#include "design/RoleNames.h"
-
 #include <QSet>
 
 namespace tessarine {
 
-int ResultListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant ResultListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const AnalysisResult& result = m_results.at(index.row());
+QVariant ResultListModel::rowData(const AnalysisResult& result, int role) const {
     switch (static_cast<Role>(role)) {
     case ResultRole:
         return QVariant::fromValue(result);
@@ -33,27 +24,21 @@ QVariant ResultListModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
-QHash<int, QByteArray> ResultListModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void ResultListModel::resetRows(QList<AnalysisResult> results) {
-    beginResetModel();
-    m_results = std::move(results);
-    endResetModel();
+    RowListModel::resetRows(std::move(results));
     emit countChanged();
 }
 
 void ResultListModel::insertRow(int row, const AnalysisResult& result) {
     beginInsertRows({}, row, row);
-    m_results.insert(row, result);
+    m_rows.insert(row, result);
     endInsertRows();
     emit countChanged();
 }
 
 void ResultListModel::removeRowAt(int row) {
     beginRemoveRows({}, row, row);
-    m_results.removeAt(row);
+    m_rows.removeAt(row);
     endRemoveRows();
     emit countChanged();
 }
@@ -66,13 +51,13 @@ void ResultListModel::syncRows(const QList<AnalysisResult>& latest) {
     // a few dozen runs, not 975 rows one by one.
     bool removed = false;
     for (int end = count() - 1; end >= 0; --end) {
-        if (latestIds.contains(m_results.at(end).id))
+        if (latestIds.contains(m_rows.at(end).id))
             continue;
         int start = end;
-        while (start > 0 && !latestIds.contains(m_results.at(start - 1).id))
+        while (start > 0 && !latestIds.contains(m_rows.at(start - 1).id))
             --start;
         beginRemoveRows({}, start, end);
-        m_results.remove(start, end - start + 1);
+        m_rows.remove(start, end - start + 1);
         endRemoveRows();
         removed = true;
         end = start;
@@ -80,13 +65,21 @@ void ResultListModel::syncRows(const QList<AnalysisResult>& latest) {
     if (removed)
         emit countChanged();
     for (int row = 0; row < latest.size(); ++row) {
-        if (row >= count() || m_results.at(row).id != latest.at(row).id)
+        if (row >= count() || m_rows.at(row).id != latest.at(row).id)
             insertRow(row, latest.at(row));
     }
     // Rows the two lists order differently are left over at the end; only then is the whole
     // list replaced.
-    if (count() != latest.size())
+    if (count() != latest.size()) {
         resetRows(latest);
+        return;
+    }
+    for (int row = 0; row < count(); ++row) {
+        if (m_rows.at(row) == latest.at(row))
+            continue;
+        m_rows[row] = latest.at(row);
+        emit dataChanged(index(row), index(row));
+    }
 }
 
 } // namespace tessarine

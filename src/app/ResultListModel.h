@@ -1,8 +1,8 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "model/Records.h"
 
-#include <QAbstractListModel>
 #include <QList>
 #include <QtQml/qqmlregistration.h>
 
@@ -11,7 +11,7 @@ namespace tessarine {
 // A list of stored results shown by a view. A new list is taken in by removing and inserting
 // rows, keyed by id, so that the rows both lists hold stay where they are: the view keeps its
 // place and its delegates instead of starting over.
-class ResultListModel : public QAbstractListModel {
+class ResultListModel : public RowListModel<ResultListModel, QList<AnalysisResult>> {
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(int count READ count NOTIFY countChanged)
@@ -28,26 +28,24 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-    int count() const { return static_cast<int>(m_results.size()); }
-    const QList<AnalysisResult>& results() const { return m_results; }
+    int count() const { return rowCount(); }
+    const QList<AnalysisResult>& results() const { return m_rows; }
 
 signals:
     void countChanged();
 
 protected:
     void resetRows(QList<AnalysisResult> results);
-    // Becomes the given list. Only where the two order their common rows differently is the
-    // whole list replaced.
+    // Becomes the given list; a row whose record changed under the same id changes in place.
+    // Only where the two order their common rows differently is the whole list replaced.
     void syncRows(const QList<AnalysisResult>& latest);
     void insertRow(int row, const AnalysisResult& result);
     void removeRowAt(int row);
 
-    QList<AnalysisResult> m_results;
+private:
+    QVariant rowData(const AnalysisResult& result, int role) const override;
 };
 
 } // namespace tessarine

@@ -12,7 +12,7 @@ void ScanHistoryModel::prepend(const AnalysisResult& result) {
 
 void ScanHistoryModel::removeAll(const QUuid& id) {
     for (int row = count() - 1; row >= 0; --row) {
-        if (m_results.at(row).id == id)
+        if (m_rows.at(row).id == id)
             removeRowAt(row);
     }
 }

@@ -106,7 +106,7 @@ Item {
                 opacity: row.dimmed ? 0.3 : 1
 
                 Behavior on width { NumberAnimation { duration: 800; easing.type: Easing.OutCubic } }
-                Behavior on opacity { NumberAnimation { duration: 200 } }
+                Behavior on opacity { NumberAnimation { duration: Theme.quickDuration; easing.type: Theme.standardEasing } }
             }
 
             Text {

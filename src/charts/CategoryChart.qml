@@ -65,6 +65,7 @@ ChartCard {
             contentItem: ButtonLabel {
                 text: selectedName.name
                 font: Theme.caption
+                spacing: 4
                 color: Theme.primary
                 // The name first, then the symbol that says the click clears it.
                 LayoutMirroring.enabled: true

@@ -24,7 +24,10 @@ AbstractButton {
 
     background: Rectangle {
         radius: 6
-        color: entry.selected ? Theme.withOpacity(Theme.named(entry.colorName), 0.15) : "transparent"
+        // The tint fades in and out in its own colour rather than through a transparent black.
+        color: Theme.withOpacity(Theme.named(entry.colorName), entry.selected ? 0.15 : 0)
+
+        Behavior on color { ColorAnimation { duration: Theme.quickDuration; easing.type: Theme.standardEasing } }
 
         FocusRing {
             shown: entry.visualFocus

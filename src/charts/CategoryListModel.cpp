@@ -1,7 +1,6 @@
 #include "charts/CategoryListModel.h"
 
 #include "charts/geometry/AxisTicks.h"
-#include "design/RoleNames.h"
 #include "model/Format.h"
 
 #include <algorithm>
@@ -16,14 +15,8 @@ QList<CategoryStats> categoriesLargestFirst(const AnalysisResult& result) {
     return categories;
 }
 
-int CategoryListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant CategoryListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    return categoryData(m_categories.at(index.row()), m_totalSize, role);
+QVariant CategoryListModel::rowData(const CategoryStats& stats, int role) const {
+    return categoryData(stats, m_result.totalSize, role);
 }
 
 QVariant CategoryListModel::categoryData(const CategoryStats& stats, qint64 totalSize, int role) {
@@ -46,27 +39,22 @@ QVariant CategoryListModel::categoryData(const CategoryStats& stats, qint64 tota
     return {};
 }
 
-QHash<int, QByteArray> CategoryListModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void CategoryListModel::setResult(const AnalysisResult& result) {
-    beginResetModel();
-    m_categories = categoriesLargestFirst(result);
-    m_totalSize = result.totalSize;
-    endResetModel();
+    m_result = result;
+    resetRows(categoriesLargestFirst(result));
     emit resultChanged();
 }
 
 qint64 CategoryListModel::largestSize() const {
-    return m_categories.isEmpty() ? 0 : m_categories.first().totalSize;
+    return m_rows.isEmpty() ? 0 : m_rows.first().totalSize;
 }
 
 int CategoryListModel::rowOf(int category) const {
-    const auto found = std::find_if(
-        m_categories.cbegin(), m_categories.cend(),
-        [category](const CategoryStats& stats) { return int(stats.category) == category; });
-    return found == m_categories.cend() ? -1 : int(found - m_categories.cbegin());
+    const auto found =
+        std::find_if(m_rows.cbegin(), m_rows.cend(), [category](const CategoryStats& stats) {
+            return int(stats.category) == category;
+        });
+    return found == m_rows.cend() ? -1 : int(found - m_rows.cbegin());
 }
 
 QList<double> CategoryListModel::axisTicks() const {

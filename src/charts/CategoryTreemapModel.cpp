@@ -31,7 +31,7 @@ QVariant CategoryTreemapModel::data(const QModelIndex& index, int role) const {
     case CellHeightRole:
         return cell.rect.height();
     }
-    return CategoryListModel::categoryData(stats, m_totalSize, role);
+    return CategoryListModel::categoryData(stats, m_result.totalSize, role);
 }
 
 QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
@@ -42,7 +42,7 @@ QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
 
 void CategoryTreemapModel::setResult(const AnalysisResult& result) {
     m_categories = categoriesLargestFirst(result);
-    m_totalSize = result.totalSize;
+    m_result = result;
     relayout();
 }
 
@@ -70,7 +70,7 @@ void CategoryTreemapModel::setSelectedCategory(int category) {
 TreemapCellList CategoryTreemapModel::cells() const {
     const std::optional<FileCategory> selected =
         m_selected < 0 ? std::nullopt : std::optional(FileCategory(m_selected));
-    return TreemapCellList(categoryTreemapCells(m_rects, m_totalSize, selected));
+    return TreemapCellList(categoryTreemapCells(m_rects, m_result.totalSize, selected));
 }
 
 int CategoryTreemapModel::categoryAt(int row) const {
@@ -79,7 +79,7 @@ int CategoryTreemapModel::categoryAt(int row) const {
 
 void CategoryTreemapModel::relayout() {
     beginResetModel();
-    m_rects = calculateTreeMapRects(m_categories, m_totalSize, m_area);
+    m_rects = calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
     endResetModel();
     emit cellsChanged();
 }

@@ -16,7 +16,7 @@ namespace tessarine {
 class CategoryTreemapModel : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tessarine::AnalysisResult result WRITE setResult)
+    Q_PROPERTY(tessarine::AnalysisResult result READ result WRITE setResult NOTIFY cellsChanged)
     Q_PROPERTY(qreal areaWidth READ areaWidth WRITE setAreaWidth NOTIFY cellsChanged)
     Q_PROPERTY(qreal areaHeight READ areaHeight WRITE setAreaHeight NOTIFY cellsChanged)
     // A FileCategory, or -1 for none.
@@ -40,6 +40,7 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
+    const AnalysisResult& result() const { return m_result; }
     void setResult(const AnalysisResult& result);
     qreal areaWidth() const { return m_area.width(); }
     void setAreaWidth(qreal width);
@@ -59,7 +60,7 @@ private:
     void relayout();
 
     QList<CategoryStats> m_categories;
-    qint64 m_totalSize = 0;
+    AnalysisResult m_result;
     QRectF m_area;
     int m_selected = -1;
     std::vector<TreeMapRect> m_rects;

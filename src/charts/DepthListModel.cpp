@@ -2,21 +2,14 @@
 
 #include "charts/geometry/AxisTicks.h"
 #include "charts/geometry/SlicePicking.h"
-#include "design/RoleNames.h"
 
 #include <algorithm>
 #include <numeric>
 
 namespace tessarine {
 
-int DepthListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : count();
-}
-
-QVariant DepthListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const auto& [depth, stats] = m_levels.at(std::size_t(index.row()));
+QVariant DepthListModel::rowData(const Row& level, int role) const {
+    const auto& [depth, stats] = level;
     switch (Role(role)) {
     case DepthRole:
         return depth;
@@ -32,14 +25,9 @@ QVariant DepthListModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
-QHash<int, QByteArray> DepthListModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void DepthListModel::setResult(const AnalysisResult& result) {
-    beginResetModel();
-    m_levels = result.sortedDepths();
-    endResetModel();
+    m_result = result;
+    resetRows(result.sortedDepths());
     emit resultChanged();
 }
 
@@ -52,22 +40,20 @@ bool fewerFiles(const std::pair<qint64, DepthStats>& a, const std::pair<qint64, 
 } // namespace
 
 qint64 DepthListModel::largestFileCount() const {
-    return m_levels.empty()
+    return m_rows.empty()
                ? 0
-               : std::max_element(m_levels.cbegin(), m_levels.cend(), fewerFiles)->second.fileCount;
+               : std::max_element(m_rows.cbegin(), m_rows.cend(), fewerFiles)->second.fileCount;
 }
 
 qint64 DepthListModel::totalFiles() const {
     return std::accumulate(
-        m_levels.cbegin(), m_levels.cend(), qint64(0),
+        m_rows.cbegin(), m_rows.cend(), qint64(0),
         [](qint64 sum, const auto& level) { return sum + level.second.fileCount; });
 }
 
 qint64 DepthListModel::peakDepth() const {
     // max_element keeps the first of equal maxima, which is the shallowest level.
-    return m_levels.empty()
-               ? 0
-               : std::max_element(m_levels.cbegin(), m_levels.cend(), fewerFiles)->first;
+    return m_rows.empty() ? 0 : std::max_element(m_rows.cbegin(), m_rows.cend(), fewerFiles)->first;
 }
 
 int DepthListModel::rowAt(double x, double width) const {

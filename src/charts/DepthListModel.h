@@ -1,18 +1,19 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "model/Records.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
 // The depth levels of the result bound to it, shallowest first, with the figures of the depth
 // chart's summary.
-class DepthListModel : public QAbstractListModel {
+class DepthListModel
+    : public RowListModel<DepthListModel, std::vector<std::pair<qint64, DepthStats>>> {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tessarine::AnalysisResult result WRITE setResult)
+    Q_PROPERTY(tessarine::AnalysisResult result READ result WRITE setResult NOTIFY resultChanged)
     Q_PROPERTY(int count READ count NOTIFY resultChanged)
     // The value axis, from 0 to its last tick, which the longest bar reaches or nearly so.
     Q_PROPERTY(QList<double> axisTicks READ axisTicks NOTIFY resultChanged)
@@ -30,15 +31,12 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
+    const AnalysisResult& result() const { return m_result; }
     void setResult(const AnalysisResult& result);
     QList<double> axisTicks() const;
-    int count() const { return int(m_levels.size()); }
+    int count() const { return rowCount(); }
     qint64 largestFileCount() const;
     qint64 totalFiles() const;
     // The level with the most files; ties go to the shallowest; 0 without levels.
@@ -50,7 +48,9 @@ signals:
     void resultChanged();
 
 private:
-    std::vector<std::pair<qint64, DepthStats>> m_levels;
+    QVariant rowData(const Row& level, int role) const override;
+
+    AnalysisResult m_result;
 };
 
 } // namespace tessarine

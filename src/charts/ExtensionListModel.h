@@ -1,18 +1,18 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "model/Records.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
 // The largest extensions of the result bound to it: the first 15 at most, of which the first 10
 // until showAll, with the count and size of those left out for the footer.
-class ExtensionListModel : public QAbstractListModel {
+class ExtensionListModel : public RowListModel<ExtensionListModel, QList<ExtensionStats>> {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tessarine::AnalysisResult result WRITE setResult)
+    Q_PROPERTY(tessarine::AnalysisResult result READ result WRITE setResult NOTIFY rowsChanged)
     Q_PROPERTY(bool showAll READ showAll WRITE setShowAll NOTIFY rowsChanged)
     Q_PROPERTY(int count READ count NOTIFY rowsChanged)
     Q_PROPERTY(int hiddenCount READ hiddenCount NOTIFY rowsChanged)
@@ -31,25 +31,24 @@ public:
     static constexpr int listed = 15;
     static constexpr int shownAtFirst = 10;
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
+    const AnalysisResult& result() const { return m_result; }
     void setResult(const AnalysisResult& result);
     bool showAll() const { return m_showAll; }
     void setShowAll(bool showAll);
     int count() const;
-    int hiddenCount() const { return int(m_extensions.size()) - count(); }
+    int hiddenCount() const { return int(m_rows.size()) - count(); }
     qint64 hiddenSize() const;
 
 signals:
     void rowsChanged();
 
 private:
-    QList<ExtensionStats> m_extensions;
-    qint64 m_totalSize = 0;
+    QVariant rowData(const ExtensionStats& stats, int role) const override;
+    int shownRowCount() const override { return count(); }
+
+    AnalysisResult m_result;
     bool m_showAll = false;
 };
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "charts/geometry/FolderBars.h"
+#include "design/RowListModel.h"
 
-#include <QAbstractListModel>
 #include <QList>
 #include <QtQml/qqmlregistration.h>
 
@@ -10,7 +10,8 @@ namespace tessarine {
 
 // The bars of the "Largest Folders" chart for the tree bound to it, derived once per tree, with
 // the figures of its header, axis and summary line.
-class FolderBarChartModel : public QAbstractListModel {
+class FolderBarChartModel
+    : public RowListModel<FolderBarChartModel, std::vector<const FolderInfo*>> {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessarine::SharedFolderTree tree READ tree WRITE setTree)
@@ -26,26 +27,25 @@ public:
 
     static constexpr qsizetype maxFolders = 15;
 
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    using RowListModel::RowListModel;
 
     const SharedFolderTree& tree() const { return m_tree; }
     void setTree(const SharedFolderTree& tree);
-    int count() const { return static_cast<int>(m_bars.shown.size()); }
-    qint64 folderCount() const { return m_bars.folderCount; }
-    qint64 shownSize() const { return m_bars.shownSize; }
+    int count() const { return rowCount(); }
+    qint64 folderCount() const { return m_folderCount; }
+    qint64 shownSize() const { return m_shownSize; }
     QList<double> axisTicks() const { return m_axisTicks; }
 
 signals:
     void barsChanged();
 
 private:
+    QVariant rowData(const FolderInfo* const& folder, int role) const override;
+
     // Keeps the folders the bars point at alive.
     SharedFolderTree m_tree;
-    FolderBars m_bars;
+    qint64 m_folderCount = 0;
+    qint64 m_shownSize = 0;
     QList<double> m_axisTicks;
 };
 

@@ -50,6 +50,7 @@ Card {
                 symbol: "chevron.left"
                 font: Theme.subheadline
                 padding: 4
+                spacing: 4
                 onClicked: treemapModel.back()
             }
 
@@ -86,6 +87,7 @@ Card {
                                                   : treemapModel.rootName)
 
                 anchors.fill: parent
+                cornerRadius: Theme.radiusMedium
                 cells: treemapModel.cells
                 onDoubleClicked: index => treemapModel.drillDown(index)
                 onHoveredIndexChanged: {

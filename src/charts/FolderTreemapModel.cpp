@@ -122,8 +122,8 @@ void FolderTreemapModel::relayout() {
                     ? layoutNestedTreemap(*folder, QRectF(QPointF(0, 0), m_areaSize))
                     : NestedTreemap();
     m_cells = styledCells();
-    // Whatever was hovered is gone or elsewhere; the pointer's next move finds it again.
-    m_hoveredIndex = -1;
+    // The item showing the cells hovers whatever cell lies under the pointer now and hands its
+    // index back.
     emit cellsChanged();
     emit detailsChanged();
 }

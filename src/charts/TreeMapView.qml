@@ -49,6 +49,7 @@ ChartCard {
             objectName: "categoryTreemapCells"
             Accessible.name: "Categories"
             anchors.fill: parent
+            cornerRadius: Theme.radiusMedium
             cells: treemap.cells
             onClicked: index => card.selection.toggle(treemap.categoryAt(index))
             // A newly hovered cell grows into place rather than jumping.

@@ -3,6 +3,7 @@
 #include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 #include "charts/TreemapNavigation.h"
+#include "design/ColorScheme.h"
 #include "design/Palette.h"
 
 #include <QKeyEvent>
@@ -73,8 +74,7 @@ void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered
 
 // The ring of the design's buttons, drawn inside the cell so that neighbours do not cover it, with
 // a white line inside it so that it shows on a cell of the accent's own colour too.
-void paintFocusRing(QPainter& painter, const TreemapCell& cell) {
-    QColor accent = paletteColor(u"accent");
+void paintFocusRing(QPainter& painter, const TreemapCell& cell, QColor accent) {
     accent.setAlphaF(0.85f);
     painter.setRenderHint(QPainter::Antialiasing, true);
     painter.setBrush(Qt::NoBrush);
@@ -89,6 +89,12 @@ void paintFocusRing(QPainter& painter, const TreemapCell& cell) {
     stroke(Qt::white, 3, 1.5);
 }
 
+bool sameLayout(const QList<TreemapCell>& some, const QList<TreemapCell>& others) {
+    return std::equal(
+        some.begin(), some.end(), others.begin(), others.end(),
+        [](const TreemapCell& one, const TreemapCell& other) { return one.rect == other.rect; });
+}
+
 } // namespace
 
 TreemapCells::TreemapCells(QQuickItem* parent)
@@ -97,16 +103,28 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     setAcceptedMouseButtons(Qt::LeftButton);
     setActiveFocusOnTab(true);
     TreemapCellsAccessible::install();
+    // paint runs on the render thread: the colour scheme is read here, on the GUI thread.
+    const auto takeAccent = [this] {
+        m_accent = paletteColor(u"accent");
+        update();
+    };
+    takeAccent();
+    connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this, takeAccent);
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {
     if (cells == m_cells)
         return;
+    const bool relaidOut = !sameLayout(cells.cells(), m_cells.cells());
     m_cells = cells;
-    // What was under the pointer is another cell now, or none; keys go on from the first cell
-    // (after a drill-down, the first of the new level).
-    setHoveredIndex(showsFocusRing() ? firstCell() : -1);
-    update();
+    // A new style alone (another selection) leaves every cell where it was, so the keys stay on
+    // their cell; a new layout (a drill-down) starts them again from its first cell. The pointer
+    // hovers whatever cell now lies under it.
+    if (showsFocusRing())
+        setHoveredIndex(relaidOut ? firstCell() : m_hoveredIndex);
+    else
+        setHoveredIndex(cellAt(m_pointer.x(), m_pointer.y()));
+    repaintAll();
     emit cellsChanged();
 }
 
@@ -117,6 +135,14 @@ void TreemapCells::setHoverScale(qreal scale) {
     m_hoverScale = scale;
     updateHoveredArea();
     emit hoverScaleChanged();
+}
+
+void TreemapCells::setCornerRadius(qreal radius) {
+    if (qFuzzyCompare(radius, m_cornerRadius))
+        return;
+    m_cornerRadius = radius;
+    repaintAll();
+    emit cornerRadiusChanged();
 }
 
 int TreemapCells::cellAt(qreal x, qreal y) const {
@@ -130,10 +156,19 @@ int TreemapCells::cellAt(qreal x, qreal y) const {
     return -1;
 }
 
+void TreemapCells::repaintAll() {
+    m_repaintsAll = true;
+    update();
+}
+
 void TreemapCells::updateHoveredArea() {
     // An empty area would repaint the whole item.
     if (m_hoveredIndex < 0 || m_hoveredIndex >= m_cells.count())
         return;
+    if (m_repaintsAll) {
+        update();
+        return;
+    }
     const QRectF rect = m_cells.cells()[m_hoveredIndex].rect;
     const qreal scale = std::max(m_hoverScale, 1.0);
     const QSizeF size = rect.size() * scale;
@@ -152,14 +187,15 @@ void TreemapCells::setHoveredIndex(int index) {
     emit hoveredIndexChanged();
 }
 
-void TreemapCells::paint(QPainter* painter) {
+bool TreemapCells::movesWithHovered(qsizetype index) const {
     const QList<TreemapCell>& cells = m_cells.cells();
-    const bool hovering = m_hoveredIndex >= 0 && m_hoveredIndex < cells.size();
-    // The cells after the hovered one that lie inside it are its nested levels: they come to the
-    // front and grow with it.
-    const auto movesWithHovered = [&](qsizetype i) {
-        return hovering && i > m_hoveredIndex && cells[m_hoveredIndex].rect.contains(cells[i].rect);
-    };
+    return m_hoveredIndex >= 0 && m_hoveredIndex < cells.size() && index > m_hoveredIndex &&
+           cells[m_hoveredIndex].rect.contains(cells[index].rect);
+}
+
+void TreemapCells::paint(QPainter* painter) {
+    m_repaintsAll = false;
+    const QList<TreemapCell>& cells = m_cells.cells();
     // A hover change repaints two small areas; the cells outside them are left as they are.
     const QRectF area =
         painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
@@ -168,21 +204,41 @@ void TreemapCells::paint(QPainter* painter) {
         if (i != m_hoveredIndex && cell.rect.intersects(area) && !movesWithHovered(i))
             paintCellWithLabel(*painter, cell, false);
     }
-    if (!hovering)
-        return;
+    if (m_hoveredIndex >= 0 && m_hoveredIndex < cells.size())
+        paintHovered(*painter);
+    cutCorners(*painter);
+}
+
+void TreemapCells::paintHovered(QPainter& painter) const {
+    const QList<TreemapCell>& cells = m_cells.cells();
     const TreemapCell& hovered = cells[m_hoveredIndex];
-    painter->save();
-    painter->translate(hovered.rect.center());
-    painter->scale(m_hoverScale, m_hoverScale);
-    painter->translate(-hovered.rect.center());
-    paintCellWithLabel(*painter, hovered, true);
+    painter.save();
+    painter.translate(hovered.rect.center());
+    painter.scale(m_hoverScale, m_hoverScale);
+    painter.translate(-hovered.rect.center());
+    paintCellWithLabel(painter, hovered, true);
     for (qsizetype i = m_hoveredIndex + 1; i < cells.size(); ++i) {
         if (movesWithHovered(i))
-            paintCellWithLabel(*painter, cells[i], false);
+            paintCellWithLabel(painter, cells[i], false);
     }
     if (showsFocusRing())
-        paintFocusRing(*painter, hovered);
-    painter->restore();
+        paintFocusRing(painter, hovered, m_accent);
+    painter.restore();
+}
+
+void TreemapCells::cutCorners(QPainter& painter) const {
+    if (m_cornerRadius <= 0)
+        return;
+    // Erased after painting rather than clipped before: a clip path has no antialiasing.
+    QPainterPath corners;
+    corners.addRect(boundingRect());
+    QPainterPath rounded;
+    rounded.addRoundedRect(boundingRect(), m_cornerRadius, m_cornerRadius);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, true);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+    painter.fillPath(corners.subtracted(rounded), Qt::black);
+    painter.restore();
 }
 
 void TreemapCells::hoverEnterEvent(QHoverEvent* event) {

@@ -15,8 +15,9 @@ namespace tessarine {
 // Painted rather than built from scene-graph rectangles: the software renderer took 2.9 s for the
 // first frame of 5,765 plain rectangle nodes and 15 s with their borders, and it draws no custom
 // geometry at all, while painting the same cells with rounded corners takes milliseconds. A hover
-// change repaints only the two cells concerned. Screen readers reach each cell as an element of
-// its own (TreemapCellsAccessible), named in the item's Accessible.name.
+// change repaints only the two cells concerned, unless the whole item is due to be repainted.
+// Screen readers reach each cell as an element of its own (TreemapCellsAccessible), named in the
+// item's Accessible.name.
 //
 // The keyboard reaches the cells too: Tab focuses the item, the arrows move the hovered cell
 // (so the details a pointer would show follow the keys), Space clicks it and Return acts as a
@@ -28,6 +29,9 @@ class TreemapCells : public QQuickPaintedItem {
     Q_PROPERTY(tessarine::TreemapCellList cells READ cells WRITE setCells NOTIFY cellsChanged)
     Q_PROPERTY(int hoveredIndex READ hoveredIndex NOTIFY hoveredIndexChanged)
     Q_PROPERTY(qreal hoverScale READ hoverScale WRITE setHoverScale NOTIFY hoverScaleChanged)
+    // The area's own rounded corners, which no cell, hovered and grown or not, paints over.
+    Q_PROPERTY(
+        qreal cornerRadius READ cornerRadius WRITE setCornerRadius NOTIFY cornerRadiusChanged)
 
 public:
     explicit TreemapCells(QQuickItem* parent = nullptr);
@@ -37,6 +41,8 @@ public:
     int hoveredIndex() const { return m_hoveredIndex; }
     qreal hoverScale() const { return m_hoverScale; }
     void setHoverScale(qreal scale);
+    qreal cornerRadius() const { return m_cornerRadius; }
+    void setCornerRadius(qreal radius);
 
     // The index of the topmost cell containing (x, y), or -1.
     Q_INVOKABLE int cellAt(qreal x, qreal y) const;
@@ -47,6 +53,7 @@ signals:
     void cellsChanged();
     void hoveredIndexChanged();
     void hoverScaleChanged();
+    void cornerRadiusChanged();
     void clicked(int index);
     void doubleClicked(int index);
 
@@ -64,6 +71,12 @@ protected:
 private:
     void setHoveredIndex(int index);
     void hoverAt(QPointF position);
+    void repaintAll();
+    // The cells after the hovered one that lie inside it are its nested levels: they come to the
+    // front and grow with it.
+    bool movesWithHovered(qsizetype index) const;
+    void paintHovered(QPainter& painter) const;
+    void cutCorners(QPainter& painter) const;
     // Schedules a repaint of what the hovered cell covers, drawn hovered or not.
     void updateHoveredArea();
     bool showsFocusRing() const;
@@ -73,7 +86,15 @@ private:
     TreemapCellList m_cells;
     int m_hoveredIndex = -1;
     qreal m_hoverScale = 1;
+    qreal m_cornerRadius = 0;
     bool m_keyboardFocus = false;
+    // A repaint of the whole item is due. QQuickPaintedItem merges a full update() and a later
+    // update(rect) of the same frame into that rect alone, so a new set of cells with the pointer
+    // resting over one of them painted only the hovered cell: while this is set, the hovered
+    // area asks for the whole item again.
+    bool m_repaintsAll = true;
+    // The focus ring's colour in the current colour scheme.
+    QColor m_accent;
     // Where the pointer last hovered, in the item's coordinates.
     QPointF m_pointer{-1, -1};
 };

@@ -11,6 +11,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <limits>
 
 namespace tessarine {
 
@@ -56,7 +57,9 @@ void TrendChart::paint(QPainter* painter) {
     const QFontMetricsF metrics(m_font);
 
     const qreal largest = *std::max_element(m_sizes.begin(), m_sizes.begin() + count);
-    const std::vector<qint64> ticks = niceAxisTicks(qint64(largest));
+    // A size held at 2^63 - 1 is 2^63 as a qreal, one past what qint64 holds.
+    const std::vector<qint64> ticks = niceAxisTicks(
+        largest >= 0x1p63 ? std::numeric_limits<qint64>::max() : qint64(std::max(largest, 0.0)));
     const qreal axisEnd = qreal(std::max<qint64>(ticks.back(), 1));
     qreal labelWidth = 0;
     for (qint64 tick : ticks)

@@ -23,6 +23,7 @@ Button {
         text: button.text
         symbol: button.symbol
         font: button.font
+        spacing: button.spacing
         color: button.destructive ? Theme.red : Theme.primary
     }
 

@@ -10,6 +10,8 @@ Item {
     property string symbol
     property color color: Theme.primary
     property font font: Theme.body
+    // Between the symbol and the text.
+    property alias spacing: content.spacing
 
     implicitWidth: content.implicitWidth
     implicitHeight: content.implicitHeight

@@ -64,4 +64,10 @@ struct ScanProgressForeign {
     QML_VALUE_TYPE(scanProgress)
 };
 
+struct ScanOptionsForeign {
+    Q_GADGET
+    QML_FOREIGN(tessarine::ScanOptions)
+    QML_VALUE_TYPE(scanOptions)
+};
+
 } // namespace tessarine::qmlrecords

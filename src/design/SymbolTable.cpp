@@ -99,6 +99,7 @@ const QHash<QString, char16_t>& table() {
         {QStringLiteral("shippingbox"), 0xe1a1},                   // inventory_2
         {QStringLiteral("sidebar.left"), 0xf114},                  // view_sidebar
         {QStringLiteral("speedometer"), 0xe9e4},                   // speed
+        {QStringLiteral("square.and.arrow.down"), 0xe2c4},         // file_download
         {QStringLiteral("square.and.arrow.up"), 0xe6b8},           // ios_share
         {QStringLiteral("square.grid.2x2"), 0xe9b0},               // grid_view
         {QStringLiteral("square.grid.2x2.fill"), 0xe871},          // dashboard

@@ -99,6 +99,26 @@ QHash<QString, ExtensionStats> readExtensionMap(const ObjectReader& in) {
     return extensions;
 }
 
+// Written only when some option is on; a member left out inside it is off.
+ScanOptions readScanOptions(const ObjectReader& result) {
+    if (result.isAbsentOrNull(u"scanOptions"))
+        return {};
+    const ObjectReader in = result.object(u"scanOptions");
+    const auto flag = [&](QStringView name) {
+        return !in.isAbsentOrNull(name) && in.boolean(name);
+    };
+    return {.includeHidden = flag(u"includeHidden"),
+            .oneFileSystem = flag(u"oneFileSystem"),
+            .diskUsage = flag(u"diskUsage")};
+}
+
+ImportSource readImportSource(const ObjectReader& in) {
+    return {.program = in.string(u"program"),
+            .fileName = in.string(u"fileName"),
+            .importDate = in.date(u"importDate"),
+            .unknownFields = in.strings(u"unknownFields")};
+}
+
 AnalysisResult readResult(const ObjectReader& in) {
     return {.id = in.uuid(u"id"),
             .scanDate = in.date(u"scanDate"),
@@ -116,7 +136,11 @@ AnalysisResult readResult(const ObjectReader& in) {
             .insights = in.list(u"insights", readInsight),
             .folderTree = in.isAbsentOrNull(u"folderTree")
                               ? SharedFolderTree()
-                              : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr))};
+                              : SharedFolderTree(readFolder(in.object(u"folderTree"), nullptr)),
+            .scanOptions = readScanOptions(in),
+            .importSource = in.isAbsentOrNull(u"importSource")
+                                ? std::nullopt
+                                : std::optional(readImportSource(in.object(u"importSource")))};
 }
 
 } // namespace

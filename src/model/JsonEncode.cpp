@@ -118,6 +118,16 @@ void writeInsight(JsonWriter& writer, const PatternInsight& insight) {
     writer.endObject();
 }
 
+void writeImportSource(JsonWriter& writer, const ImportSource& source) {
+    writer.beginObject();
+    writer.member(u"fileName", source.fileName);
+    writer.member(u"importDate", formatDate(source.importDate));
+    writer.member(u"program", source.program);
+    writer.key(u"unknownFields");
+    writeStrings(writer, source.unknownFields);
+    writer.endObject();
+}
+
 template <typename Record, typename WriteOne>
 void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeOne) {
     writer.beginArray();
@@ -144,6 +154,10 @@ QByteArray encode(const AnalysisResult& result) {
         writeFolderTree(writer, *result.folderTree);
     }
     writer.member(u"id", result.id);
+    if (result.importSource) {
+        writer.key(u"importSource");
+        writeImportSource(writer, *result.importSource);
+    }
     writer.key(u"insights");
     writeList(writer, result.insights, writeInsight);
     writer.key(u"largestFiles");
@@ -153,6 +167,15 @@ QByteArray encode(const AnalysisResult& result) {
     writer.member(u"rootPath", result.rootPath);
     writer.member(u"scanDate", formatDate(result.scanDate));
     writer.member(u"scanDuration", result.scanDuration);
+    // Left out when every option is off, so that a default result keeps the form it always had.
+    if (!result.scanOptions.isDefault()) {
+        writer.key(u"scanOptions");
+        writer.beginObject();
+        writer.member(u"diskUsage", result.scanOptions.diskUsage);
+        writer.member(u"includeHidden", result.scanOptions.includeHidden);
+        writer.member(u"oneFileSystem", result.scanOptions.oneFileSystem);
+        writer.endObject();
+    }
     writer.member(u"totalSize", result.totalSize);
     writer.endObject();
     return writer.take();

@@ -45,39 +45,62 @@ constexpr std::array<AsciiForm, 0x80> asciiForms = [] {
     return forms;
 }();
 
+constexpr char hexDigits[] = "0123456789abcdef";
+
+char* unicodeEscape(char16_t unit, char* target) {
+    for (const char part : {'\\', 'u', hexDigits[unit >> 12], hexDigits[(unit >> 8) & 0xF],
+                            hexDigits[(unit >> 4) & 0xF], hexDigits[unit & 0xF]})
+        *target++ = part;
+    return target;
+}
+
 // Writes one ASCII character, escaped. Both bytes of the form are stored whatever its length, so
 // that the common characters take no branch.
 char* escapedAscii(char16_t c, char* target) {
     const AsciiForm form = asciiForms[c];
-    if (form.length == 0) {
-        static constexpr char hexDigits[] = "0123456789abcdef";
-        for (const char part : {'\\', 'u', '0', '0', hexDigits[c >> 4], hexDigits[c & 0xF]})
-            *target++ = part;
-        return target;
-    }
+    if (form.length == 0)
+        return unicodeEscape(c, target);
     target[0] = form.first;
     target[1] = form.second;
     return target + form.length;
 }
 
+char* escapedUtf8(QStringView text, char* target) {
+    for (const char byte : text.toUtf8()) {
+        if (uchar(byte) < 0x80)
+            target = escapedAscii(char16_t(byte), target);
+        else
+            *target++ = byte;
+    }
+    return target;
+}
+
+bool isUnpairedSurrogate(const char16_t* unit, const char16_t* begin, const char16_t* end) {
+    if (QChar::isHighSurrogate(*unit))
+        return unit + 1 == end || !QChar::isLowSurrogate(unit[1]);
+    return QChar::isLowSurrogate(*unit) && (unit == begin || !QChar::isHighSurrogate(unit[-1]));
+}
+
 // Writes `text` escaped, as UTF-8. Member names, folder names and paths are nearly always ASCII,
 // whose UTF-16 units are their UTF-8 bytes: those are escaped straight from the string, without
 // a UTF-8 copy of it. The rest, from the first other unit on (never inside a surrogate pair), is
-// converted first. No unit takes more than longestEscape bytes, whichever way it goes.
+// converted first, but for unpaired surrogates, which UTF-8 cannot hold: they stand for bytes of
+// names that are not UTF-8, and go as \udcXX escapes, which read back as they were. No unit
+// takes more than longestEscape bytes, whichever way it goes.
 char* escaped(QStringView text, char* target) {
-    const char16_t* unit = text.utf16();
+    const char16_t* const begin = text.utf16();
+    const char16_t* unit = begin;
     const char16_t* const end = unit + text.size();
     for (; unit != end && *unit < 0x80; ++unit)
         target = escapedAscii(*unit, target);
-    if (unit != end) {
-        for (const char byte : QStringView(unit, end).toUtf8()) {
-            if (uchar(byte) < 0x80)
-                target = escapedAscii(char16_t(byte), target);
-            else
-                *target++ = byte;
-        }
+    const char16_t* run = unit;
+    for (; unit != end; ++unit) {
+        if (!isUnpairedSurrogate(unit, begin, end))
+            continue;
+        target = unicodeEscape(*unit, escapedUtf8(QStringView(run, unit), target));
+        run = unit + 1;
     }
-    return target;
+    return escapedUtf8(QStringView(run, end), target);
 }
 
 } // namespace
@@ -218,6 +241,15 @@ void JsonWriter::write(double value) {
 void JsonWriter::write(bool value) {
     beginValue();
     append(value ? "true" : "false", value ? 4 : 5);
+}
+
+void JsonWriter::write(std::optional<qint64> value) {
+    if (value) {
+        write(*value);
+        return;
+    }
+    beginValue();
+    append("null", 4);
 }
 
 void JsonWriter::write(const QUuid& id) {

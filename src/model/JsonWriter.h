@@ -6,6 +6,7 @@
 #include <QUuid>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace tessarine::json {
@@ -43,6 +44,8 @@ public:
     void write(qint64 value);
     void write(double value);
     void write(bool value);
+    // null when there is no value.
+    void write(std::optional<qint64> value);
     // The canonical 8-4-4-4-12 form in upper case.
     void write(const QUuid& id);
 

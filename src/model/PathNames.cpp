@@ -1,12 +1,15 @@
 #include "model/PathNames.h"
 
+#include "model/PathBytes.h"
+
 #include <QDir>
-#include <QFileInfo>
 
 namespace tessarine {
 
 QString cleanRootPath(const QString& folderPath) {
-    return QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath());
+    if (folderPath.isEmpty() || folderPath.startsWith(u'/'))
+        return QDir::cleanPath(folderPath);
+    return QDir::cleanPath(currentFolderPath() + u'/' + folderPath);
 }
 
 QString parentFolder(QStringView path) {

@@ -6,6 +6,7 @@
 #include "model/FolderPath.h"
 #include "model/InsightType.h"
 #include "model/RecordId.h"
+#include "model/ScanOptions.h"
 
 #include <QDateTime>
 #include <QHash>
@@ -192,6 +193,28 @@ private:
     std::shared_ptr<const FolderInfo> m_tree;
 };
 
+// Where a result that was not scanned here came from: the program that wrote the imported file,
+// the file's name, when it was imported, and which of the result's fields that file could not
+// give (they hold what a scan holds for "unknown": the distant past for a date, 0 for a duration).
+struct ImportSource {
+    Q_GADGET
+    Q_PROPERTY(QString program MEMBER program)
+    Q_PROPERTY(QString fileName MEMBER fileName)
+    Q_PROPERTY(QDateTime importDate MEMBER importDate)
+    Q_PROPERTY(QStringList unknownFields MEMBER unknownFields)
+
+public:
+    QString program;  // "ncdu 1.18", "tessarine-cli 0.1.0"
+    QString fileName; // without its folder; "standard input" for a pipe
+    QDateTime importDate;
+    // Field names: "scanDate", "modificationDate", "scanDuration"; "folderTree" when the tree
+    // stops short of the deepest folders (a stored result is read by JSON readers with a depth
+    // limit), keeping their totals in the folders above.
+    QStringList unknownFields;
+
+    bool operator==(const ImportSource&) const = default;
+};
+
 // One finished scan. Copies are cheap: every list is shared until written, so views take results
 // by value.
 struct AnalysisResult {
@@ -207,6 +230,9 @@ struct AnalysisResult {
     Q_PROPERTY(QString formattedDuration READ formattedDuration)
     Q_PROPERTY(QString folderName READ folderName)
     Q_PROPERTY(tessarine::SharedFolderTree folderTree MEMBER folderTree)
+    Q_PROPERTY(tessarine::ScanOptions scanOptions MEMBER scanOptions)
+    Q_PROPERTY(bool isImported READ isImported)
+    Q_PROPERTY(tessarine::ImportSource importSource READ importSourceOrNone)
 
 public:
     QUuid id = makeRecordId();
@@ -224,6 +250,8 @@ public:
     QHash<QString, ExtensionStats> extensionStats; // keyed by ExtensionStats::ext
     QList<PatternInsight> insights;
     SharedFolderTree folderTree;
+    ScanOptions scanOptions; // what the scan was made with
+    std::optional<ImportSource> importSource; // only in results read from another program's file
 
     // The extension entries, largest totalSize first.
     QList<ExtensionStats> sortedExtensions() const;
@@ -234,6 +262,8 @@ public:
     // The last component of rootPath as the sidebar and the history show it: empty for the root
     // folder, which names itself elsewhere, and "Unknown" without a path.
     QString folderName() const;
+    bool isImported() const { return importSource.has_value(); }
+    ImportSource importSourceOrNone() const { return importSource.value_or(ImportSource()); }
 
     bool operator==(const AnalysisResult&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "model/TerminalText.h"
 
+#include "model/PathBytes.h"
+
 #include <algorithm>
 
 namespace tessarine {
@@ -9,7 +11,7 @@ QString escapeControlCharacters(const QString& text) {
         return character.category() == QChar::Other_Control;
     };
     if (std::none_of(text.begin(), text.end(), isControl))
-        return text;
+        return pathForDisplay(text);
     QString escaped;
     escaped.reserve(text.size() + 8);
     for (const QChar character : text) {
@@ -26,7 +28,7 @@ QString escapeControlCharacters(const QString& text) {
                 QStringLiteral("\\x") +
                 QString::number(character.unicode(), 16).toUpper().rightJustified(2, u'0'));
     }
-    return escaped;
+    return pathForDisplay(escaped);
 }
 
 } // namespace tessarine

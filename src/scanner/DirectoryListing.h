@@ -42,6 +42,7 @@ public:
 
 private:
     friend class DirectoryWalker;
+    friend class NcduListingReader;
 
     QByteArray m_rootPath;
     std::vector<ListingArena> m_arenas;

@@ -40,9 +40,13 @@ qint64 modifiedMsecs(const struct stat& status) {
 
 } // namespace
 
-DirectoryReader::DirectoryReader(ListingArena& arena, ListingDetail detail)
+DirectoryReader::DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail,
+                                 ScanOptions options, dev_t rootDevice)
     : m_arena(arena)
+    , m_claims(claims)
     , m_detail(detail)
+    , m_options(options)
+    , m_rootDevice(rootDevice)
     , m_buffer(
           std::make_unique_for_overwrite<std::uint64_t[]>(bufferBytes / sizeof(std::uint64_t))) {}
 
@@ -50,7 +54,8 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                                                         const std::atomic<bool>& cancelled) {
     m_entries.clear();
     m_subfolders.clear();
-    m_folderLinks.clear();
+    m_linkedNames.clear();
+    m_position = 0;
     m_folderCount = 0;
     qint64 summedCount = 0;
     qint64 summedSize = 0;
@@ -64,23 +69,25 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             const char* name = bytes + at + offsetof(KernelDirent, name);
             at += record->recordLength;
             const QByteArrayView nameView(name, qsizetype(std::strlen(name)));
-            if (isHiddenName(nameView))
-                continue; // also drops "." and ".."
+            if (isLeftOut(nameView))
+                continue;
             const ListedEntry entry = describe(fd, folder, nameView, record->type);
+            ++m_position;
             const std::optional<qint64> size = entry.ownSize();
-            if (m_detail.summedFiles && size && !entry.isHardLinked()) {
+            if (m_detail.summedFiles && size) {
                 ++summedCount;
-                addSaturating(summedSize, *size);
+                // A name of a file with several names gets its size only if it is the first.
+                if (!entry.isHardLinked())
+                    addSaturating(summedSize, *size);
                 continue;
             }
             m_entries.push_back(entry);
             m_folderCount += entry.isFolder();
         }
     }
-    const std::span<ListedEntry> kept = m_arena.copyArray(std::span<const ListedEntry>(m_entries));
-    folder.setEntries(kept, summedCount, summedSize);
-    for (const auto& [index, identity] : m_folderLinks)
-        m_hardLinks.push_back({&kept[index], identity});
+    folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
+                      summedSize);
+    m_claims.claim(folder, m_linkedNames);
     return m_subfolders;
 }
 
@@ -90,8 +97,9 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
                                       unsigned char type) {
     // The entry type from the listing settles folders, and links whose size is not wanted, without
     // a stat; everything else, and file systems that report no type, need one for size, date and
-    // kind.
-    if (type == DT_DIR)
+    // kind. A walk that stays on one file system needs each folder's device too: one stat per
+    // folder, none more per file.
+    if (type == DT_DIR && !m_options.oneFileSystem)
         return describeFolder(folder, m_arena.copyName(name));
     if (type == DT_LNK && !m_detail.linkSizes)
         return ListedEntry::unsized(m_arena.copyName(name), EntryKind::symlink);
@@ -99,29 +107,49 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
     if (fstatat(fd, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return ListedEntry::unsized(m_arena.copyName(name), EntryKind::unreadable);
     if (S_ISDIR(status.st_mode))
-        return describeFolder(folder, m_arena.copyName(name));
+        return describeFolder(folder, m_arena.copyName(name),
+                              !m_options.oneFileSystem || status.st_dev == m_rootDevice);
     // A summed entry is dropped right after: its name would only take space.
     const QByteArrayView storedName =
         m_detail.summedFiles ? QByteArrayView() : m_arena.copyName(name);
     ListedEntry entry =
         S_ISLNK(status.st_mode) // the stat is made anyway, so its size is kept
-            ? ListedEntry::link(storedName, qint64(status.st_size))
+            ? ListedEntry::link(storedName, countedSize(status))
             : ListedEntry::sized(storedName,
                                  S_ISREG(status.st_mode) ? EntryKind::file : EntryKind::special,
-                                 qint64(status.st_size), modifiedMsecs(status));
+                                 countedSize(status), modifiedMsecs(status));
     if (status.st_nlink > 1) {
         entry.markHardLinked();
-        // The caller keeps it next, at this index: a file with several names is never summed.
-        m_folderLinks.push_back({m_entries.size(), {status.st_dev, status.st_ino}});
+        m_linkedNames.push_back({{status.st_dev, status.st_ino}, m_position, *entry.ownSize()});
     }
     return entry;
 }
 
-ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name) {
+// "." and ".." are never entries of their own; other hidden names only unless asked for.
+bool DirectoryReader::isLeftOut(QByteArrayView name) const {
+    return m_options.includeHidden ? isSelfOrParentName(name) : isHiddenName(name);
+}
+
+// As du counts without --apparent-size when asked: a sparse file takes only what it occupies.
+qint64 DirectoryReader::countedSize(const struct stat& status) const {
+    if (!m_options.diskUsage)
+        return qint64(status.st_size);
+    constexpr qint64 blockBytes = 512; // st_blocks is in these units, whatever the file system
+    constexpr qint64 mostBlocks = std::numeric_limits<qint64>::max() / blockBytes;
+    return std::min<qint64>(status.st_blocks, mostBlocks) * blockBytes;
+}
+
+ListedEntry DirectoryReader::describeFolder(ListedDirectory& folder, QByteArrayView name,
+                                            bool enter) {
     if (isPackageName(name))
         return ListedEntry::unsized(name, EntryKind::package);
-    auto* contents = m_arena.make<ListedDirectory>(&folder, name);
-    m_subfolders.push_back(contents);
+    auto* contents = m_arena.make<ListedDirectory>(&folder, name, m_position);
+    // Not entered, a mount point still counts as a folder in the scan, as an empty one in the
+    // tree: what du -x and find -xdev make of it.
+    if (enter)
+        m_subfolders.push_back(contents);
+    else
+        contents->markOnOtherFileSystem();
     return ListedEntry::folder(name, contents);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ScanOptions.h"
 #include "scanner/DirectoryListing.h"
 #include "scanner/HardLinks.h"
 #include "scanner/ListedDirectory.h"
@@ -8,6 +9,7 @@
 #include <atomic>
 #include <memory>
 #include <span>
+#include <sys/stat.h>
 #include <vector>
 
 namespace tessarine {
@@ -17,7 +19,11 @@ namespace tessarine {
 // owns a large getdents buffer and scratch space reused for every folder.
 class DirectoryReader {
 public:
-    explicit DirectoryReader(ListingArena& arena, ListingDetail detail = {});
+    // Hands every name of a file with several names to `claims`, which settles its size.
+    // `rootDevice` is the scanned folder's, which folders must share when the options keep the
+    // walk on one file system.
+    DirectoryReader(ListingArena& arena, HardLinkClaims& claims, ListingDetail detail = {},
+                    ScanOptions options = {}, dev_t rootDevice = 0);
 
     // Fills `folder` with the visible entries of the folder open as `fd` (the descriptor stays
     // open). Returns the new sub-folders to descend into, in listing order; packages are not
@@ -27,21 +33,24 @@ public:
 
     // Of the entries of the last folder read: folders (directories and packages).
     qint64 lastFolderCount() const { return m_folderCount; }
-    // The entries with several names among all folders this reader has read. A file with several
-    // names is always listed, never summed, so its size can be counted once in listing order.
-    std::vector<HardLinkedEntry>& hardLinks() { return m_hardLinks; }
 
 private:
     ListedEntry describe(int fd, ListedDirectory& folder, QByteArrayView name, unsigned char type);
-    ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name);
+    // `enter` false: the folder is on another file system and the walk stays on the root's.
+    ListedEntry describeFolder(ListedDirectory& folder, QByteArrayView name, bool enter = true);
+    bool isLeftOut(QByteArrayView name) const;
+    qint64 countedSize(const struct stat& status) const;
 
     ListingArena& m_arena;
+    HardLinkClaims& m_claims;
     const ListingDetail m_detail;
+    const ScanOptions m_options;
+    const dev_t m_rootDevice;
     std::unique_ptr<std::uint64_t[]> m_buffer;
     std::vector<ListedEntry> m_entries;
     std::vector<ListedDirectory*> m_subfolders;
-    std::vector<std::pair<std::size_t, FileIdentity>> m_folderLinks; // by index in m_entries
-    std::vector<HardLinkedEntry> m_hardLinks;
+    std::vector<LinkedName> m_linkedNames; // of the folder being read, claimed once it is listed
+    quint32 m_position = 0; // of the entry being described, among the folder's visible ones
     qint64 m_folderCount = 0;
 };
 

@@ -2,8 +2,9 @@
 
 #include "scanner/DirectoryReader.h"
 #include "scanner/HardLinks.h"
+#include "scanner/PathAccess.h"
 
-#include <QFile>
+#include "model/PathBytes.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -12,6 +13,7 @@
 #include <mutex>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -75,7 +77,6 @@ struct WalkOutcome {
     qint64 items;
     qint64 folders;
     bool cancelled;
-    std::vector<HardLinkedEntry> hardLinks;
 };
 
 struct PendingFolder {
@@ -87,7 +88,7 @@ struct PendingFolder {
 class WalkSession {
 public:
     WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath, int rootFd,
-                int threadCount);
+                dev_t rootDevice, int threadCount);
     ~WalkSession();
 
     WalkOutcome run();
@@ -111,13 +112,14 @@ private:
     std::vector<ListingArena> m_arenas;
     ListedDirectory* m_root;
     const int m_rootFd;
+    const dev_t m_rootDevice;
     const int m_heldLimit;
+    HardLinkClaims m_hardLinks;
 
     std::mutex m_mutex;
     std::condition_variable m_workAvailable;
     std::condition_variable m_finished;
-    std::vector<PendingFolder> m_stack;       // LIFO keeps the walk depth-first
-    std::vector<HardLinkedEntry> m_hardLinks; // of every reader, once it is done
+    std::vector<PendingFolder> m_stack; // LIFO keeps the walk depth-first
     int m_busyWorkers = 0;
     int m_idleWorkers = 0; // waiting for a folder
     bool m_done = false;
@@ -138,15 +140,17 @@ private:
 };
 
 WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
-                         int rootFd, int threadCount)
+                         int rootFd, dev_t rootDevice, int threadCount)
     : m_options(options)
     , m_cancelled(options.cancelled ? options.cancelled : &m_neverCancelled)
     , m_rootPath(rootPath)
     , m_arenas(std::size_t(threadCount))
     , m_root(m_arenas.front().make<ListedDirectory>(nullptr, QByteArrayView()))
     , m_rootFd(rootFd)
+    , m_rootDevice(rootDevice)
     , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
                                                  : std::max(16, raiseOpenFileLimit() / 2))
+    , m_hardLinks(options.detail.summedFiles)
     , m_listing(new std::atomic<const ListedDirectory*>[std::size_t(threadCount)] {})
     , m_watched(std::size_t(threadCount)) {
     m_stack.push_back({m_root, nullptr});
@@ -186,11 +190,13 @@ WalkOutcome WalkSession::run() {
     // A cancelled walk leaves folders that nobody will open; let go of their parents.
     for (const PendingFolder& pending : m_stack)
         release(pending.parent);
-    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled(), std::move(m_hardLinks)};
+    m_hardLinks.settle();
+    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
 }
 
 void WalkSession::work(std::size_t worker) {
-    DirectoryReader reader(m_arenas[worker], m_options.detail);
+    DirectoryReader reader(m_arenas[worker], m_hardLinks, m_options.detail, m_options.scanOptions,
+                           m_rootDevice);
     while (const std::optional<PendingFolder> pending = take()) {
         m_listing[worker].store(pending->folder, std::memory_order_release);
         listFolder(reader, *pending);
@@ -202,8 +208,6 @@ void WalkSession::work(std::size_t worker) {
             m_finished.notify_all();
         }
     }
-    std::lock_guard lock(m_mutex);
-    m_hardLinks.insert(m_hardLinks.end(), reader.hardLinks().begin(), reader.hardLinks().end());
 }
 
 std::optional<PendingFolder> WalkSession::take() {
@@ -330,21 +334,27 @@ void DirectoryWalker::setExtraThreadsYield(bool yield) {
 }
 
 DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
-    const QByteArray encodedRoot = QFile::encodeName(rootPath);
+    const QByteArray encodedRoot = pathToBytes(rootPath);
     // The root is the one path followed even when it is a symbolic link: the user chose it.
     DirectoryListing listing;
     listing.m_rootPath = encodedRoot;
-    const int rootFd = ::open(encodedRoot.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int rootFd = openFolder(encodedRoot);
     if (rootFd < 0)
         return listing;
+    // One stat per walk, and only when the walk is to stay on the root's file system.
+    struct stat rootStatus {};
+    if (m_options.scanOptions.oneFileSystem && fstat(rootFd, &rootStatus) != 0) {
+        close(rootFd);
+        return listing;
+    }
     const int threads = m_options.threadCount > 0 ? m_options.threadCount : defaultThreadCount();
-    WalkOutcome outcome = WalkSession(m_options, encodedRoot, rootFd, threads).run();
+    WalkOutcome outcome =
+        WalkSession(m_options, encodedRoot, rootFd, rootStatus.st_dev, threads).run();
     listing.m_arenas = std::move(outcome.arenas);
     listing.m_root = outcome.root;
     listing.m_itemCount = outcome.items;
     listing.m_folderCount = outcome.folders;
     listing.m_cancelled = outcome.cancelled;
-    countHardLinkedFilesOnce(listing, outcome.hardLinks);
     return listing;
 }
 

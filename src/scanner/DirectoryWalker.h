@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/ScanOptions.h"
 #include "scanner/DirectoryListing.h"
 
 #include <QByteArray>
@@ -25,9 +26,9 @@ struct WalkProgress {
 //
 // Hidden entries (and all below them) are left out, package folders are listed as one entry
 // without their contents, symbolic links are never followed (the root itself may be one), mount
-// points are crossed. Folders are opened relative to their parent's descriptor, so depth is not
-// limited by PATH_MAX; the result does not depend on thread scheduling: every folder's entries
-// are kept in the order the file system listed them.
+// points are crossed: unless the scan options say otherwise. Folders are opened relative to their
+// parent's descriptor, so depth is not limited by PATH_MAX; the result does not depend on thread
+// scheduling: every folder's entries are kept in the order the file system listed them.
 class DirectoryWalker {
 public:
     // Listing a folder takes milliseconds even from a slow disk; a folder still being listed after
@@ -43,6 +44,7 @@ public:
         // the process's open-file limit (whose soft value the walker raises to the hard one).
         int maxHeldDescriptors = 0;
         ListingDetail detail;
+        ScanOptions scanOptions;
         std::chrono::milliseconds progressInterval{120};
         // Called on the thread that runs walk(), about once per progressInterval.
         std::function<void(const WalkProgress&)> onProgress;

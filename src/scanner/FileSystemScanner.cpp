@@ -1,12 +1,13 @@
 #include "scanner/FileSystemScanner.h"
 
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "scanner/DirectoryWalker.h"
+#include "scanner/FolderSizeTally.h"
 #include "scanner/ListingAnalysis.h"
 #include "scanner/ScanAggregator.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 
 #include <chrono>
 
@@ -47,10 +48,15 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath, CancelToken task)
     ScanProgress first = snapshot(ScanPhase::analyzing, startTime);
     first.estimatedTotalFiles = listing.itemCount();
     publish(first);
-    if (!analyse(listing, aggregator, first, task)) {
+    std::optional<FolderSizeTally> folderSizes;
+    if (m_keepsFolderSizes)
+        folderSizes.emplace();
+    if (!analyse(listing, aggregator, folderSizes ? &*folderSizes : nullptr, first, task)) {
         publishPhase(ScanPhase::cancelled);
         return ScanError{ScanError::Kind::cancelled, QString()};
     }
+    if (folderSizes)
+        m_folderSizes = folderSizes->finish();
 
     publishPhase(ScanPhase::finalizing);
     AnalysisResult result = aggregator.finish();
@@ -59,6 +65,7 @@ ScanOutcome FileSystemScanner::scan(const QString& folderPath, CancelToken task)
     result.scanDate = QDateTime::currentDateTimeUtc();
     result.rootPath = rootPath;
     result.rootName = lastPathComponent(rootPath);
+    result.scanOptions = m_options;
     return result;
 }
 
@@ -67,6 +74,7 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
     auto lastPublish = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
     options.cancelled = &task.flag();
+    options.scanOptions = m_options;
     options.progressInterval = discoveryPublishInterval;
     options.onProgress = [&](const WalkProgress& walk) {
         // Before the first folder is listed there is no path to show and nothing counted yet,
@@ -79,7 +87,7 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
         progress.filesScanned = walk.items - walk.folders;
         progress.foldersScanned = walk.folders;
         progress.currentPath =
-            QFile::decodeName(waiting ? walk.unansweredFolderPath : walk.recentFolderPath);
+            pathFromBytes(waiting ? walk.unansweredFolderPath : walk.recentFolderPath);
         if (waiting)
             progress.unansweredFolder = progress.currentPath;
         publish(std::move(progress));
@@ -89,7 +97,8 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
 }
 
 bool FileSystemScanner::analyse(const DirectoryListing& listing, ScanAggregator& aggregator,
-                                const ScanProgress& first, const CancelToken& task) {
+                                FolderSizeTally* folderSizes, const ScanProgress& first,
+                                const CancelToken& task) {
     ListingAnalysis analysis(aggregator, task.flag(), progressUpdateInterval,
                              [&](const QString& itemPath) {
                                  ScanProgress progress = first;
@@ -99,6 +108,8 @@ bool FileSystemScanner::analyse(const DirectoryListing& listing, ScanAggregator&
                                  progress.currentPath = itemPath;
                                  publish(std::move(progress));
                              });
+    if (folderSizes)
+        analysis.tallyFolderSizes(*folderSizes);
     return analysis.fold(listing);
 }
 

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "model/CancelToken.h"
+#include "model/FolderSizes.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "model/ScanProgress.h"
 #include "scanner/ScanError.h"
 
@@ -15,6 +17,7 @@
 namespace tessarine {
 
 class DirectoryListing;
+class FolderSizeTally;
 class ScanAggregator;
 
 using ScanOutcome = std::variant<AnalysisResult, ScanError>;
@@ -28,7 +31,8 @@ public:
     // The analysis pass publishes a snapshot every this many analysed items.
     static constexpr qint64 progressUpdateInterval = 100;
 
-    FileSystemScanner() = default;
+    explicit FileSystemScanner(ScanOptions options = {})
+        : m_options(options) {}
     FileSystemScanner(const FileSystemScanner&) = delete;
     FileSystemScanner& operator=(const FileSystemScanner&) = delete;
 
@@ -49,22 +53,32 @@ public:
     using ProgressObserver = std::function<void(const ScanProgress&)>;
     void setProgressObserver(ProgressObserver observer) { m_observer = std::move(observer); }
 
+    // Whether scan() also sums every folder's size, for a scan that is saved (on unless set off
+    // before scan() starts). The sums are made in the analysis pass, so they cost no extra walk.
+    void setKeepsFolderSizes(bool keeps) { m_keepsFolderSizes = keeps; }
+    // The folder sizes of a finished scan that kept them; null otherwise. Read it on the thread
+    // that ran scan(), or after handing over the result.
+    const FolderSizes* folderSizes() const { return m_folderSizes ? &*m_folderSizes : nullptr; }
+
 private:
     DirectoryListing discover(const QString& rootPath, const QDateTime& startTime,
                               const CancelToken& task);
     // False when cancelled. `first` is the opening snapshot of the pass.
     bool analyse(const DirectoryListing& listing, ScanAggregator& aggregator,
-                 const ScanProgress& first, const CancelToken& task);
+                 FolderSizeTally* folderSizes, const ScanProgress& first, const CancelToken& task);
     void publish(ScanProgress progress);
     // Publishes the last snapshot again, in another phase.
     void publishPhase(ScanPhase phase);
 
+    const ScanOptions m_options;
     mutable std::mutex m_mutex;
     std::optional<ScanProgress> m_progress; // guarded by m_mutex
     // The running scan's task, for cancel(); guarded by m_mutex. The walker threads and the
     // analysis poll the task's own flag, not this member.
     CancelToken m_task;
     ProgressObserver m_observer;
+    bool m_keepsFolderSizes = true;
+    std::optional<FolderSizes> m_folderSizes;
 };
 
 } // namespace tessarine

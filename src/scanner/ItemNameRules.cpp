@@ -9,6 +9,10 @@ bool isHiddenName(QByteArrayView name) {
     return name.startsWith('.');
 }
 
+bool isSelfOrParentName(QByteArrayView name) {
+    return name == "." || name == "..";
+}
+
 bool isPackageName(QByteArrayView name) {
     static constexpr std::array<QByteArrayView, 7> suffixes{
         ".app", ".bundle", ".framework", ".kext", ".plugin", ".appex", ".xpc"};

@@ -7,6 +7,9 @@ namespace tessarine {
 // Names starting with "." are hidden: left out together with everything below them.
 bool isHiddenName(QByteArrayView name);
 
+// "." and "..": the folder itself and its parent, never entries of their own.
+bool isSelfOrParentName(QByteArrayView name);
+
 // A folder whose name ends (in any letter case) in a bundle extension such as ".app" is a package:
 // it counts as one folder and its contents are never listed, the same on every platform so that
 // results from different machines compare.

@@ -1,5 +1,7 @@
 #include "scanner/ListedDirectory.h"
 
+#include "model/SaturatingSum.h"
+
 #include <vector>
 
 namespace tessarine {
@@ -21,6 +23,10 @@ void ListedDirectory::setEntries(std::span<ListedEntry> entries, qint64 summedCo
     m_summedCount = summedCount;
     m_summedSize = summedSize;
     m_state = State::listed;
+}
+
+void ListedDirectory::addSummedSize(qint64 size) {
+    addSaturating(m_summedSize, size);
 }
 
 void appendPathComponent(QByteArray& path, QByteArrayView component) {

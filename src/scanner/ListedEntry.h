@@ -38,7 +38,8 @@ public:
     EntryKind kind() const { return m_kind; }
     bool isFolder() const { return m_kind == EntryKind::directory || m_kind == EntryKind::package; }
     bool isSized() const { return m_kind == EntryKind::file || m_kind == EntryKind::special; }
-    // Logical size (st_size) of a file or special file; 0 for everything else.
+    // Counted size of a file or special file (st_size, or its blocks when the scan counts disk
+    // usage); 0 for everything else.
     qint64 size() const { return isSized() ? m_payload.sized.size : 0; }
     // What the file system gives as the size of the entry itself, not followed: size() for a
     // file or special file, the link's own size for a symbolic link made by link(); none for
@@ -53,7 +54,7 @@ public:
         return isSized() ? m_payload.sized.modifiedMsecs : unknownModificationTime;
     }
     // Whether the file has other names (st_nlink > 1), here or elsewhere. Its size counts once per
-    // listing, at its first name in listing order: see countHardLinkedFilesOnce.
+    // listing, at its first name in listing order: see HardLinkClaims.
     bool isHardLinked() const { return m_hardLinked; }
     void markHardLinked() { m_hardLinked = true; }
     // A later name of a file already counted: it stays listed, with no size of its own.

@@ -1,17 +1,14 @@
 #include "scanner/ListingAnalysis.h"
 
+#include "scanner/FolderSizeTally.h"
 #include "scanner/ItemNameRules.h"
 #include "scanner/ListingCursor.h"
 
-#include <QFile>
+#include "model/PathBytes.h"
 
 namespace tessarine {
 
 namespace {
-
-QString decodedName(QByteArrayView bytes) {
-    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
-}
 
 QDateTime modificationDate(const ListedEntry& entry) {
     return entry.modifiedMsecs() == ListedEntry::unknownModificationTime
@@ -36,12 +33,15 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
         const ListedEntry& entry = cursor.entry();
         if (entry.kind() == EntryKind::symlink || entry.kind() == EntryKind::unreadable)
             continue;
-        if (entry.isFolder())
+        if (entry.isFolder()) {
             m_aggregator.addFolder(cursor.depth());
-        else
+            if (m_folderSizes)
+                m_folderSizes->addFolder(cursor.depth(), entry.name());
+        } else {
             foldFile(cursor);
+        }
         if (++processed % m_interval == 0 && m_onInterval)
-            m_onInterval(QFile::decodeName(cursor.entryPath()));
+            m_onInterval(pathFromBytes(cursor.entryPath()));
     }
     return true;
 }
@@ -49,10 +49,12 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
 void ListingAnalysis::foldFile(const ListingCursor& cursor) {
     const ListedEntry& entry = cursor.entry();
     ExtensionTally& ext = tallyFor(pathExtension(entry.name()));
+    if (m_folderSizes)
+        m_folderSizes->addFile(cursor.depth(), entry.size());
     m_aggregator.addFile(entry.size(), cursor.depth(), ext, ext.category, [&] {
         FileInfo record;
-        record.path = QFile::decodeName(cursor.entryPath());
-        record.name = decodedName(entry.name());
+        record.path = pathFromBytes(cursor.entryPath());
+        record.name = pathFromBytes(entry.name());
         record.size = entry.size();
         record.fileExtension = ext.ext;
         record.category = ext.category;
@@ -75,7 +77,7 @@ ExtensionTally& ListingAnalysis::tallyFor(QByteArrayView rawExtension) {
     const std::string_view bytes(rawExtension.data(), std::size_t(rawExtension.size()));
     if (const auto known = m_tallies.find(bytes); known != m_tallies.end())
         return *known->second;
-    const QString ext = decodedName(rawExtension).toLower();
+    const QString ext = pathFromBytes(rawExtension).toLower();
     ExtensionTally& made = m_aggregator.tally(ext, categoryForExtension(ext));
     m_tallies.emplace(std::string(bytes), &made);
     return made;

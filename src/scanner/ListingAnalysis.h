@@ -13,6 +13,7 @@
 
 namespace tessarine {
 
+class FolderSizeTally;
 class ListingCursor;
 
 // The analysis pass of a scan: folds every item of a finished listing into an aggregator, in
@@ -28,6 +29,9 @@ public:
     ListingAnalysis(ScanAggregator& aggregator, const std::atomic<bool>& cancelled, qint64 interval,
                     IntervalCallback onInterval);
 
+    // Also sums every folder's size into `tally` as the items pass by.
+    void tallyFolderSizes(FolderSizeTally& tally) { m_folderSizes = &tally; }
+
     // Returns false, leaving the aggregator part-filled, when `cancelled` turned true.
     bool fold(const DirectoryListing& listing);
 
@@ -39,6 +43,7 @@ private:
     const std::atomic<bool>& m_cancelled;
     const qint64 m_interval;
     IntervalCallback m_onInterval;
+    FolderSizeTally* m_folderSizes = nullptr;
     // Raw extension bytes (as named on disk) to their tally: each distinct spelling is decoded,
     // lowercased and categorised once, not once per file. Looked up by a view of the name, so a
     // file costs one short hash and no copy.

@@ -5,9 +5,11 @@ import Tessarine.App
 // window of the application, as menu commands do.
 Item {
     signal helpRequested
+    signal settingsRequested
     // The menu's "Close Window": the menu is the main window's, so it closes that window.
     signal closeWindowRequested
     signal quitRequested
+    signal importRequested
 
     function newScan() {
         AppState.showFolderPicker = true
@@ -24,6 +26,12 @@ Item {
     }
 
     Shortcut {
+        sequence: "Ctrl+I"
+        context: Qt.ApplicationShortcut
+        onActivated: importRequested()
+    }
+
+    Shortcut {
         sequence: "Ctrl+Shift+H"
         context: Qt.ApplicationShortcut
         onActivated: viewHistory()
@@ -34,6 +42,12 @@ Item {
         sequences: ["Ctrl+?", "Ctrl+Shift+?"]
         context: Qt.ApplicationShortcut
         onActivated: helpRequested()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+        context: Qt.ApplicationShortcut
+        onActivated: settingsRequested()
     }
 
     Shortcut {

@@ -22,9 +22,19 @@ MenuBar {
             onTriggered: bar.commands.newScan()
         }
         AppMenuItem {
+            text: "&Import Scan..."
+            shortcutText: "Ctrl+I"
+            onTriggered: bar.commands.importRequested()
+        }
+        AppMenuItem {
             text: "&View History"
             shortcutText: "Ctrl+Shift+H"
             onTriggered: bar.commands.viewHistory()
+        }
+        AppMenuItem {
+            text: "&Settings…"
+            shortcutText: "Ctrl+,"
+            onTriggered: bar.commands.settingsRequested()
         }
         MenuSeparator {}
         AppMenuItem {

@@ -52,6 +52,19 @@ Item {
         onVisibleChanged: if (!visible) AppState.showFolderPicker = false
     }
 
+    // Scans made elsewhere: ncdu's export (ncdu -o) or a result of tessarine-cli scan.
+    FileDialog {
+        id: importPicker
+        objectName: "importPicker"
+        title: "Import a scan"
+        nameFilters: ["Scans (*.json)", "All files (*)"]
+        onAccepted: AppState.importScan(selectedFile)
+    }
+
+    function openImportPicker() {
+        importPicker.open()
+    }
+
     Connections {
         target: AppState
         function onShowFolderPickerChanged() {

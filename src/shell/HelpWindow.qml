@@ -7,6 +7,9 @@ Window {
     id: help
 
     function showHelp() {
+        // Opened anew, help starts again from its first section.
+        if (!visible)
+            view.selectedSection = 0
         show()
         raise()
         requestActivate()
@@ -24,6 +27,7 @@ Window {
     }
 
     HelpView {
+        id: view
         anchors.fill: parent
     }
 }

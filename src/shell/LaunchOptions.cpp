@@ -1,6 +1,7 @@
 #include "LaunchOptions.h"
 
 #include "ReleaseInfo.h"
+#include "model/PathBytes.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -25,7 +26,7 @@ QString absoluteFolder(const QString& argument, const QString& workingDirectory)
     if (argument.isEmpty())
         return argument;
     if (argument.startsWith(u"file://"))
-        return QUrl(argument).toLocalFile();
+        return pathFromUrl(QUrl(argument));
     return QDir::cleanPath(QDir(workingDirectory).absoluteFilePath(argument));
 }
 

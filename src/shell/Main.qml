@@ -35,9 +35,11 @@ ApplicationWindow {
     AppCommands {
         id: commands
         onHelpRequested: helpWindow.showHelp()
+        onSettingsRequested: settingsWindow.showSettings()
         onCloseWindowRequested: window.close()
         // The engine hands the request to the application, which ends once the event loop turns.
         onQuitRequested: Qt.quit()
+        onImportRequested: contentView.openImportPicker()
     }
 
     // Closes this window while it has the keyboard; the help window has its own.
@@ -47,6 +49,7 @@ ApplicationWindow {
     }
 
     ContentView {
+        id: contentView
         anchors.fill: parent
     }
 
@@ -55,5 +58,10 @@ ApplicationWindow {
     HelpWindow {
         id: helpWindow
         objectName: "helpWindow"
+    }
+
+    SettingsWindow {
+        id: settingsWindow
+        objectName: "settingsWindow"
     }
 }

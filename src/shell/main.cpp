@@ -1,4 +1,5 @@
 #include "app/AppState.h"
+#include "model/PathBytes.h"
 #include "model/WorkerThread.h"
 #include "shell/LaunchOptions.h"
 #include "shell/ShellEngine.h"
@@ -6,7 +7,6 @@
 
 #include "ReleaseInfo.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 
@@ -22,19 +22,13 @@ int finishWithoutWindow(const LaunchOptions& launch) {
     return printed ? 0 : 2;
 }
 
-QStringList argumentsOf(int argc, char* argv[]) {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    return arguments;
-}
-
 } // namespace
 
 int main(int argc, char* argv[]) {
     // Help and version are answered before the platform starts, so they work without a display.
     // Anything else is read once the application has taken its own options (-platform, ...).
-    const LaunchOptions early = tessarine::parseLaunchArguments(argumentsOf(argc, argv), {});
+    const LaunchOptions early =
+        tessarine::parseLaunchArguments(tessarine::argumentsFromBytes(argc, argv), {});
     if (early.action == LaunchOptions::Action::PrintAndExit)
         return finishWithoutWindow(early);
 
@@ -44,8 +38,10 @@ int main(int argc, char* argv[]) {
     QGuiApplication::setApplicationVersion(QString::fromLatin1(tessarine::versionText));
     // Lets the desktop match the window with its launcher entry and icon.
     QGuiApplication::setDesktopFileName(QString::fromLatin1(tessarine::applicationId));
-    const LaunchOptions launch =
-        tessarine::parseLaunchArguments(QCoreApplication::arguments(), QDir::currentPath());
+    // The platform has taken its own options out of argv by now. Not QCoreApplication::arguments(),
+    // which loses the bytes of a folder name that is not UTF-8.
+    const LaunchOptions launch = tessarine::parseLaunchArguments(
+        tessarine::argumentsFromBytes(argc, argv), tessarine::currentFolderPath());
     if (launch.action != LaunchOptions::Action::OpenWindow)
         return finishWithoutWindow(launch);
     tessarine::prepareShell();

@@ -3,7 +3,7 @@
 #include "model/Json.h"
 #include "storage/CompleteWrite.h"
 #include "storage/ConsoleLine.h"
-#include "storage/CsvExport.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/HistoryLocation.h"
 #include "storage/StoredFileRead.h"
 
@@ -80,7 +80,7 @@ std::optional<StorageError> PersistenceService::save(const AnalysisResult& resul
     if (auto error = unusableDirectory())
         return error;
     const QString path = historyFilePath(result.id);
-    const QByteArray bytes = encode(result);
+    const QByteArray bytes = json::encode(result);
     // QSaveFile writes beside the target and renames over it, and leaves nothing behind when it
     // fails, so a reader never meets half a history file.
     QSaveFile file(path);
@@ -133,18 +133,11 @@ std::optional<StorageError> PersistenceService::deleteResult(const QUuid& id) {
     if (auto error = unusableDirectory())
         return error;
     QFile file(historyFilePath(id));
-    if (!file.exists() || file.remove())
-        return std::nullopt;
-    return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};
-}
-
-QByteArray PersistenceService::encode(const AnalysisResult& result) const {
-    return json::encode(result);
-}
-
-std::variant<QByteArray, StorageError>
-PersistenceService::exportCSV(const AnalysisResult& result) const {
-    return csv::exportLargestFiles(result);
+    if (file.exists() && !file.remove())
+        return StorageError{FileSystemError::about(u"remove", file.fileName(), file.errorString())};
+    // Second: should this removal fail, the scan has left the history all the same, and a folder
+    // sizes file without its history file is never read.
+    return removeFolderSizes(m_storagePath, id);
 }
 
 } // namespace tessarine

@@ -42,11 +42,6 @@ public:
     std::optional<StorageError> deleteResult(const AnalysisResult& result);
     std::optional<StorageError> deleteResult(const QUuid& id);
 
-    // The JSON export, byte for byte what save writes.
-    QByteArray encode(const AnalysisResult& result) const;
-    // The CSV export of the result's largest files.
-    std::variant<QByteArray, StorageError> exportCSV(const AnalysisResult& result) const;
-
 private:
     std::optional<StorageError> unusableDirectory() const;
 

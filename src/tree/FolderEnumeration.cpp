@@ -12,11 +12,13 @@ constexpr std::chrono::milliseconds progressInterval{100};
 
 } // namespace
 
-DirectoryListing enumerateFolders(const QString& rootPath, const std::atomic<bool>& cancelled,
+DirectoryListing enumerateFolders(const QString& rootPath, const ScanOptions& scanOptions,
+                                  const std::atomic<bool>& cancelled,
                                   const std::function<void(const WalkProgress&)>& onProgress) {
     auto lastSent = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
     options.cancelled = &cancelled;
+    options.scanOptions = scanOptions;
     // A link counts as a file of its own size in the tree. Read here, relative to the folder's
     // open descriptor and spread over the walker's threads, it costs a fraction of a later lstat
     // by full path.

@@ -1,5 +1,6 @@
 #include "tree/FolderTreeAssembly.h"
 
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "tree/SubtreeBuilder.h"
 
@@ -77,7 +78,7 @@ void split(const SubtreeStart& start, std::size_t index, const std::vector<qint6
         if (!isListed(entry.contents()))
             continue;
         split({entry.contents(), path, entry.name(),
-               FolderPath(start.location, decodedName(entry.name())), start.depth + 1, color},
+               FolderPath(start.location, pathFromBytes(entry.name())), start.depth + 1, color},
               child, sizes, largest, subtrees, above);
         child += std::size_t(sizes[child]);
     }

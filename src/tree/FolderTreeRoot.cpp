@@ -1,12 +1,11 @@
 #include "tree/FolderTreeRoot.h"
 
-#include <QFileInfo>
+#include "scanner/PathAccess.h"
 
 namespace tessarine {
 
 std::optional<FolderTreeError> unlistableRootError(const QString& rootPath) {
-    const QFileInfo folder(rootPath);
-    if (folder.isDir() && folder.isReadable() && folder.isExecutable())
+    if (isListableFolder(rootPath))
         return std::nullopt;
     return FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath};
 }

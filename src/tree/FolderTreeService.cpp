@@ -1,12 +1,12 @@
 #include "tree/FolderTreeService.h"
 
 #include "model/Format.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "scanner/DirectoryWalker.h"
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
-#include <QFile>
 #include <QThread>
 
 #include <array>
@@ -61,7 +61,8 @@ void FolderTreeService::setCancelled(bool cancelled) {
         QMetaObject::invokeMethod(this, [this] { emit isCancelledChanged(); });
 }
 
-FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken task) {
+FolderTreeOutcome FolderTreeService::build(const QString& rootPath, const ScanOptions& options,
+                                           CancelToken task) {
     const BuildId build = ++m_newestBuild;
     setCancelled(false);
     {
@@ -69,7 +70,7 @@ FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken 
         m_task = task;
     }
     applyIfNewest(build, [this] { setBuilding(true); });
-    FolderTreeOutcome outcome = walkAndAssemble(build, rootPath, task);
+    FolderTreeOutcome outcome = walkAndAssemble(build, rootPath, options, task);
     // A cancelled build is over too, and the request that cancelled it with it.
     applyIfNewest(build, [this] {
         setBuilding(false);
@@ -79,6 +80,7 @@ FolderTreeOutcome FolderTreeService::build(const QString& rootPath, CancelToken 
 }
 
 FolderTreeOutcome FolderTreeService::walkAndAssemble(BuildId build, const QString& rootPath,
+                                                     const ScanOptions& options,
                                                      const CancelToken& task) {
     using Phase = FolderTreeProgress::Phase;
     const QDateTime startTime = QDateTime::currentDateTimeUtc();
@@ -90,12 +92,12 @@ FolderTreeOutcome FolderTreeService::walkAndAssemble(BuildId build, const QStrin
     publish(build, record(Phase::enumerating, 0, 0, root));
 
     const DirectoryListing listing =
-        enumerateFolders(root, task.flag(), [&](const WalkProgress& walk) {
+        enumerateFolders(root, options, task.flag(), [&](const WalkProgress& walk) {
             FolderTreeProgress progress =
                 record(Phase::enumerating, 0, walk.items, foundText(walk.items, walk.folders));
             // The folder at hand is then the one the walk waits for.
             if (!walk.unansweredFolderPath.isEmpty()) {
-                progress.unansweredFolder = QFile::decodeName(walk.unansweredFolderPath);
+                progress.unansweredFolder = pathFromBytes(walk.unansweredFolderPath);
                 progress.currentFolder =
                     format::waitingFor(lastPathComponent(progress.unansweredFolder));
             }

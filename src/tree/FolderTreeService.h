@@ -2,6 +2,7 @@
 
 #include "model/CancelToken.h"
 #include "model/Records.h"
+#include "model/ScanOptions.h"
 #include "tree/FolderTreeError.h"
 #include "tree/FolderTreeProgress.h"
 
@@ -53,11 +54,13 @@ public:
     bool isCancelled() const;
     void setCancelled(bool cancelled);
 
-    // Call from a worker thread (or a test thread other than the service's). `task` is the
-    // cancellation of the caller's task: cancelled at any time, before this call included, it
-    // stops the build. A build resets isCancelled when it starts, so a request made through it
-    // before then is forgotten; the task's is not.
-    FolderTreeOutcome build(const QString& rootPath, CancelToken task = CancelToken());
+    // Call from a worker thread (or a test thread other than the service's). `options` are those
+    // of the result whose tree this is, so that both count alike. `task` is the cancellation of
+    // the caller's task: cancelled at any time, before this call included, it stops the build. A
+    // build resets isCancelled when it starts, so a request made through it before then is
+    // forgotten; the task's is not.
+    FolderTreeOutcome build(const QString& rootPath, const ScanOptions& options = {},
+                            CancelToken task = CancelToken());
 
     // Receives every progress record as it is made, before it is handed to the service's thread:
     // a caller can follow the whole sequence instead of sampling it, or act at an exact point of
@@ -88,7 +91,7 @@ private:
     using BuildId = quint64;
 
     FolderTreeOutcome walkAndAssemble(BuildId build, const QString& rootPath,
-                                      const CancelToken& task);
+                                      const ScanOptions& options, const CancelToken& task);
     void publish(BuildId build, const FolderTreeProgress& progress);
     // Runs `change` on the service's thread if `build` is still the newest one by then.
     void applyIfNewest(BuildId build, std::function<void()> change);

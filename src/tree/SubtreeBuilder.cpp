@@ -1,20 +1,15 @@
 #include "tree/SubtreeBuilder.h"
 
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "model/SaturatingSum.h"
 #include "scanner/DirectoryWalker.h"
-
-#include <QFile>
 
 #include <algorithm>
 #include <fcntl.h>
 #include <sys/stat.h>
 
 namespace tessarine {
-
-QString decodedName(QByteArrayView bytes) {
-    return QFile::decodeName(QByteArray::fromRawData(bytes.data(), bytes.size()));
-}
 
 bool isListed(const ListedDirectory* folder) {
     return folder && folder->state() == ListedDirectory::State::listed;
@@ -103,7 +98,7 @@ void SubtreeBuilder::visit(Frame& frame, const ListedEntry& entry) {
         return;
     }
     // Made here, before the folder's own entries, so that each sub-folder's path shares it.
-    FolderPath location(frame.location, decodedName(entry.name()));
+    FolderPath location(frame.location, pathFromBytes(entry.name()));
     enter(*entry.contents(), entry.name(), std::move(location), frame.depth + 1,
           color); // invalidates `frame`
 }

@@ -75,7 +75,4 @@ private:
 // Whether the walk listed the folder's contents (not cancelled before it, nor unable to open it).
 bool isListed(const ListedDirectory* folder);
 
-// A listed name as text.
-QString decodedName(QByteArrayView bytes);
-
 } // namespace tessarine

@@ -3,6 +3,7 @@
 #include "FileTrees.h"
 #include "ScanFolders.h"
 #include "StallingMount.h"
+#include "UserFiles.h"
 #include "app/FolderTreeController.h"
 #include "model/Format.h"
 #include "model/ScanProgress.h"
@@ -12,7 +13,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
@@ -53,7 +53,7 @@ class AppStateTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QStandardPaths::setTestModeEnabled(true); }
+    void initTestCase() { testing::isolateUserFiles(); }
 
     void successfulScanShowsSavesAndListsTheResult() {
         QTemporaryDir home, folder;
@@ -64,7 +64,7 @@ private slots:
 
         state.startScan(QUrl::fromLocalFile(folder.path()));
         QCOMPARE(state.currentView(), AppState::Scanning);
-        QVERIFY(state.hasCurrentScanner());
+        QVERIFY(state.isScanning());
         QVERIFY(!state.hasScanProgress());
         settle(state);
 
@@ -76,7 +76,6 @@ private slots:
         QCOMPARE(shown.fileCount, 6);
         QCOMPARE(state.scanHistory()->results(), QList{shown});
         QCOMPARE(historyFiles(store).size(), 1);
-        QVERIFY(!state.hasCurrentScanner());
         // The screen is left with the scanner's final counters.
         QCOMPARE(state.scanProgress()->phase, ScanPhase::complete);
 
@@ -88,6 +87,37 @@ private slots:
         QCOMPARE(state.scanHistory()->count(), 2);
         QCOMPARE(state.scanHistory()->results().at(0).id, state.currentResult()->id);
         QCOMPARE(state.scanHistory()->results().at(1).id, shown.id);
+    }
+
+    // New scans count as Settings say, and the choice outlives the state; a rescan counts as its
+    // result did, whatever Settings say by then.
+    void scansUseTheRememberedOptionsAndRescansTheirResults() {
+        QTemporaryDir home, folder;
+        makeScannableFolder(folder.path());
+        testing::writeFile(folder.path() + "/.cache/blob", 5000);
+        PersistenceService store(home.path());
+        const ScanOptions hidden{.includeHidden = true};
+        {
+            AppState chosen(store);
+            QCOMPARE(chosen.scanOptions(), ScanOptions());
+            chosen.setScanOptions(hidden);
+        }
+        AppState state(store);
+        QCOMPARE(state.scanOptions(), hidden);
+
+        state.startScan(folder.path());
+        settle(state);
+        const AnalysisResult counted = *state.currentResult();
+        QCOMPARE(counted.scanOptions, hidden);
+        QCOMPARE(counted.fileCount, 7);
+
+        state.setScanOptions({});
+        state.rescan(counted);
+        settle(state);
+        QVERIFY(state.currentResult()->id != counted.id);
+        QCOMPARE(state.currentResult()->scanOptions, hidden);
+        QCOMPARE(state.currentResult()->fileCount, 7);
+        QCOMPARE(AppState(store).scanOptions(), ScanOptions());
     }
 
     void failedScanReturnsToLandingWithTheScannersMessage() {
@@ -103,7 +133,6 @@ private slots:
             QCOMPARE(state.error()->errorDescription(),
                      QStringLiteral("Scan failed: Cannot access directory: ") + path);
             QVERIFY(!state.isScanning());
-            QVERIFY(!state.hasCurrentScanner());
             QVERIFY(!state.hasCurrentResult());
             QCOMPARE(state.scanHistory()->count(), 0);
         }
@@ -119,7 +148,7 @@ private slots:
         state.startScan(folder.path());
         state.cancelScan();
         QCOMPARE(state.currentView(), AppState::Landing);
-        QVERIFY(!state.hasCurrentScanner());
+        QVERIFY(!state.isScanning());
         const std::optional<ScanProgress> atCancel = state.scanProgress();
         QSignalSpy progress(&state, &AppState::scanProgressChanged);
         settle(state);
@@ -174,6 +203,33 @@ private slots:
         QCOMPARE(state.currentResult(), shown);
         QCOMPARE(state.currentView(), AppState::Dashboard);
         QCOMPARE(state.scanHistory()->results(), QList{older});
+        QCOMPARE(historyFiles(store).size(), 1);
+    }
+
+    // A scan made on a server arrives as ncdu's export: it is stored and shown with the tree it
+    // came with, and a rescan does not go looking for a folder of that name here.
+    void importedScanIsShownStoredAndNeverRescannedHere() {
+        QTemporaryDir home, files;
+        PersistenceService store(home.path());
+        AppState state(store);
+        const QString exported = testing::writeFile(
+            files.filePath("server.json"),
+            QByteArray(R"([1,2,{"progname":"ncdu","progver":"1.18","timestamp":1700000000},)"
+                       R"([{"name":"/srv"},[{"name":"www"},{"name":"index.html","asize":700}]]])"));
+        state.importScan(QUrl::fromLocalFile(exported));
+        QTRY_COMPARE(state.currentView(), AppState::Dashboard);
+        const AnalysisResult shown = *state.currentResult();
+        QCOMPARE(shown.rootPath, "/srv");
+        QCOMPARE(shown.totalSize, 700);
+        QCOMPARE(shown.folderTree->childFolders.front().name, "www");
+        QCOMPARE(historyFiles(store).size(), 1);
+
+        state.rescan(shown);
+        QCOMPARE(state.currentView(), AppState::Dashboard);
+        QVERIFY(state.error()->errorDescription().contains("another machine"));
+
+        state.importScan(QUrl::fromLocalFile(files.filePath("missing.json")));
+        QTRY_VERIFY(state.error()->errorDescription().startsWith("Import failed: "));
         QCOMPARE(historyFiles(store).size(), 1);
     }
 

@@ -1,3 +1,5 @@
+#include "QmlWarnings.h"
+
 #include "charts/TreemapCell.h"
 
 #include <QQmlEngine>
@@ -28,6 +30,14 @@ public:
             {QRectF(2, 2, size / 2, size / 2), 2, Qt::red, 0.85, {}, 0.9, {Qt::white, 2}, {}, {}});
         return TreemapCellList(cells);
     }
+
+    // The same cells in another colour, as a new selection gives them.
+    Q_INVOKABLE tessarine::TreemapCellList restyled(const tessarine::TreemapCellList& list) const {
+        QList<TreemapCell> cells = list.cells();
+        for (TreemapCell& cell : cells)
+            cell.fill = Qt::darkGreen;
+        return TreemapCellList(cells);
+    }
 };
 
 class TreemapCellsSetup : public QObject {
@@ -36,6 +46,7 @@ class TreemapCellsSetup : public QObject {
 public slots:
     void qmlEngineAvailable(QQmlEngine* engine) {
         engine->addImportPath(QStringLiteral(":/"));
+        testing::failOnQmlWarnings(*engine);
         qmlRegisterSingletonInstance("Tessarine.Fixtures", 1, 0, "CellFixtures", &m_fixtures);
     }
 

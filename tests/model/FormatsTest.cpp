@@ -1,4 +1,5 @@
 #include "model/Format.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
 #include "model/ScanProgress.h"
 
@@ -169,6 +170,36 @@ private slots:
         QCOMPARE(lastPathComponent(path), name);
         QCOMPARE(cleanRootPath(path), cleaned);
         QCOMPARE(parentFolder(path), parent);
+    }
+
+    // Names that are not UTF-8 (Latin-1, truncated or overlong sequences, encoded surrogates) go
+    // to text and back to the same bytes, and names differing in one such byte stay apart from
+    // each other and from a real U+FFFD, through a URL and the command line as well.
+    void pathsKeepTheirBytes() {
+        const QList<QByteArray> names{"x\xff.txt",
+                                      "x\xfe.txt",
+                                      "x\xef\xbf\xbd.txt",
+                                      "caf\xe9/r\xe9sum\xe9",
+                                      "\xe2\x82",
+                                      "\xc0\xaf\xed\xb3\xbf",
+                                      "\xf0\x9f\x98\x80 #%41?",
+                                      "\xf4\x90\x80\x80"};
+        QStringList texts;
+        QList<const char*> arguments;
+        for (const QByteArray& name : names) {
+            const QString text = pathFromBytes(name);
+            texts.append(text);
+            arguments.append(name.constData());
+            QCOMPARE(pathToBytes(text), name);
+            const QUrl url = urlFromPath(u'/' + text);
+            QCOMPARE(QByteArray::fromPercentEncoding(url.toEncoded()), "file:///" + name);
+            QCOMPARE(pathFromUrl(url), u'/' + text);
+        }
+        QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), names.size());
+        QCOMPARE(argumentsFromBytes(int(arguments.size()), arguments.data()), texts);
+        QCOMPARE(pathFromBytes("\xe2\x82\xac\xff"), QStringLiteral("\u20ac") + QChar(0xDCFF));
+        QCOMPARE(pathForDisplay(pathFromBytes("x\xff\xf0\x9f\x98\x80")),
+                 QStringLiteral("x\uFFFD\U0001F600"));
     }
 };
 

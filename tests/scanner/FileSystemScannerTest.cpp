@@ -1,6 +1,7 @@
 #include "FileTrees.h"
 #include "RecordedScan.h"
 #include "ReferenceWalk.h"
+#include "model/PathBytes.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -25,6 +26,20 @@ QStringList treeState(const QString& root) {
                      QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
     }
     return state;
+}
+
+// The scan's folder table keyed like referenceFolderSizes.
+std::map<QByteArray, std::pair<qint64, qint64>> folderSizesByPath(const FolderSizes& sizes) {
+    std::map<QByteArray, std::pair<qint64, qint64>> folders;
+    std::vector<QByteArray> paths;
+    for (const FolderSizeRow& row : sizes.rows) {
+        paths.push_back(row.parent < 0 ? QByteArray()
+                        : paths[std::size_t(row.parent)].isEmpty()
+                            ? row.name
+                            : paths[std::size_t(row.parent)] + '/' + row.name);
+        folders[paths.back()] = {row.size, row.fileCount};
+    }
+    return folders;
 }
 
 } // namespace
@@ -91,6 +106,38 @@ private slots:
 
         QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(referenceResult(dir.path())));
         QCOMPARE(treeState(dir.path()), before);
+        QCOMPARE(folderSizesByPath(*scan.folderSizes),
+                 referenceFolderSizes(dir.path(), scan.folderSizes->cutoff));
+    }
+
+    void leavesOutTheSmallestOfManyFolders_data() {
+        QTest::addColumn<int>("smallFolders");
+        QTest::addColumn<qint64>("largeFile");
+        QTest::addColumn<qint64>("cutoff");
+        QTest::addColumn<int>("keptFolders");
+        // A ten-thousandth of 100,001,200 bytes; the one-byte folders and theirs are left out.
+        QTest::newRow("a share of the total") << 1200 << 100'000'000LL << 10'000LL << 3;
+        // A ten-thousandth is a byte, so every folder would do: only the largest two thousand do.
+        QTest::newRow("the largest folders") << 2100 << 10'000LL << 2LL << 4;
+    }
+
+    // Past a thousand folders only those holding a share of the scan are kept, and of those only
+    // the largest: the folders down to a large file, not thousands of one-byte folders beside it.
+    void leavesOutTheSmallestOfManyFolders() {
+        QFETCH(int, smallFolders);
+        QFETCH(qint64, largeFile);
+        QFETCH(qint64, cutoff);
+        QFETCH(int, keptFolders);
+        QTemporaryDir dir;
+        writeFolders(dir.path() + "/many", smallFolders, 1);
+        writeFile(dir.path() + "/deep/er/big.bin", 0);
+        QVERIFY(QFile::resize(dir.path() + "/deep/er/big.bin", largeFile)); // sparse: no disk
+
+        const FolderSizes sizes = *recordScan(dir.path()).folderSizes;
+
+        QCOMPARE(sizes.cutoff, cutoff);
+        QCOMPARE(folderSizesByPath(sizes), referenceFolderSizes(dir.path(), sizes.cutoff));
+        QCOMPARE(int(sizes.rows.size()), keptFolders);
     }
 
     void keepsOddNamesReadable() {
@@ -105,7 +152,7 @@ private slots:
         QCOMPARE(result.largestFiles.size(), names.size());
         for (const FileInfo& file : result.largestFiles) {
             const QByteArray& raw = names[file.size - 10];
-            QCOMPARE(file.name, QFile::decodeName(raw));
+            QCOMPARE(pathToBytes(file.name), raw);
             QCOMPARE(file.path, dir.path() + '/' + file.name);
         }
         QVERIFY(result.extensionStats.contains("md"));

@@ -29,7 +29,10 @@ RecordedScan recordScan(const QString& path, const SnapshotReaction& react) {
             react(scanner, progress);
     });
     ScanOutcome outcome = scanner.scan(path);
-    return {std::move(outcome), snapshots};
+    std::optional<FolderSizes> folderSizes;
+    if (scanner.folderSizes())
+        folderSizes = *scanner.folderSizes();
+    return {std::move(outcome), snapshots, std::move(folderSizes)};
 }
 
 AnalysisResult withoutIdentities(AnalysisResult result) {

@@ -12,6 +12,7 @@ namespace tessarine::testing {
 struct RecordedScan {
     ScanOutcome outcome;
     QList<ScanProgress> snapshots;
+    std::optional<FolderSizes> folderSizes;
 
     const AnalysisResult& result() const { return std::get<AnalysisResult>(outcome); }
     const ScanError& error() const { return std::get<ScanError>(outcome); }

@@ -1,10 +1,12 @@
 #include "ReferenceWalk.h"
 
+#include "model/PathBytes.h"
 #include "scanner/ItemNameRules.h"
 #include "scanner/ScanAggregator.h"
 
 #include <QDir>
-#include <QFile>
+
+#include <algorithm>
 
 #include <dirent.h>
 #include <sys/stat.h>
@@ -56,8 +58,8 @@ QString extensionOf(const QString& name) {
 
 FileInfo recordOf(const WalkedItem& item) {
     FileInfo info;
-    info.path = QFile::decodeName(item.path);
-    info.name = QFile::decodeName(item.path.mid(item.path.lastIndexOf('/') + 1));
+    info.path = pathFromBytes(item.path);
+    info.name = pathFromBytes(item.path.mid(item.path.lastIndexOf('/') + 1));
     info.size = item.size;
     info.fileExtension = extensionOf(info.name);
     info.category = categoryForExtension(info.fileExtension);
@@ -80,7 +82,7 @@ std::vector<WalkedItem> referenceWalk(const QByteArray& root) {
 
 AnalysisResult referenceResult(const QString& root) {
     ScanAggregator aggregator;
-    for (const WalkedItem& item : referenceWalk(QFile::encodeName(root))) {
+    for (const WalkedItem& item : referenceWalk(pathToBytes(root))) {
         if (item.kind != EntryKind::symlink && item.kind != EntryKind::unreadable)
             aggregator.add(recordOf(item));
     }
@@ -88,6 +90,30 @@ AnalysisResult referenceResult(const QString& root) {
     result.rootPath = QDir::cleanPath(root);
     result.rootName = QDir(root).dirName();
     return result;
+}
+
+std::map<QByteArray, std::pair<qint64, qint64>> referenceFolderSizes(const QString& root,
+                                                                     qint64 cutoff) {
+    const QByteArray rootBytes = QFile::encodeName(root);
+    std::map<QByteArray, std::pair<qint64, qint64>> folders{{QByteArray(), {0, 0}}};
+    for (const WalkedItem& item : referenceWalk(rootBytes)) {
+        const QByteArray below = item.path.mid(rootBytes.size() + 1);
+        if (item.kind == EntryKind::directory || item.kind == EntryKind::package)
+            folders[below];
+        if (item.kind != EntryKind::file && item.kind != EntryKind::special)
+            continue;
+        QByteArray folder = below;
+        do {
+            folder.truncate(std::max<qsizetype>(folder.lastIndexOf('/'), 0));
+            auto& [size, files] = folders[folder];
+            size += item.size;
+            ++files;
+        } while (!folder.isEmpty());
+    }
+    std::erase_if(folders, [&](const auto& folder) {
+        return !folder.first.isEmpty() && folder.second.first < cutoff;
+    });
+    return folders;
 }
 
 } // namespace tessarine::testing

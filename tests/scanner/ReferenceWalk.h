@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <map>
+#include <utility>
 #include <vector>
 
 // The plainest possible readings of a folder, for the fast parallel code to be compared with.
@@ -30,5 +32,11 @@ std::vector<WalkedItem> referenceWalk(const QByteArray& root);
 // What that walk yields, folded record by record: the result a scan of an unchanging tree must
 // give.
 AnalysisResult referenceResult(const QString& root);
+
+// Every folder's size and file count by its path below root ("" for root itself), summed from
+// that walk item by item into each folder above the item; only those holding at least `cutoff`
+// bytes, and root.
+std::map<QByteArray, std::pair<qint64, qint64>> referenceFolderSizes(const QString& root,
+                                                                     qint64 cutoff);
 
 } // namespace tessarine::testing

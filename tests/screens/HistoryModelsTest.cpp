@@ -3,7 +3,10 @@
 #include "screens/history/HistoryListModel.h"
 #include "screens/history/ScanComparison.h"
 
+#include <QAbstractItemModelTester>
 #include <QLocale>
+#include <QRandomGenerator>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace tessarine;
@@ -138,6 +141,13 @@ private slots:
         QCOMPARE(comparison.files.at(0).symbol, QString("arrow.down"));
         QCOMPARE(comparison.files.at(1).title, QString("new.png"));
         QCOMPARE(comparison.files.at(1).changeText, QString("+50 bytes"));
+        QCOMPARE(comparison.optionsNote, QString());
+
+        // Scans that counted differently say so, whichever of them counted more.
+        after.scanOptions = {.includeHidden = true, .diskUsage = true};
+        QCOMPARE(compareScans(after, before).optionsNote,
+                 QString("Scanned with different options (Before: none; After: hidden items "
+                         "included, disk usage), so the figures differ for that reason too."));
     }
 
     void trendNeedsAFolderScannedTwice() {
@@ -151,6 +161,58 @@ private slots:
         // A second qualifying folder wins once it holds the most recent scan.
         history = newestFirst(history + QList{scan("/a", 4)});
         QCOMPARE(storageTrend(history).folderPath, QString("/a"));
+    }
+
+    void syncFollowsAnyNewList() {
+        // Random edits of the list the model is synced to: inserted, removed, moved and changed
+        // records. The model must end equal to its target every round, keep the rows in place (no
+        // reset) unless records moved, and tell its views only what the item model rules allow.
+        constexpr quint32 seed = 20;
+        QRandomGenerator random(seed);
+        ScanHistoryModel model;
+        QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        QList<AnalysisResult> target;
+        int made = 0;
+        for (int round = 0; round < 200; ++round) {
+            bool moved = false;
+            for (int edits = random.bounded(1, 6); edits > 0; --edits) {
+                const int at = random.bounded(int(target.size()) + 1);
+                const bool some = at < target.size();
+                switch (random.bounded(5)) {
+                case 0:
+                case 1: {
+                    AnalysisResult added = scan(QStringLiteral("/%1").arg(made), made);
+                    added.id = QUuid(uint(++made), 0, 0, 0, 0, 0, 0, 0, 0, 0, 0);
+                    target.insert(at, added);
+                    break;
+                }
+                case 2:
+                    if (some)
+                        target.removeAt(at);
+                    break;
+                case 3:
+                    if (some && target.size() > 1) {
+                        const int to = random.bounded(int(target.size()));
+                        moved = moved || to != at;
+                        target.move(at, to);
+                    }
+                    break;
+                case 4:
+                    if (some)
+                        target[at].totalSize += 1 + random.bounded(1000);
+                    break;
+                }
+            }
+            resets.clear();
+            model.sync(target);
+            const QString where = QStringLiteral("seed %1, round %2").arg(seed).arg(round);
+            QVERIFY2(model.results() == target, qPrintable(where));
+            QVERIFY2(moved || resets.isEmpty(), qPrintable(where));
+            if (QTest::currentTestFailed())
+                return;
+        }
     }
 };
 

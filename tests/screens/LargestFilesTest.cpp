@@ -1,9 +1,9 @@
 #include "RecordedDesktop.h"
 #include "SampleResults.h"
+#include "model/Json.h"
 #include "screens/dashboard/FileActions.h"
 #include "screens/dashboard/LargestFilesRows.h"
 #include "screens/dashboard/ResultExport.h"
-#include "storage/PersistenceService.h"
 
 #include <QAbstractItemModelTester>
 #include <QFile>
@@ -135,7 +135,7 @@ private slots:
         QCOMPARE(exporter.write(result, ResultExport::Json, QUrl::fromLocalFile(json)), QString());
         QFile written(json);
         QVERIFY(written.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), PersistenceService(folder.path()).encode(result));
+        QCOMPARE(written.readAll(), tessarine::json::encode(result));
 
         const QString csv = folder.filePath("out.csv");
         QCOMPARE(exporter.write(resultWithFiles(), ResultExport::Csv, QUrl::fromLocalFile(csv)),

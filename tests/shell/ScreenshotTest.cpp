@@ -3,6 +3,7 @@
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "UserFiles.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
@@ -13,12 +14,13 @@
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QQmlApplicationEngine>
 #include <QQmlProperty>
 #include <QQuickItem>
 #include <QQuickWindow>
-#include <QStandardPaths>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -38,6 +40,13 @@ void storeProjectsTrend(PersistenceService& store) {
         scan.fileCount += 1200 * week;
         QVERIFY(!store.save(scan));
     }
+}
+
+// Waits until the window has drawn a new frame, with whatever changed before it.
+bool nextFrame(QQuickWindow* window) {
+    QSignalSpy swapped(window, &QQuickWindow::frameSwapped);
+    window->update();
+    return swapped.wait(1000);
 }
 
 AnalysisResult dashboardResult(const QString& root = QStringLiteral("/Users/ann/Projects")) {
@@ -97,11 +106,9 @@ public:
             shown = window();
         QVERIFY(shown);
         QVERIFY(QTest::qWaitForWindowExposed(shown));
-        if (timing == AfterTransitions)
-            QTest::qWait(450);
+        const QImage image = timing == AfterTransitions ? settledImage(shown) : shown->grabWindow();
         const QString folder = QStringLiteral(TESSARINE_SCREENSHOT_DIR);
         QVERIFY(QDir().mkpath(folder));
-        const QImage image = shown->grabWindow();
         QVERIFY(!image.isNull());
         const QString appearance =
             ColorScheme::instance().dark() ? QStringLiteral("-dark") : QString();
@@ -109,6 +116,20 @@ public:
     }
 
 private:
+    // What the window shows once two frames in a row draw the same picture. The scanning ring
+    // never stops turning: a window still changing after a couple of seconds is taken as it is.
+    static QImage settledImage(QQuickWindow* window) {
+        QImage previous = window->grabWindow();
+        QDeadlineTimer deadline(2500);
+        while (!deadline.hasExpired() && nextFrame(window)) {
+            QImage next = window->grabWindow();
+            if (next == previous)
+                break;
+            previous = std::move(next);
+        }
+        return previous;
+    }
+
     QTemporaryDir m_home;
     PersistenceService m_store;
     std::unique_ptr<AppState> m_state;
@@ -157,7 +178,7 @@ QQuickItem* scrollTo(QQuickWindow* window, const char* objectName) {
 // The named item scrolled into sight, once the page has moved.
 QQuickItem* inSight(QQuickWindow* window, const char* objectName) {
     QQuickItem* item = scrollTo(window, objectName);
-    QTest::qWait(100);
+    nextFrame(window);
     return item;
 }
 
@@ -174,7 +195,7 @@ class ScreenshotTest : public QObject {
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 
@@ -324,7 +345,7 @@ private slots:
                           centerOf(inSight(window, "largestFilesSearch")));
         for (const char typed : std::string_view("file-1"))
             QTest::keyClick(window, typed);
-        QTest::qWait(100);
+        nextFrame(window);
         const QPoint firstRow =
             findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
         QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);
@@ -366,6 +387,46 @@ private slots:
         QMetaObject::invokeMethod(scene.find("deleteConfirmation"), "close");
         QMetaObject::invokeMethod(scene.find("comparisonSheet"), "open");
         scene.save("history-comparison");
+    }
+
+    // Two scans of a tree, saved as the application saves every scan, between which one folder
+    // grew by 50 MB, one appeared and one went: the sheet lists exactly those folders.
+    void historyComparisonOfFolders() {
+        QTemporaryDir tree;
+        testing::writeFiles(tree.path(), {{"media/videos/clip.mp4", 1'000'000},
+                                          {"old/gone/data.bin", 2'000'000},
+                                          {"docs/readme.txt", 5000}});
+        Scene scene;
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 1);
+        QVERIFY(QFile::resize(tree.path() + "/media/videos/clip.mp4", 51'000'000));
+        QVERIFY(QDir(tree.path() + "/old/gone").removeRecursively());
+        testing::writeFile(tree.path() + "/new/fresh.bin", 3'000'000);
+        scene.state().startScan(tree.path());
+        QTRY_COMPARE(scene.state().scanHistory()->count(), 2);
+
+        const QList<AnalysisResult>& scans = scene.state().scanHistory()->results();
+        scene.history();
+        auto* sheet = scene.find("comparisonSheet");
+        QVERIFY(sheet);
+        sheet->setProperty("first", QVariant::fromValue(scans.at(0)));
+        sheet->setProperty("second", QVariant::fromValue(scans.at(1)));
+        QMetaObject::invokeMethod(sheet, "open");
+        scene.save("history-comparison-folders");
+    }
+
+    // The Settings window with an option on, and the dashboard of a result made with options.
+    void settings() {
+        Scene scene(3);
+        scene.state().setScanOptions({.includeHidden = true});
+        AnalysisResult result = dashboardResult();
+        result.scanOptions = {.includeHidden = true, .diskUsage = true};
+        scene.showing(result).save("dashboard-options");
+        auto* settings = scene.find<QQuickWindow>("settingsWindow");
+        QVERIFY(settings);
+        QMetaObject::invokeMethod(settings, "showSettings");
+        scene.save("settings", Scene::AfterTransitions, settings);
+        scene.state().setScanOptions({});
     }
 
     void help() {

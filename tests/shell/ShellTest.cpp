@@ -1,10 +1,11 @@
 #include "AccessibilityAudit.h"
 #include "AppFixture.h"
+#include "QmlWarnings.h"
+#include "UserFiles.h"
 
 #include "shell/ShellEngine.h"
 
 #include <QQmlEngine>
-#include <QStandardPaths>
 #include <QtQuickTest>
 
 namespace tessarine {
@@ -17,14 +18,17 @@ class ShellTestSetup : public QObject {
 
 public slots:
     void applicationAvailable() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
         m_fixture = std::make_unique<AppFixture>();
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Fixture", m_fixture.get());
         qmlRegisterSingletonInstance("Tessarine.Testing", 1, 0, "Accessibility", &m_audit);
     }
 
-    void qmlEngineAvailable(QQmlEngine* engine) { prepareEngine(*engine); }
+    void qmlEngineAvailable(QQmlEngine* engine) {
+        prepareEngine(*engine);
+        testing::failOnQmlWarnings(*engine);
+    }
 
     void cleanupTestCase() { m_fixture.reset(); }
 

@@ -1,3 +1,4 @@
+#include "UserFiles.h"
 #include "app/AppState.h"
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
@@ -5,26 +6,25 @@
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessarine;
 
-// The main window and the help window over a history of their own, closed and quit by keys
-// (the menus' mnemonics: tst_Accessibility.qml).
+// The main window, the help and the Settings window over a history of their own, opened, closed
+// and quit by keys (the menus' mnemonics: tst_Accessibility.qml).
 class WindowKeysTest : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
+        testing::isolateUserFiles();
         prepareShell();
     }
 
     // Ctrl+W closes the window that has the keyboard and leaves the other open; Ctrl+Q asks the
     // application to quit from either.
-    void closeWindowAndQuit() {
+    void openCloseAndQuitByKeys() {
         QTemporaryDir home;
         PersistenceService store(home.path());
         AppState state(store);
@@ -43,6 +43,18 @@ private slots:
         QVERIFY(QTest::qWaitForWindowExposed(help));
         QTest::keyClick(help, Qt::Key_W, Qt::ControlModifier);
         QTRY_VERIFY(!help->isVisible());
+        QVERIFY(main->isVisible());
+
+        // Ctrl+, opens Settings; Space turns its focused switch, and with it what new scans
+        // count; Ctrl+W closes it alone.
+        auto* settings = main->findChild<QQuickWindow*>(QStringLiteral("settingsWindow"));
+        QVERIFY(settings);
+        QTest::keyClick(main, Qt::Key_Comma, Qt::ControlModifier);
+        QVERIFY(QTest::qWaitForWindowExposed(settings));
+        QTest::keyClick(settings, Qt::Key_Space);
+        QTRY_VERIFY(state.scanOptions().includeHidden);
+        QTest::keyClick(settings, Qt::Key_W, Qt::ControlModifier);
+        QTRY_VERIFY(!settings->isVisible());
         QVERIFY(main->isVisible());
 
         QSignalSpy quit(&engine, &QQmlEngine::quit);

@@ -33,6 +33,11 @@ TestCase {
     }
 
     Component {
+        id: settingsComponent
+        SettingsWindow {}
+    }
+
+    Component {
         id: alertComponent
         ErrorAlert {}
     }
@@ -134,12 +139,17 @@ TestCase {
         }
 
         createTemporaryObject(alertComponent, content)
-        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        AppState.error = AppError.invalidPath("/x")
         verifyNamed(content, "the error alert", null)
     }
 
-    // The help's keys are this platform's: the text's Command key is Ctrl here.
-    function test_everyHelpSectionNamesWhatItShows() {
+    // The windows beside the main one. The help's keys are this platform's: the text's Command
+    // key is Ctrl here.
+    function test_helpAndSettingsNameWhatTheyShow() {
+        const settings = createTemporaryObject(settingsComponent, testCase)
+        settings.showSettings()
+        verifyNamed(settings.contentItem, "settings")
+
         const help = createTemporaryObject(helpComponent, testCase)
         help.showHelp()
         const sidebar = findChild(help.contentItem, "helpSidebar")

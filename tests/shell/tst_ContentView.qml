@@ -35,11 +35,6 @@ TestCase {
         ErrorAlert {}
     }
 
-    SignalSpy {
-        id: helpSpy
-        signalName: "helpRequested"
-    }
-
     property ContentView content
     property var viewsSeen: []
 
@@ -54,8 +49,6 @@ TestCase {
     function init() {
         content = createTemporaryObject(contentComponent, testCase)
         commands = createTemporaryObject(commandsComponent, testCase)
-        helpSpy.target = commands
-        helpSpy.clear()
         AppState.currentView = AppState.Landing
     }
 
@@ -108,13 +101,6 @@ TestCase {
         compare(AppState.currentResult.fileCount, 5000)
     }
 
-    function test_helpShortcutAsksForTheHelpWindow() {
-        keyClick(Qt.Key_Question, Qt.ControlModifier)
-        compare(helpSpy.count, 1)
-        keyClick(Qt.Key_Question, Qt.ControlModifier | Qt.ShiftModifier)
-        compare(helpSpy.count, 2)
-    }
-
     function test_droppedFolderStartsAScan() {
         // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
         verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
@@ -148,19 +134,18 @@ TestCase {
 
     function test_alertShowsTheErrorAndOkClearsIt() {
         const alert = createTemporaryObject(alertComponent, testCase)
-        AppState.error = AppError.scanFailed("Cannot access directory: /x")
+        AppState.error = AppError.exportFailed("No space left on device")
         tryCompare(alert, "opened", true)
         compare(findChild(alert.contentItem, "errorDescription").text,
-                "Scan failed: Cannot access directory: /x")
+                "Export failed: No space left on device")
         const suggestion = findChild(alert.contentItem, "recoverySuggestion")
         verify(suggestion.visible)
-        compare(suggestion.text,
-                "Try selecting a different folder or check if you have permission to access it.")
+        compare(suggestion.text, "Check if you have write permission to the selected location.")
 
         // A newer error replaces the one on show.
-        AppState.error = AppError.cancelled()
-        compare(findChild(alert.contentItem, "errorDescription").text, "Operation was cancelled")
-        verify(!suggestion.visible)
+        AppState.error = AppError.invalidPath("/x")
+        compare(findChild(alert.contentItem, "errorDescription").text, "Invalid path: /x")
+        compare(suggestion.text, "The selected path may have been moved or deleted.")
 
         mouseClick(findChild(alert.contentItem, "okButton"))
         tryCompare(alert, "visible", false)
@@ -171,9 +156,8 @@ TestCase {
     function test_keysDismissAndClear() {
         const alert = createTemporaryObject(alertComponent, testCase)
         for (const key of [Qt.Key_Escape, Qt.Key_Return]) {
-            AppState.error = AppError.unknown("")
+            AppState.error = AppError.invalidPath("/x")
             tryCompare(alert, "opened", true)
-            verify(!findChild(alert.contentItem, "errorDescription").visible)
             keyClick(key)
             tryCompare(alert, "visible", false)
             verify(!AppState.hasError)

@@ -2,8 +2,8 @@
 #include "FileTrees.h"
 #include "SampleResults.h"
 
+#include "storage/CsvExport.h"
 #include "storage/ExportWriter.h"
-#include "storage/PersistenceService.h"
 
 #include <QTemporaryDir>
 #include <QTest>
@@ -17,8 +17,7 @@ namespace {
 std::variant<QByteArray, StorageError> csvOf(const QList<FileInfo>& files) {
     AnalysisResult result;
     result.largestFiles = files;
-    QTemporaryDir base;
-    return PersistenceService(base.path()).exportCSV(result);
+    return csv::exportLargestFiles(result);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "FileTrees.h"
 #include "SampleResults.h"
 #include "StandardOutputCapture.h"
+#include "model/Json.h"
 #include "storage/HistoryLocation.h"
 #include "storage/PersistenceService.h"
 
@@ -154,7 +155,7 @@ private slots:
 
         // The JSON export is the history file itself, so an export dropped into the history
         // folder loads like any saved scan.
-        QCOMPARE(store.encode(result), readBytes(store.historyFilePath(result.id)));
+        QCOMPARE(json::encode(result), readBytes(store.historyFilePath(result.id)));
     }
 
     void uncreatableDirectoryFailsEveryOperationAndWritesNothing() {

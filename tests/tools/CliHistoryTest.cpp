@@ -108,12 +108,88 @@ private slots:
         const QString id = idText(*removed).toLower();
         const CliRun run = runCli({"history", "delete", id});
         QCOMPARE(run.exitCode, 0);
-        QCOMPARE(QDir(historyDirectory()).entryList({"*.json"}),
-                 QStringList{"scan_" + idText(*kept) + ".json"});
+        QCOMPARE(
+            QDir(historyDirectory()).entryList(QDir::Files),
+            QStringList({"scan_" + idText(*kept) + ".folders", "scan_" + idText(*kept) + ".json"}));
 
         const CliRun again = runCli({"history", "delete", id});
         QCOMPARE(again.exitCode, 1);
         QCOMPARE(again.errorText(), "No stored scan with id " + id + "\n");
+    }
+
+    // Between two saved scans one folder gains 50 MB, one appears and one goes: exactly those are
+    // named, largest change first, and not the folders that hold them.
+    void compareNamesTheFoldersThatChanged() {
+        const QString root = m_folders.filePath("tree");
+        writeFiles(root, {{"media/videos/clip.mp4", 1'000'000},
+                          {"old/gone/data.bin", 2'000'000},
+                          {"old/kept.txt", 4000},
+                          {"docs/readme.txt", 5000}});
+        const auto before = saveScanOf(root);
+        QVERIFY(QFile::resize(root + "/media/videos/clip.mp4", 51'000'000)); // sparse: no disk
+        QVERIFY(QDir(root + "/old/gone").removeRecursively());
+        writeFile(root + "/new/fresh.bin", 3'000'000);
+        const auto after = saveScanOf(root);
+        QVERIFY(before && after);
+
+        const CliRun json =
+            runCli({"history", "compare", idText(*before), idText(*after), "--json"});
+        QCOMPARE(json.exitCode, 0);
+        const QJsonObject comparison = QJsonDocument::fromJson(json.output).object();
+        QCOMPARE(comparison["change"].toObject()["totalSize"].toInteger(), 51'000'000);
+        QCOMPARE(comparison["folderOutcome"].toString(), "compared");
+        const QJsonArray expected{QJsonObject{{"path", root + "/media/videos"},
+                                              {"before", 1'000'000},
+                                              {"after", 51'000'000},
+                                              {"change", 50'000'000}},
+                                  QJsonObject{{"path", root + "/new"},
+                                              {"before", QJsonValue::Null},
+                                              {"after", 3'000'000},
+                                              {"change", 3'000'000}},
+                                  QJsonObject{{"path", root + "/old/gone"},
+                                              {"before", 2'000'000},
+                                              {"after", QJsonValue::Null},
+                                              {"change", -2'000'000}}};
+        QCOMPARE(comparison["folders"].toArray(), expected);
+
+        const CliRun text = runCli({"history", "compare", idText(*before), idText(*after)});
+        QCOMPARE(text.exitCode, 0);
+        const QStringList lines = QString::fromUtf8(text.output).split('\n');
+        const qsizetype first = lines.indexOf("Folders that changed, largest change first:") + 1;
+        QVERIFY(first > 0);
+        QCOMPARE(lines.mid(first).join('|').count(root), 3);
+        QVERIFY(lines[first].contains(root + "/media/videos  (1 MB → 51 MB)"));
+        QVERIFY(lines[first + 1].contains(root + "/new  (— → 3 MB)"));
+        QVERIFY(lines[first + 2].contains(root + "/old/gone  (2 MB → —)"));
+    }
+
+    void compareWithoutFolderFigures() {
+        const auto one = saveScanOf(m_folders.filePath("one"));
+        const auto other = saveScanOf(m_folders.filePath("other"));
+        QVERIFY(one && other);
+        const CliRun different = runCli({"history", "compare", idText(*one), idText(*other)});
+        QCOMPARE(different.exitCode, 0);
+        QVERIFY(different.output.endsWith(
+            "These scans are of different folders, so their folders are not compared.\n"));
+
+        const auto again = saveScanOf(m_folders.filePath("one"));
+        QVERIFY(again);
+        writeFile(historyDirectory() + "/scan_" + idText(*again) + ".folders", 100);
+        const CliRun damaged =
+            runCli({"history", "compare", idText(*one), idText(*again), "--json"});
+        QCOMPARE(damaged.exitCode, 0);
+        QCOMPARE(QJsonDocument::fromJson(damaged.output)["folderOutcome"].toString(),
+                 "noFolderSizes");
+
+        const QString unknown = QUuid::createUuid().toString(QUuid::WithoutBraces);
+        const std::pair<QString, QString> failures[] = {
+            {"nonsense", "Not a scan id: nonsense\n"},
+            {unknown, "No stored scan with id " + unknown + "\n"}};
+        for (const auto& [id, message] : failures) {
+            const CliRun run = runCli({"history", "compare", idText(*one), id});
+            QCOMPARE(run.exitCode, 1);
+            QCOMPARE(run.errorText(), message);
+        }
     }
 
     void unreadableFilesDoNotSpoilTheJson() {

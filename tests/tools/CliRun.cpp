@@ -26,6 +26,8 @@ bool start(QProcess& process, const QStringList& arguments, const CliOptions& op
         process.setWorkingDirectory(options.workingDirectory);
     if (!options.outputFile.isEmpty())
         process.setStandardOutputFile(options.outputFile);
+    if (!options.inputFile.isEmpty())
+        process.setStandardInputFile(options.inputFile);
     process.start();
     if (process.waitForStarted())
         return true;

@@ -22,6 +22,7 @@ struct CliRun {
 struct CliOptions {
     QString workingDirectory{};
     QString outputFile{}; // standard output goes here instead of being captured
+    QString inputFile{};  // standard input comes from here instead of nothing
 };
 
 // Runs the built program to its end. The child inherits the test's XDG_DATA_HOME, so it uses the

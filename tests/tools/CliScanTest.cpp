@@ -1,6 +1,7 @@
 #include "CliRun.h"
 #include "FileTrees.h"
 #include "model/Json.h"
+#include "model/PathBytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,6 +10,11 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -20,6 +26,25 @@ QStringList childNames(const QJsonObject& folder) {
     for (const QJsonValue child : folder["childFolders"].toArray())
         names.append(child.toObject()["name"].toString());
     return names;
+}
+
+// Runs the program with the working folder `folder`, which neither QProcess nor QDir can name.
+CliRun runInside(const QByteArray& folder, const QStringList& arguments) {
+    const int here = ::open(".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    int fd = ::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    for (const QByteArray& name : folder.split('/')) {
+        if (name.isEmpty())
+            continue;
+        const int next = ::openat(fd, name.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        ::close(fd);
+        fd = next;
+    }
+    const bool entered = ::fchdir(fd) == 0;
+    ::close(fd);
+    const CliRun run = entered ? runCli(arguments) : CliRun();
+    (void)::fchdir(here);
+    ::close(here);
+    return run;
 }
 
 } // namespace
@@ -118,6 +143,30 @@ private slots:
         const QJsonObject photos = tree["childFolders"].toArray()[0].toObject();
         QCOMPARE(photos["totalSize"].toInteger(), 5000);
         QCOMPARE(childNames(photos), QStringList{"raw, \"odd\""});
+    }
+
+    // "." inside a folder whose path is not UTF-8, or is longer than the system takes in one
+    // piece, is that folder, by its own bytes.
+    void scansFromInsideFoldersQtCannotName() {
+        const QTemporaryDir folder = makeFastTemporaryDir();
+        const QByteArray base = QFile::encodeName(folder.path());
+        const QByteArray latin1 = base + "/caf\xe9";
+        std::filesystem::create_directory(latin1.toStdString());
+        std::ofstream((latin1 + "/x\xff").toStdString()) << 'x';
+        const FolderChain chain(folder.path(), 2100);
+        const QByteArray deep = base + QByteArray("/d").repeated(2100);
+
+        for (const QByteArray& inside : {latin1, deep}) {
+            const CliRun scan = runInside(inside, {"scan", "."});
+            QVERIFY2(scan.exitCode == 0, scan.errors);
+            const auto result = json::decodeResult(scan.output);
+            QCOMPARE(pathToBytes(result->rootPath), inside);
+            QCOMPARE(result->fileCount, 1);
+            const CliRun tree = runInside(inside, {"tree", "."});
+            QVERIFY2(tree.exitCode == 0, tree.errors);
+            QCOMPARE(pathToBytes(QJsonDocument::fromJson(tree.output)["path"].toString()), inside);
+        }
+        std::filesystem::remove_all(latin1.toStdString());
     }
 
     void treeDeeperThanJsonReadersIsRefused_data() {

@@ -160,7 +160,7 @@ private slots:
         service.setProgressObserver(
             [&](const FolderTreeProgress& record) { records.append(record); });
 
-        std::thread worker([&] { outcome = service.build(dir.path(), task); });
+        std::thread worker([&] { outcome = service.build(dir.path(), {}, task); });
         task.cancel();
         worker.join();
 

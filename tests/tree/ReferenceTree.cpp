@@ -1,9 +1,9 @@
 #include "ReferenceTree.h"
 #include "FileTrees.h"
 
+#include "model/PathBytes.h"
 #include "scanner/ItemNameRules.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -18,7 +18,7 @@ namespace {
 FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth, qint64 colourIndex,
                       HardLinkCount& links) {
     FolderInfo node;
-    node.location = FolderPath(QFile::decodeName(path));
+    node.location = FolderPath(pathFromBytes(path));
     node.name = name;
     node.depth = depth;
     node.color = folderColorAt(colourIndex);
@@ -38,7 +38,7 @@ FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
         const bool known = lstat(entryPath.constData(), &status) == 0;
         if (known && S_ISDIR(status.st_mode) && !isPackageName(entryName)) {
             FolderInfo child =
-                folderNode(entryPath, QFile::decodeName(entryName), depth + 1, subfolders++, links);
+                folderNode(entryPath, pathFromBytes(entryName), depth + 1, subfolders++, links);
             if (child.totalSize < 1 && child.childFolders.empty())
                 continue;
             node.totalSize += child.totalSize;
@@ -59,7 +59,7 @@ FolderInfo folderNode(const QByteArray& path, const QString& name, qint64 depth,
 
 FolderInfo referenceTree(const QString& root) {
     HardLinkCount links;
-    return folderNode(QFile::encodeName(root), QFileInfo(root).fileName(), 0, 0, links);
+    return folderNode(pathToBytes(root), QFileInfo(root).fileName(), 0, 0, links);
 }
 
 FolderInfo withoutIds(FolderInfo tree) {

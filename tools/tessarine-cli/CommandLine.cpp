@@ -12,10 +12,11 @@ namespace {
 
 using Command = int (*)(const QStringList&);
 
-constexpr std::array<std::pair<const char16_t*, Command>, 3> commands{{
+constexpr std::array<std::pair<const char16_t*, Command>, 4> commands{{
     {u"scan", runScan},
     {u"tree", runTree},
     {u"history", runHistory},
+    {u"import", runImport},
 }};
 
 } // namespace

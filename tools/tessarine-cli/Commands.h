@@ -8,6 +8,7 @@ namespace tessarine::cli {
 int runScan(const QStringList& arguments);
 int runTree(const QStringList& arguments);
 int runHistory(const QStringList& arguments);
+int runImport(const QStringList& arguments);
 
 // Picks the command named by the first argument (the program's name already removed).
 int runCommandLine(const QStringList& arguments);

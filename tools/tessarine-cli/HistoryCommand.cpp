@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "ExitCode.h"
+#include "HistoryCompare.h"
 #include "HistoryTable.h"
 #include "StandardStreams.h"
 #include "Usage.h"
@@ -76,7 +77,11 @@ int runHistory(const QStringList& arguments) {
     if (parsed->positional.size() == 2 && parsed->positional.first() == u"delete" &&
         !parsed->has(jsonOption))
         return remove(parsed->positional.last());
-    return usageError(QStringLiteral("history takes --json, or delete ID"));
+    if (parsed->positional.size() == 3 && parsed->positional.first() == u"compare")
+        return compareStoredScans(parsed->positional[1], parsed->positional[2],
+                                  parsed->has(jsonOption));
+    return usageError(
+        QStringLiteral("history takes --json, delete ID, or compare OLD NEW [--json]"));
 }
 
 } // namespace tessarine::cli

@@ -2,11 +2,15 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "ScanOptionArguments.h"
 
 #include "model/Json.h"
 #include "scanner/FileSystemScanner.h"
 #include "storage/CsvExport.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
+
+#include <memory>
 
 namespace tessarine::cli {
 
@@ -15,8 +19,7 @@ namespace {
 const QString saveOption = QStringLiteral("--save");
 const QString csvOption = QStringLiteral("--csv");
 
-ScanOutcome scan(const QString& folder) {
-    const auto scanner = std::make_shared<FileSystemScanner>();
+ScanOutcome scan(const std::shared_ptr<FileSystemScanner>& scanner, const QString& folder) {
     const CancelToken task;
     return runCancellable<ScanOutcome, ScanProgress>({
         [scanner, folder, task] { return scanner->scan(folder, task); },
@@ -35,13 +38,16 @@ std::variant<QByteArray, StorageError> render(const AnalysisResult& result, bool
 } // namespace
 
 int runScan(const QStringList& arguments) {
-    const auto parsing =
-        parseFolderCommand(arguments, {saveOption, csvOption}, QStringLiteral("scan"));
+    const auto parsing = parseFolderCommand(
+        arguments, QStringList{saveOption, csvOption} + scanOptionNames(), QStringLiteral("scan"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
 
-    const ScanOutcome outcome = scan(parsed.positional.first());
+    const auto scanner = std::make_shared<FileSystemScanner>(scanOptionsOf(parsed));
+    // Folder sizes go only into the history: a printed result has no place for them.
+    scanner->setKeepsFolderSizes(parsed.has(saveOption));
+    const ScanOutcome outcome = scan(scanner, parsed.positional.first());
     if (const auto* error = std::get_if<ScanError>(&outcome))
         return reportFailure(*error);
     const auto& result = std::get<AnalysisResult>(outcome);
@@ -52,7 +58,11 @@ int runScan(const QStringList& arguments) {
     }
     // Saved before anything is printed: a scan that could not be stored fails as a whole.
     if (parsed.has(saveOption)) {
-        if (const auto error = PersistenceService::shared().save(result)) {
+        PersistenceService& store = PersistenceService::shared();
+        auto error = store.save(result);
+        if (!error)
+            error = saveFolderSizes(store.storagePath(), result.id, *scanner->folderSizes());
+        if (error) {
             printError(error->errorDescription());
             return exitFailure;
         }

@@ -2,19 +2,21 @@
 
 #include "Arguments.h"
 #include "CancellableRun.h"
+#include "NcduTreeExport.h"
+#include "ScanOptionArguments.h"
 
 #include "model/Json.h"
+#include "model/PathNames.h"
 #include "tree/FolderTreeRoot.h"
 #include "tree/FolderTreeService.h"
-
-#include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
 namespace tessarine::cli {
 
 namespace {
+
+const QString ncduOption = QStringLiteral("--ncdu");
 
 // How many levels of folders lie below the root.
 qint64 levelsBelow(const FolderInfo& root) {
@@ -24,11 +26,11 @@ qint64 levelsBelow(const FolderInfo& root) {
     return deepest - root.depth;
 }
 
-FolderTreeOutcome buildTree(const QString& rootPath) {
+FolderTreeOutcome buildTree(const QString& rootPath, const ScanOptions& options) {
     const auto service = FolderTreeService::makeShared();
     const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [service, rootPath, task] { return service->build(rootPath, task); },
+        [service, rootPath, options, task] { return service->build(rootPath, options, task); },
         [task] { task.cancel(); },
         [service] { return service->progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
@@ -38,15 +40,18 @@ FolderTreeOutcome buildTree(const QString& rootPath) {
 } // namespace
 
 int runTree(const QStringList& arguments) {
-    const auto parsing = parseFolderCommand(arguments, {}, QStringLiteral("tree"));
+    const auto parsing = parseFolderCommand(arguments, QStringList{ncduOption} + scanOptionNames(),
+                                            QStringLiteral("tree"));
     if (const int* usageStatus = std::get_if<int>(&parsing))
         return *usageStatus;
-    const QFileInfo folder(std::get<Arguments>(parsing).positional.first());
-    const QString rootPath = QDir::cleanPath(folder.absoluteFilePath());
+    const Arguments& parsed = std::get<Arguments>(parsing);
+    const QString rootPath = cleanRootPath(parsed.positional.first());
     if (const auto rootError = unlistableRootError(rootPath))
         return reportFailure(*rootError);
+    if (std::get<Arguments>(parsing).has(ncduOption))
+        return writeNcduTree(rootPath, scanOptionsOf(parsed));
 
-    FolderTreeOutcome outcome = buildTree(rootPath);
+    FolderTreeOutcome outcome = buildTree(rootPath, scanOptionsOf(parsed));
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
     // The tree of a folder chain deeper than JSON readers go (Qt's and Python's stop at some five

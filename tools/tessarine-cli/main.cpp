@@ -3,6 +3,7 @@
 #include "Commands.h"
 #include "StandardStreams.h"
 
+#include "model/PathBytes.h"
 #include "model/WorkerThread.h"
 
 #include <QCoreApplication>
@@ -16,5 +17,7 @@ int main(int argc, char** argv) {
     reserveStandardOutput();
 
     QCoreApplication application(argc, argv);
-    return tessarine::leaveProcess(runCommandLine(QCoreApplication::arguments().mid(1)));
+    // Not QCoreApplication::arguments(), which loses the bytes of a folder name that is not UTF-8.
+    return tessarine::leaveProcess(
+        runCommandLine(tessarine::argumentsFromBytes(argc, argv).mid(1)));
 }

@@ -7,7 +7,10 @@ namespace tessarine {
 double barExtent(qint64 value, qint64 whole, double available, double minimum) {
     if (whole <= 0)
         return minimum;
-    return std::max(available * static_cast<double>(value) / static_cast<double>(whole), minimum);
+    // A part larger than its whole (a total held at the largest value, or a damaged stored result)
+    // still ends within the chart.
+    const double share = std::min(static_cast<double>(value) / static_cast<double>(whole), 1.0);
+    return std::max(available * share, minimum);
 }
 
 double barChartHeight(qsizetype bars, double pitch) {

@@ -1,5 +1,7 @@
 #include "charts/geometry/CategoryTreemapLayout.h"
 
+#include "model/SaturatingSum.h"
+
 #include <algorithm>
 
 namespace tessarine {
@@ -21,10 +23,14 @@ std::vector<TreeMapRect> calculateTreeMapRects(const QList<CategoryStats>& categ
     rects.reserve(sorted.size());
     for (qsizetype i = 0; i < sorted.size(); ++i) {
         const CategoryStats& stat = sorted[i];
-        // With nothing left to share the ratio is 0/0; such a cell has no size to show.
+        // A negative size (a damaged stored result) takes no room.
+        const qint64 size = std::max<qint64>(stat.totalSize, 0);
+        // With nothing left to share the ratio is 0/0; such a cell has no size to show. Nor does a
+        // cell take more than what is left, where the categories add up to more than the total.
         const double ratio =
-            remaining > 0 ? static_cast<double>(stat.totalSize) / static_cast<double>(remaining)
-                          : 0.0;
+            remaining > 0
+                ? std::min(static_cast<double>(size) / static_cast<double>(remaining), 1.0)
+                : 0.0;
         // The free area moves by the true extent so that the clamp never pushes later cells out.
         if (horizontal) {
             const double extent = ratio * free.width();
@@ -39,7 +45,7 @@ std::vector<TreeMapRect> calculateTreeMapRects(const QList<CategoryStats>& categ
             free = QRectF(free.x(), free.y() + extent, free.width(),
                           std::max(free.height() - extent, 0.0));
         }
-        remaining -= stat.totalSize;
+        addSaturating(remaining, -size);
         if ((sorted.size() - i - 1) % 2 == 0)
             horizontal = !horizontal;
     }

@@ -1,5 +1,7 @@
 #include "charts/geometry/FolderBars.h"
 
+#include "model/SaturatingSum.h"
+
 namespace tessarine {
 
 FolderBars folderBarsOf(const FolderInfo& tree, qsizetype maxFolders) {
@@ -10,7 +12,7 @@ FolderBars folderBarsOf(const FolderInfo& tree, qsizetype maxFolders) {
         ++bars.folderCount;
         if (static_cast<qsizetype>(bars.shown.size()) < maxFolders) {
             bars.shown.push_back(*folder);
-            bars.shownSize += (*folder)->totalSize;
+            addSaturating(bars.shownSize, (*folder)->totalSize);
         }
     }
     return bars;

@@ -1,5 +1,7 @@
 #include "charts/geometry/FolderTreemapLayout.h"
 
+#include "model/SaturatingSum.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -10,6 +12,13 @@ namespace {
 
 constexpr double minimumCellThickness = 2;
 constexpr qint64 folderColorCycle = 10;
+
+// The room an entry takes: its size, where a negative one (a damaged stored tree) takes none.
+// Sizes are shared out in floating point, where sizes near 2^63 add up without wrapping or
+// saturating, so that every cell keeps its proportion.
+double roomOf(const TreemapEntry& entry) {
+    return static_cast<double>(std::max<qint64>(entry.size, 0));
+}
 
 // How many leading entries of remaining form the next strip in the free rectangle: entries join
 // while the strip's worst aspect ratio does not get worse. The worst ratio of a strip is that of
@@ -26,7 +35,7 @@ qsizetype rowLength(std::span<const TreemapEntry> remaining, const QRectF& free,
     double largest = -infinity;
     qsizetype length = 0;
     for (const TreemapEntry& entry : remaining) {
-        const double size = static_cast<double>(entry.size);
+        const double size = roomOf(entry);
         const double candidateSum = sum + size;
         const double candidateSmallest = std::min(smallest, size);
         const double candidateLargest = std::max(largest, size);
@@ -48,35 +57,28 @@ qsizetype rowLength(std::span<const TreemapEntry> remaining, const QRectF& free,
     return length;
 }
 
-qint64 sizeOf(std::span<const TreemapEntry> entries) {
-    return std::accumulate(entries.begin(), entries.end(), qint64(0),
-                           [](qint64 sum, const TreemapEntry& entry) { return sum + entry.size; });
+double roomOf(std::span<const TreemapEntry> entries) {
+    return std::accumulate(
+        entries.begin(), entries.end(), 0.0,
+        [](double sum, const TreemapEntry& entry) { return sum + roomOf(entry); });
 }
 
-// What a folder holds besides its sub-folders.
-struct DirectFiles {
-    qint64 size = 0;
-    qint64 count = 0;
-};
-
-DirectFiles directFilesOf(const FolderInfo& folder) {
-    DirectFiles files{folder.totalSize, folder.fileCount};
-    for (const FolderInfo& child : folder.childFolders) {
-        files.size -= child.totalSize;
-        files.count -= child.fileCount;
-    }
-    return files;
+// The files its sub-folders do not count, never fewer than none.
+qint64 directFileCount(const FolderInfo& folder) {
+    qint64 count = folder.fileCount;
+    for (const FolderInfo& child : folder.childFolders)
+        addSaturating(count, -std::max<qint64>(child.fileCount, 0));
+    return std::max<qint64>(count, 0);
 }
 
 } // namespace
 
 FolderInfo filesFolderOf(const FolderInfo& folder) {
-    const DirectFiles direct = directFilesOf(folder);
     FolderInfo files;
     files.location = FolderPath(folder.location, QStringLiteral("__files__"));
     files.name = QStringLiteral("Files");
-    files.totalSize = direct.size;
-    files.fileCount = direct.count;
+    files.totalSize = folder.directFilesSize();
+    files.fileCount = directFileCount(folder);
     files.depth = folder.depth + 1;
     files.color = FolderColor::cyan;
     return files;
@@ -108,7 +110,7 @@ TreemapLevel buildTreemapItems(const FolderInfo& folder, const QRectF& bounds,
 std::vector<TreemapItem> layoutTreemapItems(std::span<const TreemapEntry> entries,
                                             const QRectF& bounds, qint64 baseColorIndex) {
     std::vector<TreemapItem> items;
-    const qint64 total = sizeOf(entries);
+    const double total = roomOf(entries);
     if (total <= 0)
         return items;
 
@@ -116,10 +118,10 @@ std::vector<TreemapItem> layoutTreemapItems(std::span<const TreemapEntry> entrie
     QRectF free = bounds;
     qint64 color = baseColorIndex;
     while (!entries.empty()) {
-        const auto strip = entries.first(rowLength(entries, free, static_cast<double>(total)));
+        const auto strip = entries.first(rowLength(entries, free, total));
         entries = entries.subspan(strip.size());
-        const double stripSize = static_cast<double>(sizeOf(strip));
-        const double share = stripSize / static_cast<double>(total);
+        const double stripSize = roomOf(strip);
+        const double share = stripSize / total;
 
         const bool band = free.width() < free.height();
         QRectF stripRect;
@@ -138,8 +140,7 @@ std::vector<TreemapItem> layoutTreemapItems(std::span<const TreemapEntry> entrie
         double offset = 0;
         for (const TreemapEntry& entry : strip) {
             // A strip of empty folders has no share to split; its cells keep the minimum.
-            const double fraction =
-                stripSize > 0 ? static_cast<double>(entry.size) / stripSize : 0.0;
+            const double fraction = stripSize > 0 ? roomOf(entry) / stripSize : 0.0;
             QRectF rect;
             if (band) {
                 const double extent = fraction * stripRect.width();

@@ -1,17 +1,8 @@
 #include "screens/common/FigureListModel.h"
 
-#include "design/RoleNames.h"
-
 namespace tessarine {
 
-int FigureListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(m_figures.size());
-}
-
-QVariant FigureListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const Figure& figure = m_figures[std::size_t(index.row())];
+QVariant FigureListModel::rowData(const Figure& figure, int role) const {
     switch (Role(role)) {
     case TitleRole:
         return figure.title;
@@ -27,21 +18,15 @@ QVariant FigureListModel::data(const QModelIndex& index, int role) const {
     return {};
 }
 
-QHash<int, QByteArray> FigureListModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void FigureListModel::setFigures(std::vector<Figure> figures) {
-    if (figures.size() != m_figures.size()) {
-        beginResetModel();
-        m_figures = std::move(figures);
-        endResetModel();
+    if (figures.size() != m_rows.size()) {
+        resetRows(std::move(figures));
         return;
     }
     for (std::size_t row = 0; row < figures.size(); ++row) {
-        if (figures[row] == m_figures[row])
+        if (figures[row] == m_rows[row])
             continue;
-        m_figures[row] = std::move(figures[row]);
+        m_rows[row] = std::move(figures[row]);
         const QModelIndex changed = index(int(row));
         emit dataChanged(changed, changed);
     }

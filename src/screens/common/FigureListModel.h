@@ -2,7 +2,8 @@
 
 #include "screens/common/Figure.h"
 
-#include <QAbstractListModel>
+#include "design/RowListModel.h"
+
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -11,7 +12,7 @@ namespace tessarine {
 
 // A short, fixed list of figures for a row or grid of cards. New values replace the old ones in
 // place, so the cards stay put while their numbers change.
-class FigureListModel : public QAbstractListModel {
+class FigureListModel : public RowListModel<FigureListModel, std::vector<Figure>> {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Figure lists are made by the objects that compute them")
@@ -20,17 +21,13 @@ public:
     enum Role { TitleRole = Qt::UserRole + 1, ValueRole, DetailRole, IconRole, ColorRole };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
-    const std::vector<Figure>& figures() const { return m_figures; }
+    const std::vector<Figure>& figures() const { return m_rows; }
     void setFigures(std::vector<Figure> figures);
 
 private:
-    std::vector<Figure> m_figures;
+    QVariant rowData(const Figure& figure, int role) const override;
 };
 
 } // namespace tessarine

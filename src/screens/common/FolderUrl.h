@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/PathBytes.h"
+
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -8,7 +10,8 @@
 namespace tessarine {
 
 // The file URL of a stored folder path. A path handed to QML as text would be parsed as a URL,
-// losing "#" to a fragment and decoding "%41" into another name, so the URL is made here.
+// losing "#" to a fragment and decoding "%41" into another name, so the URL is made here, with
+// the bytes of a name that is not UTF-8.
 class FolderUrl : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -17,7 +20,7 @@ class FolderUrl : public QObject {
 public:
     using QObject::QObject;
 
-    Q_INVOKABLE static QUrl fromPath(const QString& path) { return QUrl::fromLocalFile(path); }
+    Q_INVOKABLE static QUrl fromPath(const QString& path) { return urlFromPath(path); }
 };
 
 } // namespace tessarine

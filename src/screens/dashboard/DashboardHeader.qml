@@ -4,10 +4,12 @@ import Tessarine.App
 import Tessarine.Design
 import Tessarine.Screens
 
-// Which folder the result is of, when it was scanned and how long it took, and Rescan.
+// Which folder the result is of, when it was scanned, how long it took and with which options,
+// and Rescan.
 Card {
     id: header
-    Accessible.name: result.rootName + ", scanned in " + result.formattedDuration
+    Accessible.name: [result.rootName, "scanned in " + result.formattedDuration]
+                     .concat(result.scanOptions.labels).join(", ")
 
     required property analysisResult result
 
@@ -49,21 +51,42 @@ Card {
                 spacing: Theme.spacingLarge
 
                 DetailLabel {
-                    font: Theme.callout
+                    font: Theme.subheadline
                     symbol: "location"
                     text: header.result.rootPath
                     maximumWidth: facts.width
                 }
 
                 DetailLabel {
-                    font: Theme.callout
+                    font: Theme.subheadline
                     symbol: "clock"
                     text: Format.absoluteDate(header.result.scanDate)
                 }
 
                 DetailLabel {
-                    font: Theme.callout
+                    visible: !header.result.isImported
+                    font: Theme.subheadline
                     text: "Scanned in " + header.result.formattedDuration
+                }
+
+                DetailLabel {
+                    objectName: "importedLabel"
+                    visible: header.result.isImported
+                    font: Theme.subheadline
+                    symbol: "square.and.arrow.down"
+                    text: "Imported from " + header.result.importSource.program + " ("
+                          + header.result.importSource.fileName + "), "
+                          + Format.absoluteDate(header.result.importSource.importDate)
+                    maximumWidth: facts.width
+                }
+
+                // How this result counted, when not as by default: its figures read differently.
+                DetailLabel {
+                    objectName: "scanOptionsLabel"
+                    visible: header.result.scanOptions.labels.length > 0
+                    font: Theme.subheadline
+                    symbol: "gearshape"
+                    text: header.result.scanOptions.labels.join(", ")
                 }
             }
         }
@@ -73,7 +96,7 @@ Card {
             Layout.alignment: Qt.AlignTop
             text: "Rescan"
             symbol: "arrow.clockwise"
-            onClicked: AppState.startScan(FolderUrl.fromPath(header.result.rootPath))
+            onClicked: AppState.rescan(header.result)
         }
     }
 }

@@ -22,11 +22,23 @@ Rectangle {
 
     CategorySelection { id: categorySelection }
 
+    // Whether the keys brought the focus to the item. Controls say so themselves, text fields
+    // through the reason of their focus; any other item takes the focus from Tab only.
+    function focusedByKeys(item) {
+        if (item.visualFocus !== undefined)
+            return item.visualFocus
+        if (item.focusReason !== undefined)
+            return item.focusReason === Qt.TabFocusReason || item.focusReason === Qt.BacktabFocusReason
+                   || item.focusReason === Qt.ShortcutFocusReason
+        return item.activeFocusOnTab
+    }
+
     // Tab may land on a control below the fold or above it: the scroll follows the keyboard, so
-    // the focused control and its ring are always in sight. A control focused by a click (no
-    // visual focus) is already in sight and stays where it is.
+    // the focused control and its ring are always in sight. A control focused by a click is
+    // already in sight and stays where it is: a page that moved under the pointer would send the
+    // next click to another control.
     function scrollToShow(item) {
-        if (!item || item.visualFocus === false || !contentFocus.contains(item))
+        if (!item || !focusedByKeys(item) || !contentFocus.contains(item))
             return
         const flickable = scroller.contentItem
         const top = item.mapToItem(content, 0, 0).y
@@ -112,8 +124,7 @@ Rectangle {
                     }
                 }
 
-                // The folder analysis section goes here, between the category row and the largest
-                // files.
+                FolderAnalysisSection { Layout.fillWidth: true; result: dashboard.result }
 
                 LargestFilesSection {
                     Layout.fillWidth: true
@@ -142,8 +153,6 @@ Rectangle {
                         result: dashboard.result
                     }
                 }
-
-                FolderAnalysisSection { Layout.fillWidth: true; result: dashboard.result }
 
                 InsightsSection {
                     Layout.fillWidth: true

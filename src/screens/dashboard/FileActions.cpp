@@ -2,7 +2,8 @@
 
 #include "screens/dashboard/SystemDesktopServices.h"
 
-#include <QFileInfo>
+#include "model/PathBytes.h"
+#include "scanner/PathAccess.h"
 
 namespace tessarine {
 
@@ -22,22 +23,22 @@ DesktopServices& FileActions::services() {
 }
 
 bool FileActions::reveal(const QString& path) const {
-    if (!QFileInfo::exists(path))
+    if (!pathStatus(path))
         return false;
-    services().reveal(path);
+    services().reveal(urlFromPath(path));
     return true;
 }
 
 bool FileActions::open(const QString& path) const {
-    if (!QFileInfo::exists(path))
+    if (!pathStatus(path))
         return false;
-    services().open(path);
+    services().open(urlFromPath(path));
     return true;
 }
 
 void FileActions::copyPaths(const QStringList& paths) const {
     if (!paths.isEmpty())
-        services().copyText(paths.join(QLatin1Char('\n')));
+        services().copyText(pathToBytes(paths.join(QLatin1Char('\n'))));
 }
 
 } // namespace tessarine

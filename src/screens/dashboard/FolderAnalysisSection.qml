@@ -41,7 +41,7 @@ Item {
             folderCount: section.result.folderCount
             hasError: section.controller.state === FolderTreeController.Failed
             errorText: section.controller.errorText
-            onBuildRequested: section.controller.build(section.result.rootPath)
+            onBuildRequested: section.controller.build(section.result.rootPath, section.result.scanOptions)
         }
     }
 

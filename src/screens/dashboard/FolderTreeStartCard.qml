@@ -80,6 +80,7 @@ Card {
                     text: buildButton.text
                     symbol: "square.grid.2x2"
                     font: buildButton.font
+                    spacing: 8
                     color: Theme.labelOnAccent
                 }
 

@@ -1,37 +1,36 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "model/Records.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
 // The insight cards of the result bound to it, each with its kind's symbol and colour.
-class InsightListModel : public QAbstractListModel {
+class InsightListModel : public RowListModel<InsightListModel, QList<PatternInsight>> {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tessarine::AnalysisResult result WRITE setResult)
+    Q_PROPERTY(tessarine::AnalysisResult result READ result WRITE setResult NOTIFY countChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
 
 public:
     enum Role { InsightRole = Qt::UserRole + 1, SymbolRole, ColorNameRole };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-
+    const AnalysisResult& result() const { return m_result; }
     void setResult(const AnalysisResult& result);
-    int count() const { return int(m_insights.size()); }
+    int count() const { return rowCount(); }
 
 signals:
     void countChanged();
 
 private:
-    QList<PatternInsight> m_insights;
+    QVariant rowData(const PatternInsight& insight, int role) const override;
+
+    AnalysisResult m_result;
 };
 
 } // namespace tessarine

@@ -64,7 +64,7 @@ Rectangle {
                 Icon {
                     anchors.centerIn: parent
                     symbol: cell.symbol
-                    size: 14
+                    size: 12
                     color: Theme.named(cell.colorName)
                 }
             }

@@ -12,6 +12,7 @@ LargestFilesRows::LargestFilesRows(QObject* parent)
 }
 
 void LargestFilesRows::setResult(const AnalysisResult& result) {
+    m_result = result;
     m_selected.clear();
     m_anchor = {};
     m_files.setFiles(result.largestFiles);

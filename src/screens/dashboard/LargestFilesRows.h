@@ -15,7 +15,7 @@ namespace tessarine {
 class LargestFilesRows : public QSortFilterProxyModel {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(tessarine::AnalysisResult result WRITE setResult)
+    Q_PROPERTY(tessarine::AnalysisResult result READ result WRITE setResult NOTIFY fileCountChanged)
     Q_PROPERTY(int fileCount READ fileCount NOTIFY fileCountChanged)
     Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
     Q_PROPERTY(int sortColumn READ sortColumn NOTIFY sortChanged)
@@ -28,6 +28,7 @@ class LargestFilesRows : public QSortFilterProxyModel {
 public:
     explicit LargestFilesRows(QObject* parent = nullptr);
 
+    const AnalysisResult& result() const { return m_result; }
     void setResult(const AnalysisResult& result);
     int fileCount() const { return m_files.rowCount(); }
     QString searchText() const { return m_searchText; }
@@ -63,6 +64,7 @@ private:
     const FileInfo& fileAt(int row) const;
     void announceSelection();
 
+    AnalysisResult m_result;
     LargestFilesTableModel m_files;
     QString m_searchText;
     QSet<QUuid> m_selected;

@@ -135,11 +135,21 @@ Control {
         clip: true
         model: root.rows
         boundsBehavior: Flickable.StopAtBounds
+        // The wheel over the rows scrolls the page, which would otherwise stop in the middle of
+        // the table until the table had reached its end; the table scrolls by its scroll bar
+        // (dragged, or the wheel over it) and follows the keys.
+        interactive: false
         columnWidthProvider: column => root.columnWidth(column)
         rowHeightProvider: () => 40
         onWidthChanged: forceLayout()
 
-        ScrollBar.vertical: ScrollBar {}
+        ScrollBar.vertical: ScrollBar {
+            id: scrollBar
+
+            WheelHandler {
+                onWheel: event => event.angleDelta.y < 0 ? scrollBar.increase() : scrollBar.decrease()
+            }
+        }
 
         // What the cells report of the pointer.
         signal rowPressed(int row, int modifiers)
@@ -168,20 +178,23 @@ Control {
 
         objectName: "largestFilesMenu"
 
-        MenuItem {
+        SymbolMenuItem {
             objectName: "revealMenuItem"
             text: "Reveal in File Manager"
+            symbol: "folder"
             onTriggered: root.revealRequested(root.rows.pathAt(root.menuRow))
         }
-        MenuItem {
+        SymbolMenuItem {
             objectName: "copyPathMenuItem"
             text: "Copy Path"
+            symbol: "doc.on.doc"
             onTriggered: FileActions.copyPaths([root.rows.pathAt(root.menuRow)])
         }
         MenuSeparator {}
-        MenuItem {
+        SymbolMenuItem {
             objectName: "openMenuItem"
             text: "Open"
+            symbol: "arrow.up.right.square"
             onTriggered: root.openRequested(root.rows.pathAt(root.menuRow))
         }
     }

@@ -1,6 +1,7 @@
 #include "screens/dashboard/ResultExport.h"
 
 #include "model/Json.h"
+#include "model/PathBytes.h"
 #include "storage/CsvExport.h"
 #include "storage/ExportWriter.h"
 
@@ -9,7 +10,9 @@
 namespace tessarine {
 
 QUrl ResultExport::proposedFile(const AnalysisResult& result, Format format) const {
-    const QString name = QStringLiteral("analysis_") + result.rootName +
+    // A new name, so it need not keep the bytes of a folder name that is not UTF-8; as shown, it
+    // is one every file system takes.
+    const QString name = QStringLiteral("analysis_") + pathForDisplay(result.rootName) +
                          (format == Csv ? QStringLiteral(".csv") : QStringLiteral(".json"));
     return QUrl::fromLocalFile(QDir::home().filePath(name));
 }
@@ -25,7 +28,12 @@ QString ResultExport::write(const AnalysisResult& result, Format format,
     } else {
         bytes = json::encode(result);
     }
-    const std::optional<StorageError> error = writeExport(destination.toLocalFile(), bytes);
+    // Qt's own save dialog (used where the desktop offers none) hands a name typed into it back
+    // as a bare path, without the file scheme.
+    const QString path = destination.isLocalFile() || !destination.scheme().isEmpty()
+                             ? destination.toLocalFile()
+                             : destination.path();
+    const std::optional<StorageError> error = writeExport(path, bytes);
     return error ? error->errorDescription() : QString();
 }
 

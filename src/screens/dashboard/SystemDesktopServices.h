@@ -9,9 +9,9 @@ namespace tessarine {
 // system clipboard.
 class SystemDesktopServices : public DesktopServices {
 public:
-    void reveal(const QString& path) override;
-    void open(const QString& path) override;
-    void copyText(const QString& text) override;
+    void reveal(const QUrl& file) override;
+    void open(const QUrl& file) override;
+    void copyText(const QByteArray& text) override;
 };
 
 } // namespace tessarine

@@ -39,7 +39,9 @@ HelpSection {
                 "Last modification date"]
         }
         HelpText {
-            text: "Note: Hidden files and system packages are skipped by default for cleaner results."
+            text: "Note: Hidden files and system packages are skipped by default for cleaner results. "
+                  + "Settings (Ctrl+,) can include hidden items, keep a scan on one file system "
+                  + "or count the disk space files take instead of their size."
             font: Theme.caption
             note: true
         }

@@ -12,6 +12,8 @@ HelpSection {
         tint: Theme.blue
         KeyboardShortcutRow { shortcut: "N"; modifiers: "Cmd"; description: "New Scan - Open folder picker" }
         Rectangle { width: parent.width; height: 1; color: Theme.separator }
+        KeyboardShortcutRow { shortcut: "I"; modifiers: "Cmd"; description: "Import Scan - Open a scan made elsewhere" }
+        Rectangle { width: parent.width; height: 1; color: Theme.separator }
         KeyboardShortcutRow { shortcut: "Shift + H"; modifiers: "Cmd"; description: "View History" }
     }
 

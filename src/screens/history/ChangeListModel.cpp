@@ -1,17 +1,8 @@
 #include "ChangeListModel.h"
 
-#include "design/RoleNames.h"
-
 namespace tessarine {
 
-int ChangeListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-QVariant ChangeListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const ChangeRow& row = m_rows.at(static_cast<std::size_t>(index.row()));
+QVariant ChangeListModel::rowData(const ChangeRow& row, int role) const {
     switch (static_cast<Role>(role)) {
     case TitleRole:
         return row.title;
@@ -31,18 +22,14 @@ QVariant ChangeListModel::data(const QModelIndex& index, int role) const {
         return row.icon;
     case IconColorRole:
         return row.iconColor;
+    case ShareRole:
+        return row.share;
     }
     return {};
 }
 
-QHash<int, QByteArray> ChangeListModel::roleNames() const {
-    return roleNamesOf<Role>();
-}
-
 void ChangeListModel::setRows(std::vector<ChangeRow> rows) {
-    beginResetModel();
-    m_rows = std::move(rows);
-    endResetModel();
+    resetRows(std::move(rows));
     emit countChanged();
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ChangeRow.h"
+#include "design/RowListModel.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <vector>
@@ -10,7 +10,7 @@
 namespace tessarine {
 
 // The lines of one part of the comparison sheet.
-class ChangeListModel : public QAbstractListModel {
+class ChangeListModel : public RowListModel<ChangeListModel, std::vector<ChangeRow>> {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Change lists are made by the comparison")
@@ -27,14 +27,11 @@ public:
         ColorRole,
         IconRole,
         IconColorRole,
+        ShareRole,
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    using RowListModel::RowListModel;
 
     void setRows(std::vector<ChangeRow> rows);
 
@@ -42,7 +39,7 @@ signals:
     void countChanged();
 
 private:
-    std::vector<ChangeRow> m_rows;
+    QVariant rowData(const ChangeRow& row, int role) const override;
 };
 
 } // namespace tessarine

@@ -1,11 +1,12 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Layouts
+import Tessarine.App
 import Tessarine.Design
 import Tessarine.Screens
 
 // Two scans side by side, the earlier as "Before": their totals with the change of each, then
-// the categories that grew or shrank and the largest files that came or went.
+// the folders, the categories that grew or shrank and the largest files that came or went.
 Dialog {
     id: sheet
 
@@ -24,6 +25,7 @@ Dialog {
 
     ComparisonModel {
         id: comparison
+        historyFolder: AppState.historyFolder
     }
 
     contentItem: Flickable {
@@ -62,6 +64,18 @@ Dialog {
                 }
             }
 
+            Text {
+                objectName: "optionsNote"
+                Layout.fillWidth: true
+                visible: text !== ""
+                text: comparison.optionsNote
+                font: Theme.callout
+                color: Theme.secondary
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
             RowLayout {
                 Layout.fillWidth: true
                 spacing: Theme.spacingLarge
@@ -86,6 +100,12 @@ Dialog {
                     rows: comparison.totals
                     showsAfter: true
                 }
+            }
+
+            FolderChangeList {
+                Layout.fillWidth: true
+                rows: comparison.folders
+                note: comparison.folderNote
             }
 
             ChangeList {

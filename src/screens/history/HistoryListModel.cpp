@@ -11,7 +11,7 @@ QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
         return ResultListModel::data(index, role);
     if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
         return {};
-    return m_selection.contains(m_results.at(index.row()).id);
+    return m_selection.contains(m_rows.at(index.row()).id);
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
@@ -103,7 +103,7 @@ void HistoryListModel::refresh() {
     if (m_selection.keepOnly(scans))
         emit selectionChanged();
     m_showsTrend = historyHasTrend(scans);
-    m_trend = storageTrend(m_results);
+    m_trend = storageTrend(m_rows);
     emit trendChanged();
 }
 

@@ -109,6 +109,19 @@ void describeChange(ChangeRow& row, qint64 difference, QString (*format)(qint64)
     }
 }
 
+// A difference in what was counted explains a difference in the figures: a scan that includes
+// hidden items finds more than one of the same unchanged folder that leaves them out.
+QString optionsNote(const ScanOptions& before, const ScanOptions& after) {
+    if (before == after)
+        return {};
+    const auto described = [](const ScanOptions& options) {
+        return options.isDefault() ? QStringLiteral("none") : options.labels().join(u", ");
+    };
+    return QStringLiteral("Scanned with different options (Before: %1; After: %2), so the figures "
+                          "differ for that reason too.")
+        .arg(described(before), described(after));
+}
+
 ScanComparison compareScans(const AnalysisResult& first, const AnalysisResult& second) {
     const bool firstIsEarlier = first.scanDate < second.scanDate;
     ScanComparison comparison;
@@ -125,6 +138,7 @@ ScanComparison compareScans(const AnalysisResult& first, const AnalysisResult& s
     };
     comparison.categories = categoryChanges(before, after);
     comparison.files = fileChanges(before, after);
+    comparison.optionsNote = optionsNote(before.scanOptions, after.scanOptions);
     return comparison;
 }
 

@@ -17,6 +17,8 @@ struct ScanComparison {
     std::vector<ChangeRow> categories;
     // The largest files found in only one of the scans, largest first.
     std::vector<ChangeRow> files;
+    // Says how the two counted when they were made with different options; empty otherwise.
+    QString optionsNote;
 };
 
 // The most files the comparison lists: the scans keep only their largest files, so the list is a

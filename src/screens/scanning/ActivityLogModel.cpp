@@ -1,21 +1,12 @@
 #include "screens/scanning/ActivityLogModel.h"
 
-#include "design/RoleNames.h"
-
 #include "model/Format.h"
 #include "model/PathNames.h"
 #include "screens/scanning/ScanPaths.h"
 
 namespace tessarine {
 
-int ActivityLogModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : int(m_entries.size());
-}
-
-QVariant ActivityLogModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    const ActivityLogEntry& entry = m_entries[std::size_t(index.row())];
+QVariant ActivityLogModel::rowData(const ActivityLogEntry& entry, int role) const {
     switch (Role(role)) {
     case IdRole:
         return entry.id;
@@ -29,10 +20,6 @@ QVariant ActivityLogModel::data(const QModelIndex& index, int role) const {
         return entry.size;
     }
     return {};
-}
-
-QHash<int, QByteArray> ActivityLogModel::roleNames() const {
-    return roleNamesOf<Role>();
 }
 
 void ActivityLogModel::setCurrentPath(const QString& path) {
@@ -49,15 +36,15 @@ void ActivityLogModel::setCurrentPath(const QString& path, const QDateTime& now)
 }
 
 void ActivityLogModel::record(const QString& path, const QDateTime& now) {
-    const bool full = m_entries.size() >= std::size_t(capacity);
+    const bool full = m_rows.size() >= std::size_t(capacity);
     if (full) {
         beginRemoveRows({}, capacity - 1, capacity - 1);
-        m_entries.pop_back();
+        m_rows.pop_back();
         endRemoveRows();
     }
     beginInsertRows({}, 0, 0);
-    m_entries.push_front({QUuid::createUuid(), format::clockTime(now), lastPathComponent(path),
-                          looksLikeFolder(path), QString()});
+    m_rows.push_front({QUuid::createUuid(), format::clockTime(now), lastPathComponent(path),
+                       looksLikeFolder(path), QString()});
     endInsertRows();
     if (!full)
         emit countChanged();

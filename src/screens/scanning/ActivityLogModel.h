@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QAbstractListModel>
+#include "design/RowListModel.h"
+
 #include <QDateTime>
 #include <QString>
 #include <QUuid>
@@ -21,7 +22,7 @@ struct ActivityLogEntry {
 
 // The paths the scanner reported, most recent first. Only the newest entries are kept, so a long
 // scan costs the screen a fixed amount of memory.
-class ActivityLogModel : public QAbstractListModel {
+class ActivityLogModel : public RowListModel<ActivityLogModel, std::deque<ActivityLogEntry>> {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(int count READ rowCount NOTIFY countChanged)
@@ -33,11 +34,7 @@ public:
 
     static constexpr int capacity = 100;
 
-    using QAbstractListModel::QAbstractListModel;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    using RowListModel::RowListModel;
 
     // The path the scan reports now. Each change to a non-empty path logs one entry; an empty path
     // (the scanner between items) is not logged, but the same path reported again after it is.
@@ -50,10 +47,10 @@ signals:
     void currentPathChanged();
 
 private:
+    QVariant rowData(const ActivityLogEntry& entry, int role) const override;
     void record(const QString& path, const QDateTime& now);
 
     QString m_currentPath;
-    std::deque<ActivityLogEntry> m_entries;
 };
 
 } // namespace tessarine

@@ -17,8 +17,8 @@ class LiveScanFigures : public QObject {
     Q_OBJECT
     QML_ELEMENT
     // The snapshot shown and whether there is one yet; the application state gives both.
-    Q_PROPERTY(tessarine::ScanProgress progress WRITE setProgress)
-    Q_PROPERTY(bool hasProgress WRITE setHasProgress)
+    Q_PROPERTY(tessarine::ScanProgress progress READ progress WRITE setProgress)
+    Q_PROPERTY(bool hasProgress READ hasProgress WRITE setHasProgress)
     Q_PROPERTY(tessarine::ScanStatus status READ status NOTIFY figuresChanged)
     Q_PROPERTY(tessarine::FigureListModel* performance READ performance CONSTANT)
     Q_PROPERTY(tessarine::FigureListModel* statistics READ statistics CONSTANT)
@@ -28,8 +28,9 @@ class LiveScanFigures : public QObject {
 public:
     explicit LiveScanFigures(QObject* parent = nullptr);
 
-    const std::optional<ScanProgress>& progress() const { return m_progress; }
+    const ScanProgress& progress() const { return m_latest; }
     void setProgress(const ScanProgress& progress);
+    bool hasProgress() const { return m_hasProgress; }
     void setHasProgress(bool hasProgress);
     const ScanStatus& status() const { return m_status; }
     FigureListModel* performance() { return &m_performance; }

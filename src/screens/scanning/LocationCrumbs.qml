@@ -1,8 +1,9 @@
 import QtQuick
 import Tessarine.Design
 
-// The folders leading to the item the scan is at, separated by chevrons.
-Flow {
+// The folders leading to the item the scan is at, separated by chevrons, on one line: a path
+// that wrapped made the details below jump at every new folder.
+Row {
     id: location
 
     required property list<string> crumbs
@@ -13,6 +14,7 @@ Flow {
     Accessible.name: crumbs.length === 0 ? emptyText : crumbs.join(" / ")
 
     spacing: 4
+    clip: true
 
     Text {
         visible: location.crumbs.length === 0

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "screens/scanning/ScanPhaseDisplay.h"
 
-#include <QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 namespace tessarine {
 
 // The five dots of the phase-steps row for the bound phase.
-class PhaseStepsModel : public QAbstractListModel {
+class PhaseStepsModel : public RowListModel<PhaseStepsModel, std::array<PhaseStep, 5>> {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(tessarine::ScanPhase phase READ phase WRITE setPhase NOTIFY phaseChanged)
@@ -17,21 +17,18 @@ public:
     enum Role { LabelRole = Qt::UserRole + 1, CompletedRole, CurrentRole };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    explicit PhaseStepsModel(QObject* parent = nullptr);
 
     ScanPhase phase() const { return m_phase; }
     void setPhase(ScanPhase phase);
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
 
 signals:
     void phaseChanged();
 
 private:
+    QVariant rowData(const PhaseStep& step, int role) const override;
+
     ScanPhase m_phase = ScanPhase::initializing;
-    std::array<PhaseStep, 5> m_steps = phaseSteps(ScanPhase::initializing);
 };
 
 } // namespace tessarine

@@ -18,7 +18,7 @@ Row {
     Text {
         anchors.verticalCenter: parent.verticalCenter
         text: parent.title
-        font: Theme.weighted(Theme.callout, Font.DemiBold)
+        font: Theme.weighted(Theme.subheadline, Font.DemiBold)
         color: Theme.primary
     }
 }

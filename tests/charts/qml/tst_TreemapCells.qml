@@ -76,9 +76,9 @@ TestCase {
         compare(doubleClickSpy.count, 1)
         compare(doubleClickSpy.signalArguments[0][0], 300)
 
-        // New cells forget the hovered one, which would now be another cell.
+        // New cells hover whatever lies under the pointer now.
         cells.cells = CellFixtures.grid(2, 2, 20)
-        compare(cells.hoveredIndex, -1)
+        compare(cells.hoveredIndex, 0)
         compare(cells.cellAt(100, 100), -1)
     }
 
@@ -103,6 +103,9 @@ TestCase {
 
         keyClick(Qt.Key_Space)
         compare(clickSpy.count, 1)
+        // A click restyles the cells (a new selection): the keys stay on their cell.
+        cells.cells = CellFixtures.restyled(cells.cells)
+        compare(cells.hoveredIndex, 3)
         compare(doubleClickSpy.count, 0)
         keyClick(Qt.Key_Return)
         compare(clickSpy.count, 2)

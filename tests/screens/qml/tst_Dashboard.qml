@@ -81,19 +81,6 @@ ScreenTestCase {
         compare(view.categorySelection.category, -1)
     }
 
-    function test_hoveringACellShowsItsDetails() {
-        const view = dashboard()
-        const treemap = ViewSearch.named(view, "categoryTreemapCells")
-        const label = cellLabels(view)[0]
-        verify(!ViewSearch.named(view, "treemapDetailsBar"))
-        mouseMove(treemap, label.x + label.width / 2, label.y + label.height / 2)
-        tryVerify(() => ViewSearch.named(view, "treemapDetailsBar") !== null)
-        const texts = ViewSearch.texts(ViewSearch.named(view, "treemapDetailsBar"))
-        verify(texts.indexOf(label.name) >= 0)
-        verify(texts.indexOf(label.share) >= 0)
-        mouseMove(treemap, -5, -5)
-    }
-
     function test_extensionsShowAllAndLess() {
         const view = dashboard()
         const extensionRows = () => ViewSearch.withProperty(view, "fraction").length
@@ -286,16 +273,28 @@ ScreenTestCase {
         verify(!ViewSearch.shows(view, "Insights"))
     }
 
-    function test_rescanScansTheSameFolder() {
+    // With the result's own options, whatever Settings say by then.
+    function test_rescanScansTheSameFolderAsBefore() {
         // A name that a URL parser would cut at "#" or decode at "%41".
         const folder = Fixture.makeFolder("Odd #1 %41 name")
         Fixture.showResult(folder)
         const view = createTemporaryObject(dashboardComponent, testCase)
+        verify(!ViewSearch.named(view, "scanOptionsLabel"))
+        AppState.scanOptions.includeHidden = true
         mouseClick(ViewSearch.named(view, "rescanButton"))
+        AppState.scanOptions.includeHidden = false
         compare(AppState.currentView, AppState.Scanning)
         tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
         compare(AppState.currentResult.rootPath, folder)
+        compare(AppState.currentResult.scanOptions.includeHidden, false)
         verify(!AppState.hasError)
+
+        // A new scan counts as Settings say, and the header tells how.
+        AppState.scanOptions.diskUsage = true
+        AppState.startScan(Fixture.urlOf(folder))
+        AppState.scanOptions.diskUsage = false
+        tryCompare(AppState, "currentView", AppState.Dashboard, 20000)
+        compare(ViewSearch.named(view, "scanOptionsLabel").text, "disk usage")
     }
 
     // Tab to a control below the fold scrolls it into sight.

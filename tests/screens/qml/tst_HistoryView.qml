@@ -122,4 +122,35 @@ ScreenTestCase {
         keyClick(Qt.Key_Return)
         tryVerify(() => !sheet.visible)
     }
+
+    // Between two scans of a tree a folder appeared inside media: the sheet names that folder
+    // alone, not media, and pressing it shows it in the file manager. A scan saved without folder
+    // sizes gets the line that says so.
+    function test_comparisonListsTheFoldersThatChanged() {
+        const root = Fixture.makeTree("compared")
+        const before = Fixture.saveScan(root)
+        const added = Fixture.makeTree("compared/media/added")
+        const sheet = createTemporaryObject(sheetComponent, testCase)
+        sheet.first = Fixture.saveScan(root)
+        sheet.second = before
+        sheet.open()
+        tryVerify(() => sheet.opened)
+        const rows = ViewSearch.visibleItems(sheet.contentItem,
+                                             item => item.hasOwnProperty("share"))
+        compare(rows.map(row => row.detail), [added])
+        compare(rows[0].beforeText, "—")
+        rows[0].forceActiveFocus()
+        keyClick(Qt.Key_Space)
+        compare(Fixture.takeDesktopRequests(), ["reveal " + added])
+
+        sheet.second = Fixture.resultWithoutTree(root)
+        compare(findChild(sheet, "folderNote").text,
+                "No folder sizes were saved with one or both of these scans.")
+    }
+
+    Component {
+        id: sheetComponent
+
+        ComparisonSheet {}
+    }
 }

@@ -8,7 +8,9 @@
 #include "FileTrees.h"
 
 #include "app/AppState.h"
+#include "scanner/FileSystemScanner.h"
 #include "screens/dashboard/FileActions.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 #include "tree/FolderTreeService.h"
 
@@ -194,6 +196,15 @@ QString AppFixture::missingFolder() const {
 
 void AppFixture::createFolderAt(const QString& path) const {
     QDir().mkpath(path);
+}
+
+AnalysisResult AppFixture::saveScan(const QString& root) {
+    FileSystemScanner scanner;
+    const AnalysisResult result = std::get<AnalysisResult>(scanner.scan(root));
+    if (m_store->save(result) ||
+        saveFolderSizes(m_store->storagePath(), result.id, *scanner.folderSizes()))
+        qFatal("cannot store a scan of %s", qPrintable(root));
+    return result;
 }
 
 AnalysisResult AppFixture::resultWithoutTree(const QString& root) const {

@@ -77,6 +77,8 @@ public:
     Q_INVOKABLE QString makeTree(const QString& name);
     Q_INVOKABLE QString missingFolder() const;
     Q_INVOKABLE void createFolderAt(const QString& path) const;
+    // Scans root now and stores the scan with its folder sizes, as the application does.
+    Q_INVOKABLE tessarine::AnalysisResult saveScan(const QString& root);
     // What a scan of root would report, without its folder tree.
     Q_INVOKABLE tessarine::AnalysisResult resultWithoutTree(const QString& root) const;
     // A result that carries its tree: three levels under "ann", files beside the sub-folders.

@@ -1,0 +1,11 @@
+#pragma once
+
+namespace tessarine::testing {
+
+// Keeps this test process away from the user's own files: QStandardPaths' test mode for the
+// history and every other standard location, and a settings folder of its own that goes with the
+// process, so that a test changing a setting touches neither the real ones nor those of a test
+// running beside it. Call it before anything reads a location or a setting.
+void isolateUserFiles();
+
+} // namespace tessarine::testing

@@ -1,0 +1,217 @@
+#include "CliRun.h"
+#include "FileTrees.h"
+
+#include "model/Json.h"
+
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+using namespace tessarine;
+using namespace tessarine::testing;
+
+namespace {
+
+// Runs ncdu itself; false (with a warning) when it fails.
+bool runNcdu(const QStringList& arguments) {
+    QProcess ncdu;
+    ncdu.start(QStringLiteral("ncdu"), arguments);
+    if (!ncdu.waitForFinished(-1) || ncdu.exitCode() != 0) {
+        qWarning("ncdu %s failed: %s", qPrintable(arguments.join(u' ')),
+                 ncdu.readAllStandardError().constData());
+        return false;
+    }
+    return true;
+}
+
+// A result or folder tree as JSON with what differs between two readings of one tree removed:
+// identities, the moments of the scan and of the files (ncdu keeps whole seconds), the duration,
+// and what records where a result came from.
+QJsonValue comparable(const QJsonValue& value, const QStringList& left) {
+    if (value.isArray()) {
+        QJsonArray items;
+        for (const QJsonValue& item : value.toArray())
+            items.append(comparable(item, left));
+        return items;
+    }
+    if (!value.isObject())
+        return value;
+    QJsonObject members;
+    const QJsonObject object = value.toObject();
+    for (auto it = object.begin(); it != object.end(); ++it) {
+        if (!left.contains(it.key()))
+            members.insert(it.key(), comparable(it.value(), left));
+    }
+    return members;
+}
+
+QJsonValue parsed(const QByteArray& text) {
+    const QJsonDocument document = QJsonDocument::fromJson(text);
+    return document.isObject() ? QJsonValue(document.object()) : QJsonValue();
+}
+
+const QStringList resultVariables{"id",           "scanDate",  "scanDuration", "modificationDate",
+                                  "importSource", "folderTree"};
+
+// A tree holding what a disk holds and an export must carry across: hidden items, a package, a
+// named pipe and links (generateTree), files with several names, odd and invalid names, and an
+// empty folder.
+void writeAwkwardTree(const QString& root) {
+    generateTree(root, 300, 7);
+    writeFile(root + "/links/first.bin", 5000);
+    QDir(root).mkpath("links/again");
+    QVERIFY(::link(QFile::encodeName(root + "/links/first.bin").constData(),
+                   QFile::encodeName(root + "/links/again/second.bin").constData()) == 0);
+    QDir(root).mkpath("empty");
+    writeFile(root + "/odd/new\nline \"quoted\" back\\slash.txt", 33);
+}
+
+} // namespace
+
+class CliImportTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() {
+        if (QStandardPaths::findExecutable("ncdu").isEmpty())
+            QSKIP("ncdu is not installed (scripts/install-deps.sh installs it)");
+    }
+
+    void importOfNcduExportEqualsScan() {
+        QTemporaryDir dir;
+        const QString root = dir.filePath("tree");
+        writeAwkwardTree(root);
+        RawNamedFiles raw(root + "/odd", {"caf\xe9.txt", "x\xff.txt", "x\xfe.txt"}, 10, 10);
+        const QString exported = dir.filePath("export.json");
+        QVERIFY(runNcdu({"-e", "-o", exported, root}));
+
+        const CliRun scan = runCli({"scan", root});
+        const CliRun imported = runCli({"import", exported});
+        QCOMPARE(imported.exitCode, 0);
+        QCOMPARE(comparable(parsed(imported.output), resultVariables),
+                 comparable(parsed(scan.output), resultVariables));
+
+        // The tree came with the file: the same folders as a build on the disk.
+        const QJsonObject result = parsed(imported.output).toObject();
+        QCOMPARE(comparable(result["folderTree"], {"id"}),
+                 comparable(parsed(runCli({"tree", root}).output), {"id"}));
+        const QJsonObject source = result["importSource"].toObject();
+        QCOMPARE(source["program"].toString(), "ncdu 1.18");
+        QCOMPARE(source["fileName"].toString(), "export.json");
+        QCOMPARE(source["unknownFields"].toArray(), QJsonArray{"scanDuration"});
+    }
+
+    // Without ncdu's extended mode nothing tells when a file changed: said, not invented. Read
+    // from a pipe and saved, as `ssh server ncdu -o- /srv | tessarine-cli import - --save` does.
+    void plainExportFromStandardInput() {
+        QTemporaryDir dir;
+        writeFiles(dir.filePath("tree"), {{"a/one.txt", 100}, {"two.jpg", 2000}});
+        const QString exported = dir.filePath("plain.json");
+        QVERIFY(runNcdu({"-o", exported, dir.filePath("tree")}));
+        const CliRun run = runCli({"import", "-", "--save"}, {.inputFile = exported});
+        QCOMPARE(run.exitCode, 0);
+        const auto result = json::decodeResult(run.output);
+        QVERIFY(result);
+        QCOMPARE(result->totalSize, 2100);
+        QCOMPARE(result->largestFiles.first().modificationDate, distantPast());
+        QCOMPARE(result->importSource->fileName, "standard input");
+        QVERIFY(result->importSource->unknownFields.contains("modificationDate"));
+        QVERIFY(QFile::exists(QDir(historyDirectory())
+                                  .filePath("scan_" +
+                                            result->id.toString(QUuid::WithoutBraces).toUpper() +
+                                            ".json")));
+    }
+
+    // A chain deeper than any stack: both ways, without recursion.
+    void deepChain() {
+        const QTemporaryDir dir = makeFastTemporaryDir();
+        QVERIFY(QDir(dir.path()).mkdir("chain"));
+        const FolderChain chain(dir.filePath("chain"), 10000);
+        const QString exported = dir.filePath("chain.json");
+        QVERIFY(runNcdu({"-o", exported, dir.filePath("chain")}));
+        const CliRun imported = runCli({"import", exported});
+        QCOMPARE(imported.exitCode, 0);
+        const auto result = json::decodeResult(imported.output);
+        QVERIFY(result);
+        QCOMPARE(result->maxDepth, 10001);
+        QCOMPARE(result->fileCount, 1);
+        QCOMPARE(result->folderTree->totalSize, 1);
+        QVERIFY(result->importSource->unknownFields.contains("folderTree"));
+
+        const QString ours = dir.filePath("ours.json");
+        QCOMPARE(runCli({"tree", dir.filePath("chain"), "--ncdu"}, {.outputFile = ours}).exitCode,
+                 0);
+        QVERIFY(runNcdu({"-f", ours, "-o", dir.filePath("again.json")}));
+    }
+
+    // ncdu browses what `tree --ncdu` writes, and its sums of every folder are ours.
+    void ncduReadsOurTree() {
+        QTemporaryDir dir;
+        const QString root = dir.filePath("tree");
+        writeAwkwardTree(root);
+        RawNamedFiles raw(root + "/odd", {"caf\xe9.txt"}, 10);
+        const QString ours = dir.filePath("ours.json");
+        const QString again = dir.filePath("again.json");
+        QCOMPARE(runCli({"tree", root, "--ncdu"}, {.outputFile = ours}).exitCode, 0);
+        QVERIFY(runNcdu({"-f", ours, "-o", again}));
+        const CliRun imported = runCli({"import", again});
+        QCOMPARE(imported.exitCode, 0);
+        QCOMPARE(comparable(parsed(imported.output).toObject()["folderTree"], {"id"}),
+                 comparable(parsed(runCli({"tree", root}).output), {"id"}));
+    }
+
+    void hostileImports_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QString>("message");
+        const QByteArray head = R"([1,2,{"progname":"ncdu"},[{"name":"/srv"},)";
+        QTest::newRow("truncated") << head + R"({"name":"a","asize":1)"
+                                   << "ends too early";
+        QTest::newRow("major version")
+            << QByteArray(R"([2,0,{},[{"name":"/"}]])") << "version 2 of the ncdu format";
+        QTest::newRow("past 64 bits") << head + R"({"name":"a","asize":99999999999999999999}]])"
+                                      << "past 64 bits";
+        QTest::newRow("slash") << head + R"({"name":"a/b"}]])"
+                               << "single path component";
+        QTest::newRow("dot dot") << head + R"([{"name":".."}]]])"
+                                 << "single path component";
+        QTest::newRow("nested") << head + QByteArray(100000, '[') << "expected \"{\"";
+        QTest::newRow("not json") << QByteArray("PK\x03\x04zip") << "Not an ncdu export";
+        QTest::newRow("not a result") << QByteArray(R"({"id": 1})") << "Invalid import file";
+        QTest::newRow("empty") << QByteArray() << "Not an ncdu export";
+    }
+
+    void hostileImports() {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, message);
+        const QStringList stored = QDir(historyDirectory()).entryList(QDir::Files);
+        QTemporaryDir dir;
+        const QString file = writeFile(dir.filePath("hostile.json"), text);
+        const CliRun run = runCli({"import", file, "--save"});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.errorText().contains(message), qPrintable(run.errorText()));
+        QVERIFY(run.output.isEmpty());
+        QCOMPARE(QDir(historyDirectory()).entryList(QDir::Files), stored);
+    }
+
+    // A file far larger than any export is refused or read without being copied into memory.
+    void hugeFile() {
+        QTemporaryDir dir;
+        QFile file(dir.filePath("huge.json"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64(2) << 30));
+        file.close();
+        const CliRun run = runCli({"import", file.fileName()});
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY2(run.errorText().contains("Not an ncdu export"), qPrintable(run.errorText()));
+    }
+};
+
+QTEST_GUILESS_MAIN(CliImportTest)
+#include "CliImportTest.moc"

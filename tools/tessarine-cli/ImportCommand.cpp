@@ -1,0 +1,43 @@
+#include "Commands.h"
+
+#include "Arguments.h"
+#include "ExitCode.h"
+#include "StandardStreams.h"
+#include "Usage.h"
+
+#include "import/ScanImport.h"
+#include "model/Json.h"
+#include "storage/PersistenceService.h"
+
+namespace tessarine::cli {
+
+namespace {
+
+const QString saveOption = QStringLiteral("--save");
+
+} // namespace
+
+int runImport(const QStringList& arguments) {
+    QString problem;
+    const auto parsed = parseArguments(arguments, {saveOption}, &problem);
+    if (!parsed)
+        return usageError(problem);
+    if (parsed->positional.size() != 1)
+        return usageError(QStringLiteral("import needs exactly one FILE (- for standard input)"));
+
+    const ImportOutcome outcome = importScanFile(parsed->positional.first());
+    if (const auto* error = std::get_if<ImportError>(&outcome)) {
+        printError(error->errorDescription());
+        return exitFailure;
+    }
+    const auto& result = std::get<AnalysisResult>(outcome);
+    if (parsed->has(saveOption)) {
+        if (const auto error = PersistenceService::shared().save(result)) {
+            printError(error->errorDescription());
+            return exitFailure;
+        }
+    }
+    return writeOutput(json::encode(result)) ? exitSuccess : exitFailure;
+}
+
+} // namespace tessarine::cli
