@@ -20,6 +20,8 @@ packages=(
   fonts-inter fonts-material-design-icons-iconfont
   # a session bus of its own for the colour-scheme portal test
   dbus-daemon
+  # a folder that stops answering, as a hung network mount does: a FUSE file system in Python
+  python3-fusepy fuse3
   # the real-window test: an X server of its own and real pointer and key events
   xvfb xdotool
   # benchmark peers and the peak-memory probe

@@ -1,9 +1,10 @@
 #include "AppState.h"
 
 #include "StoredScanOptions.h"
-#include "model/PathBytes.h"
 #include "import/ScanImport.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
+#include "model/WorkerThread.h"
 #include "scanner/FileSystemScanner.h"
 #include "scanner/PathAccess.h"
 #include "storage/FolderSizesFile.h"
@@ -52,7 +53,6 @@ AppState::AppState(PersistenceService& store, QObject* parent)
 
 AppState::~AppState() {
     m_currentScanCancel.cancel();
-    waitForWorkers();
     if (sharedInstance == this)
         sharedInstance = nullptr;
 }
@@ -109,10 +109,6 @@ void AppState::setScanOptions(const ScanOptions& options) {
 void AppState::clearError() {
     if (assignIfChanged(m_error, std::optional<AppError>()))
         emit errorChanged();
-}
-
-void AppState::waitForWorkers() {
-    m_workers.waitForDone();
 }
 
 void AppState::loadHistory() {
@@ -181,19 +177,16 @@ void AppState::performScan(TaskId task, const CancelToken& cancel, const QString
     m_currentScanner = scanner;
     m_watchedScanner = scanner;
     m_progressWatcher.start();
-    m_workers.start([this, task, cancel, scanner, folderPath] {
-        ScanOutcome outcome = scanner->scan(folderPath, cancel);
-        // Back on the interface thread; dropped by Qt if the state is gone by then.
-        QMetaObject::invokeMethod(
-            this,
-            [this, task, scanner, outcome = std::move(outcome)]() mutable {
+    startWorkerThread(
+        [this, replies = m_workerReplies.sender(), task, cancel, scanner, folderPath] {
+            ScanOutcome outcome = scanner->scan(folderPath, cancel);
+            replies.post([this, task, scanner, outcome = std::move(outcome)]() mutable {
                 if (auto* result = std::get_if<AnalysisResult>(&outcome))
                     finishScan(task, scanner, std::move(*result));
                 else
                     failScan(task, std::get<ScanError>(outcome));
-            },
-            Qt::QueuedConnection);
-    });
+            });
+        });
 }
 
 void AppState::finishScan(TaskId task, const std::shared_ptr<FileSystemScanner>& scanner,
@@ -252,21 +245,18 @@ void AppState::deleteScan(const ScanSummary& scan) {
 }
 
 void AppState::importScan(const QUrl& file) {
-    m_workers.start([this, path = folderPathOf(file)] {
+    startWorkerThread([this, replies = m_workerReplies.sender(), path = folderPathOf(file)] {
         ImportOutcome outcome = importScanFile(path);
-        QMetaObject::invokeMethod(
-            this,
-            [this, outcome = std::move(outcome)] {
-                if (const auto* failure = std::get_if<ImportError>(&outcome)) {
-                    setError(AppError::importFailed(failure->errorDescription()));
-                    return;
-                }
-                const auto& result = std::get<AnalysisResult>(outcome);
-                // Its folder tree travels in the result itself.
-                saveResult(result, nullptr);
-                openResult(result);
-            },
-            Qt::QueuedConnection);
+        replies.post([this, outcome = std::move(outcome)] {
+            if (const auto* failure = std::get_if<ImportError>(&outcome)) {
+                setError(AppError::importFailed(failure->errorDescription()));
+                return;
+            }
+            // No scan pass tallied its folders here, so it keeps no folder sizes file.
+            const auto& result = std::get<AnalysisResult>(outcome);
+            saveResult(result, nullptr);
+            openResult(result);
+        });
     });
 }
 

@@ -8,9 +8,9 @@
 #include "model/ScanProgress.h"
 
 #include "model/CancelToken.h"
+#include "model/WorkerReplies.h"
 
 #include <QObject>
-#include <QThreadPool>
 #include <QTimer>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
@@ -62,8 +62,7 @@ public:
 
     // Loads the history from the store at once. The store outlives this state.
     explicit AppState(PersistenceService& store, QObject* parent = nullptr);
-    // Stops a running scan and waits for its worker, which stops within moments, so nothing
-    // outlives the state.
+    // Cancels a running scan without waiting for it (see WorkerThread.h).
     ~AppState() override;
 
     // QML's AppState is the instance the application made; see setSharedInstance.
@@ -126,10 +125,6 @@ public:
     // newest stored), so that a neighbour is one click away; the home folder when there is none.
     Q_INVOKABLE QUrl folderPickerStart() const;
 
-    // Blocks until every scan worker has returned, the replaced and cancelled ones included. Their
-    // outcomes reach the state with the next event processing.
-    void waitForWorkers();
-
 signals:
     // A scan is about to begin, a replacing one included: a scanning screen on display starts
     // over.
@@ -184,7 +179,9 @@ private:
     // interface by polling, never once per file.
     QTimer m_progressWatcher;
     std::shared_ptr<FileSystemScanner> m_watchedScanner;
-    QThreadPool m_workers;
+    // Each scan and import has a worker thread of its own: a cancelled scan stuck on a folder that
+    // does not answer is left behind, and the next one starts at once beside it.
+    WorkerReplies m_workerReplies{this};
 
     std::unique_ptr<HistoryFollower> m_historyFollower;
     bool m_loadFailureShown = false;

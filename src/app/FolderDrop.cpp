@@ -14,8 +14,8 @@ bool FolderDrop::isFolder(const QUrl& url) {
 bool FolderDrop::isImportable(const QUrl& url) {
     if (!url.isLocalFile())
         return false;
-    const auto status = pathStatus(pathFromUrl(url));
-    return status && !S_ISDIR(status->st_mode);
+    const std::optional<struct stat> status = pathStatus(pathFromUrl(url));
+    return status && S_ISREG(status->st_mode);
 }
 
 } // namespace tessarine

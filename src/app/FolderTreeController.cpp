@@ -1,6 +1,7 @@
 #include "FolderTreeController.h"
 
 #include "AppError.h"
+#include "model/WorkerThread.h"
 #include "tree/FolderTreeRoot.h"
 
 namespace tessarine {
@@ -9,7 +10,7 @@ FolderTreeController::FolderTreeController(QObject* parent)
     : QObject(parent) {}
 
 FolderTreeController::~FolderTreeController() {
-    stopWorker();
+    m_currentCancel.cancel();
 }
 
 void FolderTreeController::setTree(const SharedFolderTree& tree) {
@@ -20,31 +21,27 @@ void FolderTreeController::setTree(const SharedFolderTree& tree) {
 }
 
 void FolderTreeController::build(const QString& rootPath, const ScanOptions& options) {
-    stopWorker();
+    m_currentCancel.cancel();
     const BuildId build = ++m_currentBuild;
     m_currentCancel = CancelToken();
     setErrorText({});
     setState(Building);
-    m_worker.reset(QThread::create([this, build, rootPath, options, cancel = m_currentCancel] {
+    startWorkerThread([this, service = m_service, replies = m_replies.sender(), build, rootPath,
+                       options, cancel = m_currentCancel] {
         const std::optional<FolderTreeError> rootError = unlistableRootError(rootPath);
         FolderTreeOutcome outcome =
-            rootError ? FolderTreeOutcome(*rootError) : m_service.build(rootPath, options, cancel);
-        // Dropped by Qt when the controller is gone by the time it would arrive.
-        QMetaObject::invokeMethod(
-            this,
-            [this, build, outcome = std::move(outcome)]() mutable {
-                finish(build, std::move(outcome));
-            },
-            Qt::QueuedConnection);
-    }));
-    m_worker->start();
+            rootError ? FolderTreeOutcome(*rootError) : service->build(rootPath, options, cancel);
+        replies.post([this, build, outcome = std::move(outcome)]() mutable {
+            finish(build, std::move(outcome));
+        });
+    });
 }
 
 void FolderTreeController::cancel() {
     m_currentCancel.cancel();
     if (m_state != Building)
         return;
-    m_service.setCancelled(true);
+    m_service->setCancelled(true);
     ++m_currentBuild;
     setState(Idle);
 }
@@ -65,12 +62,6 @@ void FolderTreeController::finish(BuildId build, FolderTreeOutcome outcome) {
     }
     setErrorText(AppError::loadFailed(error.errorDescription()).errorDescription());
     setState(Failed);
-}
-
-void FolderTreeController::stopWorker() {
-    m_currentCancel.cancel();
-    if (m_worker)
-        m_worker->wait();
 }
 
 void FolderTreeController::setState(State state) {

@@ -3,11 +3,11 @@
 #include "model/CancelToken.h"
 #include "model/Records.h"
 #include "model/ScanOptions.h"
+#include "model/WorkerReplies.h"
 #include "tree/FolderTreeService.h"
 
 #include <QObject>
 #include <QString>
-#include <QThread>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -15,9 +15,10 @@
 namespace tessarine {
 
 // The folder tree of one shown result: builds it on demand with its own FolderTreeService on a
-// worker thread and keeps the finished tree. Destroying it cancels a build under way and waits
-// for the worker, which stops within moments, so a dashboard can hold one per result it shows and
-// let it go at any time.
+// worker thread and keeps the finished tree. It never waits for a build: one called off (by
+// Cancel, a new build or the controller going away) is cancelled and left to end on its own, which
+// on a folder that does not answer may take until it answers; its outcome is then dropped. So a
+// dashboard can hold one per result it shows and let it go at any time.
 class FolderTreeController : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -38,7 +39,7 @@ public:
     ~FolderTreeController() override;
 
     State state() const { return m_state; }
-    FolderTreeService* service() { return &m_service; }
+    FolderTreeService* service() { return m_service.get(); }
     QString errorText() const { return m_errorText; }
     bool hasTree() const { return m_tree.has_value(); }
     const SharedFolderTree& tree() const { return m_tree; }
@@ -63,19 +64,18 @@ private:
     using BuildId = quint64;
 
     void finish(BuildId build, FolderTreeOutcome outcome);
-    // Cancels the running build and waits for its worker: the service serves one build at a time.
-    void stopWorker();
     void setState(State state);
     void setErrorText(const QString& text);
 
-    FolderTreeService m_service;
+    // Shared with the builds, which may outlive the controller.
+    std::shared_ptr<FolderTreeService> m_service = FolderTreeService::makeShared();
     State m_state = Idle;
     QString m_errorText;
     SharedFolderTree m_tree;
     // The current build; the outcome of any other is dropped.
     BuildId m_currentBuild = 0;
     CancelToken m_currentCancel;
-    std::unique_ptr<QThread> m_worker;
+    WorkerReplies m_replies{this};
 };
 
 } // namespace tessarine

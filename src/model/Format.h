@@ -32,6 +32,10 @@ QString relativeDate(const QDateTime& date, const QDateTime& now);
 // Local wall-clock time "HH:mm:ss", as used by the activity log.
 QString clockTime(const QDateTime& date);
 
+// A folder that has kept the walk waiting for a while, as on a hung network mount:
+// "Waiting for photos to respond...".
+QString waitingFor(const QString& folder);
+
 // Shown in place of a value that is not known.
 QString missing();
 

@@ -28,6 +28,7 @@ struct ScanProgress {
     Q_PROPERTY(QString currentPath MEMBER currentPath)
     Q_PROPERTY(qint64 bytesScanned MEMBER bytesScanned)
     Q_PROPERTY(QDateTime startTime MEMBER startTime)
+    Q_PROPERTY(QString unansweredFolder MEMBER unansweredFolder)
 
 public:
     ScanPhase phase = ScanPhase::initializing;
@@ -37,6 +38,9 @@ public:
     qint64 bytesScanned = 0;
     QDateTime startTime;
     std::optional<qint64> estimatedTotalFiles;
+    // A folder that has kept discovery waiting for seconds (a hung network mount); empty while
+    // every folder answers.
+    QString unansweredFolder;
 
     // Time since startTime: "< 1s", "42s" or "2m 5s".
     QString formattedElapsedTime(const QDateTime& now = QDateTime::currentDateTimeUtc()) const;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <condition_variable>
 #include <fcntl.h>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <sys/resource.h>
@@ -93,7 +94,7 @@ public:
     WalkOutcome run();
 
 private:
-    void work(ListingArena& arena);
+    void work(std::size_t worker);
     std::optional<PendingFolder> take();
     void listFolder(DirectoryReader& reader, const PendingFolder& pending);
     void queueSubfolders(std::span<ListedDirectory* const> subfolders, int fd);
@@ -102,6 +103,7 @@ private:
     void release(HeldDescriptor* held);
     bool isCancelled() const { return m_cancelled && m_cancelled->load(std::memory_order_relaxed); }
     void reportProgress();
+    const ListedDirectory* unansweredFolder();
 
     const DirectoryWalker::Options& m_options;
     const std::atomic<bool>* m_cancelled;
@@ -126,6 +128,15 @@ private:
     std::atomic<qint64> m_folders{0};
     std::atomic<int> m_heldCount{0};
     std::atomic<const ListedDirectory*> m_recentFolder{nullptr};
+
+    // The folder each worker is opening and listing, null between folders.
+    std::unique_ptr<std::atomic<const ListedDirectory*>[]> m_listing;
+    // Each worker's folder at the reports, and since when it has been the same (run() only).
+    struct Watched {
+        const ListedDirectory* folder = nullptr;
+        std::chrono::steady_clock::time_point since;
+    };
+    std::vector<Watched> m_watched;
 };
 
 WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
@@ -139,7 +150,9 @@ WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArr
     , m_rootDevice(rootDevice)
     , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
                                                  : std::max(16, raiseOpenFileLimit() / 2))
-    , m_hardLinks(options.detail.summedFiles) {
+    , m_hardLinks(options.detail.summedFiles)
+    , m_listing(new std::atomic<const ListedDirectory*>[std::size_t(threadCount)] {})
+    , m_watched(std::size_t(threadCount)) {
     m_stack.push_back({m_root, nullptr});
 }
 
@@ -151,10 +164,10 @@ WalkOutcome WalkSession::run() {
     std::vector<std::thread> workers;
     const bool extrasYield = extraThreadsYield.load(std::memory_order_relaxed);
     for (std::size_t i = 0; i < m_arenas.size(); ++i)
-        workers.emplace_back([this, &arena = m_arenas[i], yield = extrasYield && i >= cores()] {
+        workers.emplace_back([this, i, yield = extrasYield && i >= cores()] {
             if (yield)
                 setpriority(PRIO_PROCESS, id_t(gettid()), yieldingNice);
-            work(arena);
+            work(i);
         });
     {
         std::unique_lock lock(m_mutex);
@@ -181,11 +194,13 @@ WalkOutcome WalkSession::run() {
     return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
 }
 
-void WalkSession::work(ListingArena& arena) {
-    DirectoryReader reader(arena, m_hardLinks, m_options.detail, m_options.scanOptions,
+void WalkSession::work(std::size_t worker) {
+    DirectoryReader reader(m_arenas[worker], m_hardLinks, m_options.detail, m_options.scanOptions,
                            m_rootDevice);
     while (const std::optional<PendingFolder> pending = take()) {
+        m_listing[worker].store(pending->folder, std::memory_order_release);
         listFolder(reader, *pending);
+        m_listing[worker].store(nullptr, std::memory_order_relaxed);
         std::lock_guard lock(m_mutex);
         if (--m_busyWorkers == 0 && m_stack.empty()) {
             m_done = true;
@@ -287,7 +302,29 @@ void WalkSession::reportProgress() {
     // folders are still being filled is safe.
     if (const ListedDirectory* recent = m_recentFolder.load(std::memory_order_acquire))
         progress.recentFolderPath = recent->pathBelow(m_rootPath);
+    // Its name and parent were set before the worker took it, so they are safe to read too.
+    if (const ListedDirectory* unanswered = unansweredFolder())
+        progress.unansweredFolderPath = unanswered->pathBelow(m_rootPath);
     m_options.onProgress(progress);
+}
+
+// Told apart at the reports rather than timed by the workers, which would cost a clock reading
+// per folder: a folder seen on the same worker at two reports has been waited on all along, as
+// each folder is listed once.
+const ListedDirectory* WalkSession::unansweredFolder() {
+    const auto now = std::chrono::steady_clock::now();
+    const Watched* longest = nullptr;
+    for (std::size_t worker = 0; worker < m_watched.size(); ++worker) {
+        Watched& watched = m_watched[worker];
+        const ListedDirectory* folder = m_listing[worker].load(std::memory_order_acquire);
+        if (folder != watched.folder)
+            watched = {folder, now};
+        else if (folder && (!longest || watched.since < longest->since))
+            longest = &watched;
+    }
+    if (!longest || now - longest->since < DirectoryWalker::unansweredAfter)
+        return nullptr;
+    return longest->folder;
 }
 
 } // namespace

@@ -17,6 +17,9 @@ struct WalkProgress {
     qint64 items = 0;            // every item discovered, of any kind
     qint64 folders = 0;          // of those, directories and packages
     QByteArray recentFolderPath; // a folder listed a moment ago, in file-system bytes
+    // The folder that has kept a worker waiting longest, once that is unansweredAfter or more (a
+    // hung network mount); empty otherwise.
+    QByteArray unansweredFolderPath;
 };
 
 // Lists a whole folder hierarchy into a DirectoryListing, in parallel across folders.
@@ -28,6 +31,10 @@ struct WalkProgress {
 // scheduling: every folder's entries are kept in the order the file system listed them.
 class DirectoryWalker {
 public:
+    // Listing a folder takes milliseconds even from a slow disk; a folder still being listed after
+    // this long is worth naming to the user.
+    static constexpr std::chrono::seconds unansweredAfter{3};
+
     struct Options {
         // Worker threads; 0 means one per hardware thread and a few more, which wait on the disk
         // while the others list and stat.

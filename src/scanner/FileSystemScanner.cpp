@@ -77,14 +77,19 @@ DirectoryListing FileSystemScanner::discover(const QString& rootPath, const QDat
     options.scanOptions = m_options;
     options.progressInterval = discoveryPublishInterval;
     options.onProgress = [&](const WalkProgress& walk) {
-        // Before the first folder is listed there is no path to show and nothing counted yet.
-        if (walk.items == 0 || walk.recentFolderPath.isEmpty() ||
+        // Before the first folder is listed there is no path to show and nothing counted yet,
+        // unless that folder keeps the walk waiting.
+        const bool waiting = !walk.unansweredFolderPath.isEmpty();
+        if ((!waiting && (walk.items == 0 || walk.recentFolderPath.isEmpty())) ||
             std::chrono::steady_clock::now() - lastPublish < discoveryPublishInterval)
             return;
         ScanProgress progress = snapshot(ScanPhase::scanning, startTime);
         progress.filesScanned = walk.items - walk.folders;
         progress.foldersScanned = walk.folders;
-        progress.currentPath = pathFromBytes(walk.recentFolderPath);
+        progress.currentPath =
+            pathFromBytes(waiting ? walk.unansweredFolderPath : walk.recentFolderPath);
+        if (waiting)
+            progress.unansweredFolder = progress.currentPath;
         publish(std::move(progress));
         lastPublish = std::chrono::steady_clock::now();
     };

@@ -1,5 +1,6 @@
 #include "app/AppState.h"
 #include "model/PathBytes.h"
+#include "model/WorkerThread.h"
 #include "shell/LaunchOptions.h"
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
@@ -55,5 +56,5 @@ int main(int argc, char* argv[]) {
         return 1;
     if (launch.folder)
         state.startScan(*launch.folder);
-    return QGuiApplication::exec();
+    return tessarine::leaveProcess(QGuiApplication::exec());
 }

@@ -14,7 +14,7 @@ constexpr std::chrono::milliseconds progressInterval{100};
 
 DirectoryListing enumerateFolders(const QString& rootPath, const ScanOptions& scanOptions,
                                   const std::atomic<bool>& cancelled,
-                                  const std::function<void(qint64, qint64)>& onProgress) {
+                                  const std::function<void(const WalkProgress&)>& onProgress) {
     auto lastSent = std::chrono::steady_clock::now();
     DirectoryWalker::Options options;
     options.cancelled = &cancelled;
@@ -33,7 +33,7 @@ DirectoryListing enumerateFolders(const QString& rootPath, const ScanOptions& sc
         if (now - lastSent < progressInterval)
             return;
         lastSent = now;
-        onProgress(walk.items, walk.folders);
+        onProgress(walk);
     };
     return DirectoryWalker(std::move(options)).walk(rootPath);
 }

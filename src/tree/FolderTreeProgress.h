@@ -19,6 +19,7 @@ struct FolderTreeProgress {
     Q_PROPERTY(qint64 processedItems MEMBER processedItems)
     Q_PROPERTY(QString currentFolder MEMBER currentFolder)
     Q_PROPERTY(QDateTime startTime MEMBER startTime)
+    Q_PROPERTY(QString unansweredFolder MEMBER unansweredFolder)
     Q_PROPERTY(QString statusText READ statusText)
 
 public:
@@ -30,6 +31,9 @@ public:
     qint64 processedItems = 0;
     QString currentFolder;
     QDateTime startTime;
+    // A folder that has kept the enumeration waiting for seconds (a hung network mount); empty
+    // while every folder answers.
+    QString unansweredFolder;
 
     // "1,234 items found", "300 / 1,200 folders", "1,200 folders processed", "Cancelled".
     QString statusText() const;

@@ -1,9 +1,13 @@
 #include "tree/FolderTreeService.h"
 
 #include "model/Format.h"
+#include "model/PathBytes.h"
 #include "model/PathNames.h"
+#include "scanner/DirectoryWalker.h"
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
+
+#include <QThread>
 
 #include <array>
 
@@ -25,6 +29,16 @@ FolderTreeError cancelledError() {
 
 FolderTreeService::FolderTreeService(QObject* parent)
     : QObject(parent) {}
+
+std::shared_ptr<FolderTreeService> FolderTreeService::makeShared() {
+    return std::shared_ptr<FolderTreeService>(new FolderTreeService,
+                                              [](FolderTreeService* service) {
+                                                  if (service->thread() == QThread::currentThread())
+                                                      delete service;
+                                                  else
+                                                      service->deleteLater();
+                                              });
+}
 
 std::optional<FolderTreeProgress> FolderTreeService::progress() const {
     return m_progress;
@@ -49,37 +63,61 @@ void FolderTreeService::setCancelled(bool cancelled) {
 
 FolderTreeOutcome FolderTreeService::build(const QString& rootPath, const ScanOptions& options,
                                            CancelToken task) {
-    using Phase = FolderTreeProgress::Phase;
+    const BuildId build = ++m_newestBuild;
     setCancelled(false);
     {
         std::lock_guard lock(m_taskMutex);
         m_task = task;
     }
-    setBuilding(true);
-    m_startTime = QDateTime::currentDateTimeUtc();
+    applyIfNewest(build, [this] { setBuilding(true); });
+    FolderTreeOutcome outcome = walkAndAssemble(build, rootPath, options, task);
+    // A cancelled build is over too, and the request that cancelled it with it.
+    applyIfNewest(build, [this] {
+        setBuilding(false);
+        setCancelled(false);
+    });
+    return outcome;
+}
+
+FolderTreeOutcome FolderTreeService::walkAndAssemble(BuildId build, const QString& rootPath,
+                                                     const ScanOptions& options,
+                                                     const CancelToken& task) {
+    using Phase = FolderTreeProgress::Phase;
+    const QDateTime startTime = QDateTime::currentDateTimeUtc();
+    const auto record = [&](Phase phase, qint64 total, qint64 processed,
+                            const QString& currentFolder) {
+        return FolderTreeProgress{phase, total, processed, currentFolder, startTime, QString()};
+    };
     const QString root = cleanRootPath(rootPath);
-    publish(record(Phase::enumerating, 0, 0, root));
+    publish(build, record(Phase::enumerating, 0, 0, root));
 
     const DirectoryListing listing =
-        enumerateFolders(root, options, task.flag(), [this](qint64 items, qint64 folders) {
-            publish(record(Phase::enumerating, 0, items, foundText(items, folders)));
+        enumerateFolders(root, options, task.flag(), [&](const WalkProgress& walk) {
+            FolderTreeProgress progress =
+                record(Phase::enumerating, 0, walk.items, foundText(walk.items, walk.folders));
+            // The folder at hand is then the one the walk waits for.
+            if (!walk.unansweredFolderPath.isEmpty()) {
+                progress.unansweredFolder = pathFromBytes(walk.unansweredFolderPath);
+                progress.currentFolder =
+                    format::waitingFor(lastPathComponent(progress.unansweredFolder));
+            }
+            publish(build, progress);
         });
     if (task.isCancelled())
         return cancelledError();
     const qint64 folderCount = treeFolderCount(listing);
-    publish(record(Phase::enumerating, 0, listing.itemCount(),
-                   foundText(listing.itemCount(), folderCount)));
+    publish(build, record(Phase::enumerating, 0, listing.itemCount(),
+                          foundText(listing.itemCount(), folderCount)));
 
-    publish(record(Phase::building, folderCount, 0, root));
+    publish(build, record(Phase::building, folderCount, 0, root));
     FolderTreeAssembly assembly(
         task.flag(), folderCount, [&](qint64 processed, const QString& folderName) {
-            publish(record(Phase::building, folderCount, processed, folderName));
+            publish(build, record(Phase::building, folderCount, processed, folderName));
         });
     std::optional<FolderInfo> tree = assembly.assemble(listing, root);
     if (!tree)
         return cancelledError();
-    publish(record(Phase::complete, folderCount, assembly.processedCount(), root));
-    setBuilding(false);
+    publish(build, record(Phase::complete, folderCount, assembly.processedCount(), root));
     return std::move(*tree);
 }
 
@@ -98,27 +136,29 @@ QVariant FolderTreeService::estimatedTimeRemaining() const {
 
 // The build runs on its own thread, so the interface never waits for it and needs no yielding:
 // each record is simply handed over to the service's thread (at once when that is this thread).
-void FolderTreeService::publish(const FolderTreeProgress& progress) {
+void FolderTreeService::publish(BuildId build, const FolderTreeProgress& progress) {
     if (m_observer)
         m_observer(progress);
-    QMetaObject::invokeMethod(this, [this, progress] {
+    applyIfNewest(build, [this, progress] {
         m_progress = progress;
         emit progressChanged();
     });
 }
 
-void FolderTreeService::setBuilding(bool building) {
-    QMetaObject::invokeMethod(this, [this, building] {
-        if (m_building == building)
-            return;
-        m_building = building;
-        emit isBuildingChanged();
+// Checked where the change lands, so a record a stuck build made long ago cannot overwrite what
+// a newer build shows.
+void FolderTreeService::applyIfNewest(BuildId build, std::function<void()> change) {
+    QMetaObject::invokeMethod(this, [this, build, change = std::move(change)] {
+        if (build == m_newestBuild.load())
+            change();
     });
 }
 
-FolderTreeProgress FolderTreeService::record(FolderTreeProgress::Phase phase, qint64 total,
-                                             qint64 processed, const QString& currentFolder) const {
-    return FolderTreeProgress{phase, total, processed, currentFolder, m_startTime};
+void FolderTreeService::setBuilding(bool building) {
+    if (m_building == building)
+        return;
+    m_building = building;
+    emit isBuildingChanged();
 }
 
 } // namespace tessarine

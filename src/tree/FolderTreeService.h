@@ -13,6 +13,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <optional>
 #include <variant>
@@ -24,8 +25,10 @@ using FolderTreeOutcome = std::variant<FolderInfo, FolderTreeError>;
 // Builds the per-folder size tree of a scanned folder on demand. build() blocks its (worker)
 // thread; every progress record and the end of isBuilding are delivered on the thread the service
 // lives on (the user-interface thread), through queued calls. isCancelled may be set from any
-// thread while a build runs: it cancels the running build's task. One build at a time; the
-// service must outlive a running build.
+// thread while a build runs: it cancels the running build's task. A new build may start while a
+// cancelled one is still stuck on a folder that does not answer: only the newest build's records
+// reach the service's fields, and isBuilding and isCancelled go back to false when it ends, however
+// it ends. The service must outlive its builds (see makeShared).
 class FolderTreeService : public QObject {
     Q_OBJECT
     // The latest progress record, field by field for the interface; all change together.
@@ -41,6 +44,10 @@ class FolderTreeService : public QObject {
 
 public:
     explicit FolderTreeService(QObject* parent = nullptr);
+
+    // A service that builds left behind on a worker thread keep alive as long as they run: the
+    // last owner lets it go on the service's own thread.
+    static std::shared_ptr<FolderTreeService> makeShared();
 
     std::optional<FolderTreeProgress> progress() const;
     bool isBuilding() const;
@@ -81,10 +88,14 @@ signals:
     void isCancelledChanged();
 
 private:
-    void publish(const FolderTreeProgress& progress);
+    using BuildId = quint64;
+
+    FolderTreeOutcome walkAndAssemble(BuildId build, const QString& rootPath,
+                                      const ScanOptions& options, const CancelToken& task);
+    void publish(BuildId build, const FolderTreeProgress& progress);
+    // Runs `change` on the service's thread if `build` is still the newest one by then.
+    void applyIfNewest(BuildId build, std::function<void()> change);
     void setBuilding(bool building);
-    FolderTreeProgress record(FolderTreeProgress::Phase phase, qint64 total, qint64 processed,
-                              const QString& currentFolder) const;
 
     std::optional<FolderTreeProgress> m_progress; // only touched on the service's thread
     bool m_building = false;                      // likewise
@@ -92,7 +103,7 @@ private:
     // The running build's task, which setCancelled(true) cancels; the build polls its own copy.
     CancelToken m_task; // guarded by m_taskMutex
     std::mutex m_taskMutex;
-    QDateTime m_startTime; // of the running build, on its thread
+    std::atomic<BuildId> m_newestBuild{0};
     ProgressObserver m_observer;
 };
 

@@ -107,6 +107,13 @@ private slots:
         QCOMPARE((QStringList{status.files, status.folders, status.dataScanned, status.fileRate,
                               status.elapsed, status.throughput, status.remaining}),
                  (QStringList{"1,200", "300", "5 MB", "1200/s", "30s", "4.8 MB", "30s remaining"}));
+        QVERIFY(!status.waiting);
+
+        // A folder that keeps the walk waiting takes the description's place.
+        scan.unansweredFolder = QStringLiteral("/mnt/nfs/photos");
+        const ScanStatus waiting = scanStatus(scan, rates, scan.startTime.addSecs(30));
+        QCOMPARE(waiting.phaseDescription, "Waiting for photos to respond...");
+        QVERIFY(waiting.waiting);
     }
 
     void rateMeterMeasuresRawDifferencesFromZero() {

@@ -3,6 +3,7 @@
 #include "HistoryTable.h"
 #include "ProgressLine.h"
 #include "ProgressText.h"
+#include "StallingMount.h"
 #include "model/ScanProgress.h"
 #include "model/ScanSummary.h"
 
@@ -106,25 +107,38 @@ private slots:
     }
 
     // Ctrl-C during the long-running commands: a clean stop with the cancellation's own text and
-    // the status a shell gives an interrupted job.
+    // the status a shell gives an interrupted job, also while a folder does not answer.
     void ctrlCCancels_data() {
         QTest::addColumn<QString>("command");
+        QTest::addColumn<bool>("stuck");
         QTest::addColumn<QString>("message");
-        QTest::newRow("scan") << "scan"
-                              << "Scan was cancelled\n";
-        QTest::newRow("tree") << "tree"
-                              << "Folder tree building was cancelled\n";
+        for (const bool stuck : {false, true}) {
+            const char* where = stuck ? " of a folder that does not answer" : "";
+            QTest::addRow("scan%s", where) << "scan" << stuck << "Scan was cancelled\n";
+            QTest::addRow("tree%s", where)
+                << "tree" << stuck << "Folder tree building was cancelled\n";
+        }
     }
 
     void ctrlCCancels() {
         QFETCH(QString, command);
+        QFETCH(bool, stuck);
         QFETCH(QString, message);
-        const auto run = runCliInterrupted({command, m_folder.path()});
+        std::optional<StallingMount> mount;
+        if (stuck) {
+            mount.emplace();
+            SKIP_WITHOUT_FUSE(*mount);
+        }
+        const auto run = stuck ? runCliInterrupted({command, mount->path()},
+                                                   [&] { return mount->waitForStalls(); })
+                               : runCliInterrupted({command, m_folder.path()});
         if (!run)
             QSKIP("the command ended before it caught Ctrl-C");
         QCOMPARE(run->exitCode, 130);
         QCOMPARE(run->errorText(), message);
         QCOMPARE(run->output, QByteArray());
+        // It ended while the folder still did not answer, not once it finally did.
+        QVERIFY(!stuck || mount->isStalling());
     }
 
     // Hostile names and arguments, as a user runs into them at a terminal.
@@ -173,15 +187,19 @@ private slots:
     // The texts a person reads on the terminal, checked without a terminal.
     void scanLineShowsWhatIsKnown() {
         ProgressText<ScanProgress> text;
-        ScanProgress discovery{ScanPhase::scanning, 4000, 1000, "/x", 0, m_start, std::nullopt};
+        ScanProgress discovery{ScanPhase::scanning, 4000, 1000, "/x", 0, m_start, std::nullopt, {}};
         // No rate before the phase has run a while, no bytes while discovery reads none.
         QCOMPARE(text.describe(discovery, m_start.addSecs(1)), "Discovering files...  5,000 items");
         discovery.filesScanned = 8000;
         QCOMPARE(text.describe(discovery, m_start.addSecs(3)),
                  "Discovering files...  9,000 items  2,000 items/s");
+        discovery.unansweredFolder = "/mnt/nfs";
+        QCOMPARE(
+            text.describe(discovery, m_start.addSecs(4)),
+            "Discovering files...  Waiting for /mnt/nfs to respond...  9,000 items  1,333 items/s");
 
         // Analysis counts from zero again, so its rate starts afresh.
-        ScanProgress analysis{ScanPhase::analyzing, 0, 0, "/x", 0, m_start, 10000};
+        ScanProgress analysis{ScanPhase::analyzing, 0, 0, "/x", 0, m_start, 10000, {}};
         QCOMPARE(text.describe(analysis, m_start.addSecs(3)),
                  "Analyzing files...  0 / 10,000 items");
         analysis.filesScanned = 4500;

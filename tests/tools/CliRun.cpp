@@ -66,11 +66,12 @@ CliRun runCli(const QStringList& arguments, const CliOptions& options) {
     return finish(process);
 }
 
-std::optional<CliRun> runCliInterrupted(const QStringList& arguments) {
+std::optional<CliRun> runCliInterrupted(const QStringList& arguments,
+                                        const std::function<bool()>& underWay) {
     QProcess process;
     if (!start(process, arguments, {}))
         return std::nullopt;
-    while (!catchesInterrupt(process.processId())) {
+    while (!catchesInterrupt(process.processId()) || (underWay && !underWay())) {
         if (process.waitForFinished(1))
             return std::nullopt;
     }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace tessarine::testing {
@@ -29,8 +30,10 @@ struct CliOptions {
 CliRun runCli(const QStringList& arguments, const CliOptions& options = {});
 
 // Runs the program and sends it Ctrl-C (SIGINT) as soon as it catches that signal, that is once
-// its work is under way. None when the program ended before that.
-std::optional<CliRun> runCliInterrupted(const QStringList& arguments);
+// its work is under way, and `underWay` (when given) has returned true. None when the program
+// ended before that.
+std::optional<CliRun> runCliInterrupted(const QStringList& arguments,
+                                        const std::function<bool()>& underWay = {});
 
 // The history folder the program uses in this test.
 QString historyDirectory();

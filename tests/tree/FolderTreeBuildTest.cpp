@@ -26,7 +26,7 @@ QList<qint64> processedCounts(const QList<FolderTreeProgress>& records) {
 }
 
 FolderTreeProgress building(qint64 total, qint64 processed) {
-    return FolderTreeProgress{Phase::building, total, processed, QString(), QDateTime()};
+    return FolderTreeProgress{Phase::building, total, processed, QString(), QDateTime(), QString()};
 }
 
 } // namespace
@@ -119,8 +119,8 @@ private slots:
         QTest::newRow("in the node pass") << int(Phase::building) << 1LL;
     }
 
-    // The build stops at the record that cancelled it, and the same service builds again
-    // afterwards.
+    // The build stops at the record that cancelled it, is over as far as the service shows, and
+    // the same service builds again afterwards.
     void cancelStopsTheBuild() {
         QFETCH(int, phase);
         QFETCH(qint64, processed);
@@ -139,6 +139,8 @@ private slots:
         QCOMPARE(build.records.last().processedItems, processed);
         QCoreApplication::sendPostedEvents();
         QCOMPARE(service.progress(), std::optional(build.records.last()));
+        QVERIFY(!service.isBuilding());
+        QVERIFY(!service.isCancelled());
 
         const RecordedBuild again = recordBuild(service, dir.path());
         QVERIFY(!service.isCancelled());

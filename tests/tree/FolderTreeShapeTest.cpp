@@ -233,7 +233,7 @@ private slots:
         generateTree(dir.path(), 24000, 11u);
         const std::atomic<bool> notCancelled{false};
         const DirectoryListing listing =
-            enumerateFolders(dir.path(), {}, notCancelled, [](qint64, qint64) {});
+            enumerateFolders(dir.path(), {}, notCancelled, [](const WalkProgress&) {});
         int unreadable = 0;
         for (const ListedEntry& entry : listing.root()->entries()) {
             if (entry.contents() && entry.contents()->state() == ListedDirectory::State::listed &&

@@ -3,11 +3,11 @@
 #include "Interrupt.h"
 #include "ProgressLine.h"
 
-#include <QEventLoop>
-#include <QThread>
-#include <QTimer>
+#include "model/WorkerReplies.h"
+#include "model/WorkerThread.h"
 
-#include <memory>
+#include <QEventLoop>
+#include <QTimer>
 
 namespace tessarine::cli {
 
@@ -15,29 +15,40 @@ namespace {
 
 constexpr int pollMilliseconds = 125;
 
+// Long enough for a cancelled walk to wind down and report its cancellation as usual, short
+// enough that Ctrl-C still feels immediate when it cannot.
+constexpr int abandonMilliseconds = 500;
+
 } // namespace
 
 bool runInBackground(const BackgroundJob& job) {
     const InterruptCatcher interrupt;
     ProgressLine line;
     QEventLoop loop;
-    const std::unique_ptr<QThread> worker(QThread::create(job.work));
-    QObject::connect(worker.get(), &QThread::finished, &loop, &QEventLoop::quit);
+    const WorkerReplies replies(&loop);
+
+    QTimer abandon;
+    abandon.setSingleShot(true);
+    abandon.setInterval(abandonMilliseconds);
+    QObject::connect(&abandon, &QTimer::timeout, &loop, &QEventLoop::quit);
 
     QTimer poll;
     poll.setInterval(pollMilliseconds);
     QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        // Cancelling is idempotent, so there is no need to remember having done it.
-        if (interrupt.interrupted())
+        if (interrupt.interrupted() && !abandon.isActive()) {
             job.cancel();
+            abandon.start();
+        }
         if (line.isShown())
             line.show(job.describe());
     });
 
     poll.start();
-    worker->start();
+    startWorkerThread([work = job.work, done = replies.sender(), &loop] {
+        work();
+        done.post([&loop] { loop.quit(); });
+    });
     loop.exec();
-    worker->wait();
     line.clear();
     return interrupt.interrupted();
 }

@@ -6,12 +6,15 @@
 #include "StandardStreams.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace tessarine::cli {
 
 // A blocking operation of the core (a scan, a tree build), seen from the command line.
 template <typename Outcome, typename Progress> struct CancellableOperation {
+    // Runs on a worker thread that may outlive the operation (see runInBackground): it owns what
+    // it touches.
     std::function<Outcome()> run;
     std::function<void()> cancel;
     std::function<std::optional<Progress>()> progress;
@@ -23,9 +26,9 @@ template <typename Outcome, typename Progress> struct CancellableOperation {
 template <typename Outcome, typename Progress>
 Outcome runCancellable(const CancellableOperation<Outcome, Progress>& operation) {
     ProgressText<Progress> text;
-    Outcome outcome = operation.cancelled;
+    const auto outcome = std::make_shared<Outcome>(operation.cancelled);
     const bool interrupted = runInBackground({
-        [&] { outcome = operation.run(); },
+        [run = operation.run, outcome] { *outcome = run(); },
         operation.cancel,
         [&] {
             const auto progress = operation.progress();
@@ -36,7 +39,7 @@ Outcome runCancellable(const CancellableOperation<Outcome, Progress>& operation)
     // a folder tree of a large disk is tens of thousands of nodes.
     if (interrupted)
         return operation.cancelled;
-    return outcome;
+    return std::move(*outcome);
 }
 
 // Prints a failure in its own words and gives the exit status; cancelling is not failing.

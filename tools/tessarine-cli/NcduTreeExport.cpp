@@ -2,33 +2,63 @@
 
 #include "BackgroundJob.h"
 #include "ExitCode.h"
+#include "ProgressParts.h"
 #include "StandardStreams.h"
 
 #include "import/NcduExportWriter.h"
 #include "model/Format.h"
+#include "model/PathBytes.h"
 #include "scanner/DirectoryWalker.h"
 
 #include "ReleaseInfo.h"
 
 #include <atomic>
+#include <memory>
+#include <mutex>
 
 namespace tessarine::cli {
 
-int writeNcduTree(const QString& rootPath, const ScanOptions& options) {
+namespace {
+
+// What the walk touches, shared with its worker, which Ctrl-C may leave behind on a folder that
+// does not answer (see runInBackground).
+struct NcduWalk {
     std::atomic<bool> cancelled{false};
     std::atomic<qint64> found{0};
+    std::mutex waitingMutex;
+    QString waitingFor; // guarded by waitingMutex
+    DirectoryListing listing;
+};
+
+} // namespace
+
+int writeNcduTree(const QString& rootPath, const ScanOptions& options) {
+    const auto shared = std::make_shared<NcduWalk>();
     DirectoryWalker::Options walk;
-    walk.cancelled = &cancelled;
+    walk.cancelled = &shared->cancelled;
     // As the folder tree counts: a link at its own size, and every file kept with its name.
     walk.detail.linkSizes = true;
     walk.scanOptions = options;
-    walk.onProgress = [&](const WalkProgress& progress) { found = progress.items; };
-    DirectoryListing listing;
+    walk.onProgress = [state = shared.get()](const WalkProgress& progress) {
+        state->found = progress.items;
+        std::lock_guard lock(state->waitingMutex);
+        state->waitingFor = pathFromBytes(progress.unansweredFolderPath);
+    };
     const bool interrupted = runInBackground({
-        [&] { listing = DirectoryWalker(std::move(walk)).walk(rootPath); },
-        [&] { cancelled = true; },
-        [&] { return found ? format::count(found) + QStringLiteral(" items") : QString(); },
+        [shared, walk = std::move(walk), rootPath]() mutable {
+            shared->listing = DirectoryWalker(std::move(walk)).walk(rootPath);
+        },
+        [shared] { shared->cancelled = true; },
+        [&state = *shared] {
+            if (!state.found)
+                return QString();
+            QStringList parts{format::count(state.found) + QStringLiteral(" items")};
+            std::lock_guard lock(state.waitingMutex);
+            insertWaiting(parts, state.waitingFor);
+            return joinParts(parts);
+        },
     });
+    const DirectoryListing& listing = shared->listing;
     if (interrupted || listing.wasCancelled()) {
         printError(QStringLiteral("Folder tree build was cancelled"));
         return exitCancelled;

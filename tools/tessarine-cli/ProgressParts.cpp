@@ -9,6 +9,11 @@ void appendRate(QStringList& parts, std::optional<double> perSecond, const QStri
         parts.append(format::count(qRound64(*perSecond)) + u' ' + unit + QStringLiteral("/s"));
 }
 
+void insertWaiting(QStringList& parts, const QString& unansweredFolder) {
+    if (!unansweredFolder.isEmpty())
+        parts.insert(1, format::waitingFor(unansweredFolder));
+}
+
 QString joinParts(const QStringList& parts) {
     return parts.join(QStringLiteral("  "));
 }

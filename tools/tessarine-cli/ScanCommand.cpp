@@ -10,6 +10,8 @@
 #include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
+#include <memory>
+
 namespace tessarine::cli {
 
 namespace {
@@ -17,12 +19,12 @@ namespace {
 const QString saveOption = QStringLiteral("--save");
 const QString csvOption = QStringLiteral("--csv");
 
-ScanOutcome scan(FileSystemScanner& scanner, const QString& folder) {
+ScanOutcome scan(const std::shared_ptr<FileSystemScanner>& scanner, const QString& folder) {
     const CancelToken task;
     return runCancellable<ScanOutcome, ScanProgress>({
-        [&] { return scanner.scan(folder, task); },
-        [&] { task.cancel(); },
-        [&] { return scanner.currentProgress(); },
+        [scanner, folder, task] { return scanner->scan(folder, task); },
+        [task] { task.cancel(); },
+        [scanner] { return scanner->currentProgress(); },
         ScanError{ScanError::Kind::cancelled, {}},
     });
 }
@@ -42,9 +44,9 @@ int runScan(const QStringList& arguments) {
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
 
-    FileSystemScanner scanner(scanOptionsOf(parsed));
+    const auto scanner = std::make_shared<FileSystemScanner>(scanOptionsOf(parsed));
     // Folder sizes go only into the history: a printed result has no place for them.
-    scanner.setKeepsFolderSizes(parsed.has(saveOption));
+    scanner->setKeepsFolderSizes(parsed.has(saveOption));
     const ScanOutcome outcome = scan(scanner, parsed.positional.first());
     if (const auto* error = std::get_if<ScanError>(&outcome))
         return reportFailure(*error);
@@ -59,7 +61,7 @@ int runScan(const QStringList& arguments) {
         PersistenceService& store = PersistenceService::shared();
         auto error = store.save(result);
         if (!error)
-            error = saveFolderSizes(store.storagePath(), result.id, *scanner.folderSizes());
+            error = saveFolderSizes(store.storagePath(), result.id, *scanner->folderSizes());
         if (error) {
             printError(error->errorDescription());
             return exitFailure;

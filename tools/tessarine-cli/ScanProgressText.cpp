@@ -28,6 +28,7 @@ QString ProgressText<ScanProgress>::describe(const ScanProgress& progress, const
     appendRate(parts, m_rate.rate(int(progress.phase), done, now), QStringLiteral("items"));
     if (const auto remaining = progress.formattedRemainingTime(now))
         parts.append(*remaining);
+    insertWaiting(parts, progress.unansweredFolder);
     return joinParts(parts);
 }
 

@@ -27,12 +27,12 @@ qint64 levelsBelow(const FolderInfo& root) {
 }
 
 FolderTreeOutcome buildTree(const QString& rootPath, const ScanOptions& options) {
-    FolderTreeService service;
+    const auto service = FolderTreeService::makeShared();
     const CancelToken task;
     return runCancellable<FolderTreeOutcome, FolderTreeProgress>({
-        [&] { return service.build(rootPath, options, task); },
-        [&] { task.cancel(); },
-        [&] { return service.progress(); },
+        [service, rootPath, options, task] { return service->build(rootPath, options, task); },
+        [task] { task.cancel(); },
+        [service] { return service->progress(); },
         FolderTreeError{FolderTreeError::Kind::cancelled, {}},
     });
 }

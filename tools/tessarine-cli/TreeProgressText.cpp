@@ -18,6 +18,7 @@ QString ProgressText<FolderTreeProgress>::describe(const FolderTreeProgress& pro
     appendRate(parts, m_rate.rate(int(progress.phase), progress.processedItems, now), unit);
     if (const auto remaining = progress.estimatedTimeRemaining(now))
         parts.append(format::compactDuration(*remaining) + QStringLiteral(" remaining"));
+    insertWaiting(parts, progress.unansweredFolder);
     return joinParts(parts);
 }
 

@@ -4,6 +4,7 @@
 #include "StandardStreams.h"
 
 #include "model/PathBytes.h"
+#include "model/WorkerThread.h"
 
 #include <QCoreApplication>
 
@@ -17,5 +18,6 @@ int main(int argc, char** argv) {
 
     QCoreApplication application(argc, argv);
     // Not QCoreApplication::arguments(), which loses the bytes of a folder name that is not UTF-8.
-    return runCommandLine(tessarine::argumentsFromBytes(argc, argv).mid(1));
+    return tessarine::leaveProcess(
+        runCommandLine(tessarine::argumentsFromBytes(argc, argv).mid(1)));
 }

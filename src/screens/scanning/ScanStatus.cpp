@@ -15,6 +15,7 @@ ScanStatus scanStatus(const std::optional<ScanProgress>& progress, const ScanRat
     ScanStatus status{
         .phaseTitle = rawValue(phase),
         .phaseDescription = phaseDescription(phase),
+        .waiting = false,
         .phaseSymbol = phaseSymbol(progress ? std::optional(phase) : std::nullopt),
         .itemCount = {},
         .currentName = {},
@@ -30,6 +31,10 @@ ScanStatus scanStatus(const std::optional<ScanProgress>& progress, const ScanRat
     if (!progress)
         return status;
     status.itemCount = format::count(progress->filesScanned + progress->foldersScanned);
+    if (!progress->unansweredFolder.isEmpty()) {
+        status.phaseDescription = format::waitingFor(lastPathComponent(progress->unansweredFolder));
+        status.waiting = true;
+    }
     status.currentName = lastPathComponent(progress->currentPath);
     status.locationCrumbs = locationCrumbs(progress->currentPath);
     status.files = format::count(progress->filesScanned);

@@ -18,6 +18,7 @@ struct ScanStatus {
     QML_VALUE_TYPE(scanStatus)
     Q_PROPERTY(QString phaseTitle MEMBER phaseTitle)
     Q_PROPERTY(QString phaseDescription MEMBER phaseDescription)
+    Q_PROPERTY(bool waiting MEMBER waiting)
     Q_PROPERTY(QString phaseSymbol MEMBER phaseSymbol)
     Q_PROPERTY(QString itemCount MEMBER itemCount)
     Q_PROPERTY(QString currentName MEMBER currentName)
@@ -32,7 +33,8 @@ struct ScanStatus {
 
 public:
     QString phaseTitle;
-    QString phaseDescription;
+    QString phaseDescription; // or, while a folder does not answer, that it is waited for
+    bool waiting = false;
     QString phaseSymbol;
     QString itemCount;   // files and folders under the ring; empty without a snapshot
     QString currentName; // the item the scan is at, without its folders

@@ -74,7 +74,7 @@ Column {
         anchors.horizontalCenter: parent.horizontalCenter
         text: view.status.phaseDescription
         font: Theme.caption
-        color: Theme.secondary
+        color: view.status.waiting ? Theme.orange : Theme.secondary
     }
 
     Text {
