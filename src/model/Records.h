@@ -250,7 +250,7 @@ public:
     QHash<QString, ExtensionStats> extensionStats; // keyed by ExtensionStats::ext
     QList<PatternInsight> insights;
     SharedFolderTree folderTree;
-    ScanOptions scanOptions; // what the scan was made with
+    ScanOptions scanOptions;                  // what the scan was made with
     std::optional<ImportSource> importSource; // only in results read from another program's file
 
     // The extension entries, largest totalSize first.
