@@ -12,8 +12,8 @@ class WindowProbePlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "probe.json")
 
 public:
-    QObject* create(const QString& key, const QString& specification) override {
-        return key == QLatin1String("tessarineprobe") ? new WindowProbe(specification) : nullptr;
+    QObject* create(const QString& key, const QString& serverName) override {
+        return key == QLatin1String("tessarineprobe") ? new WindowProbe(serverName) : nullptr;
     }
 };
 
