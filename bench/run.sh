@@ -163,7 +163,9 @@ table() {
         }'
         unset -n wall rss
     done
-    declare -g "best_${round}walker=$(fastest "${walkers[@]/#/$round}")"
+    # Only rounds that timed the walkers have a floor.
+    [[ -v wall_${round}walker_2 ]] && declare -g "best_${round}walker=$(fastest "${walkers[@]/#/$round}")"
+    return 0
 }
 
 walkers=(walker-2 walker-8 walker-16)
@@ -314,7 +316,7 @@ for ((run = 1; run <= runs; run++)); do
     measure import import_
 done
 label[import]="tessarine-cli import"
-table import_ "$runs" tessarine import
+table import_ "$runs" "$items" tessarine import
 import_vs_scan=$(ratio "$wall_import_import" "$wall_import_tessarine")
 import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s "$ncdu_export")" \
     'BEGIN { printf "%.0f", scan + bytes / 1024 }')
