@@ -16,6 +16,7 @@
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QQmlApplicationEngine>
 #include <QQmlProperty>
 #include <QQuickItem>
@@ -116,16 +117,23 @@ public:
     }
 
 private:
-    // What the window shows once two frames in a row draw the same picture. The scanning ring
-    // never stops turning: a window still changing after a couple of seconds is taken as it is.
+    // What the window shows once its frames have drawn the same picture for longer than any
+    // entrance waits before it starts (a summary card waits up to 200 ms): two equal frames in a
+    // row are not enough, they come before the cards' and bars' animations have begun. The
+    // scanning ring never stops turning: a window still changing after a few seconds is taken as
+    // it is.
     static QImage settledImage(QQuickWindow* window) {
+        constexpr qint64 unchangedFor = 300;
         QImage previous = window->grabWindow();
-        QDeadlineTimer deadline(2500);
-        while (!deadline.hasExpired() && nextFrame(window)) {
+        QElapsedTimer unchanged;
+        unchanged.start();
+        QDeadlineTimer deadline(4000);
+        while (!deadline.hasExpired() && unchanged.elapsed() < unchangedFor && nextFrame(window)) {
             QImage next = window->grabWindow();
-            if (next == previous)
-                break;
-            previous = std::move(next);
+            if (next != previous) {
+                previous = std::move(next);
+                unchanged.restart();
+            }
         }
         return previous;
     }
