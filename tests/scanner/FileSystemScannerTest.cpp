@@ -1,15 +1,12 @@
 #include "FileTrees.h"
 #include "RecordedScan.h"
 #include "ReferenceWalk.h"
-#include "model/PathBytes.h"
 
 #include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <climits>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -138,42 +135,6 @@ private slots:
         QCOMPARE(sizes.cutoff, cutoff);
         QCOMPARE(folderSizesByPath(sizes), referenceFolderSizes(dir.path(), sizes.cutoff));
         QCOMPARE(int(sizes.rows.size()), keptFolders);
-    }
-
-    void keepsOddNamesReadable() {
-        QTemporaryDir dir;
-        const QList<QByteArray> names{"with space.txt", "quote\"and'apostrophe.Md",
-                                      "new\nline.txt",  "bad-\xff\xfe.\xfe",
-                                      "trailing-dot.",  "ümlaut.JPEG"};
-        const RawNamedFiles files(dir.path(), names, 10, 1);
-
-        const AnalysisResult result = recordScan(dir.path()).result();
-
-        QCOMPARE(result.largestFiles.size(), names.size());
-        for (const FileInfo& file : result.largestFiles) {
-            const QByteArray& raw = names[file.size - 10];
-            QCOMPARE(pathToBytes(file.name), raw);
-            QCOMPARE(file.path, dir.path() + '/' + file.name);
-        }
-        QVERIFY(result.extensionStats.contains("md"));
-        QCOMPARE(result.extensionStats.value("").fileCount, 1); // a trailing dot is no extension
-        QCOMPARE(result.extensionStats.value("jpeg").category, FileCategory::images);
-    }
-
-    void scansChainDeeperThanPathMax() {
-        const QTemporaryDir dir = makeFastTemporaryDir();
-        const int depth = 10000;
-        const FolderChain chain(dir.path(), depth);
-
-        const AnalysisResult result = recordScan(dir.path()).result();
-
-        QCOMPARE(result.folderCount, depth);
-        QCOMPARE(result.fileCount, 1);
-        QCOMPARE(result.maxDepth, depth + 1);
-        QCOMPARE(qint64(result.depthDistribution.size()), depth + 1);
-        const FileInfo& leaf = result.largestFiles.front();
-        QVERIFY(leaf.path.size() > PATH_MAX);
-        QVERIFY(leaf.path.endsWith("/d/d/leaf.txt"));
     }
 };
 

@@ -128,21 +128,6 @@ private slots:
         QVERIFY(last.estimatedTotalFiles.value_or(0) < items);
     }
 
-    void cancelBeforeAnythingWasFoundMeansNothingToAccess() {
-        QTemporaryDir dir;
-        writeFolders(dir.path(), 50, 4);
-
-        const RecordedScan scan =
-            recordScan(dir.path(), [](FileSystemScanner& scanner, const ScanProgress& progress) {
-                if (progress.phase == ScanPhase::scanning)
-                    scanner.cancel();
-            });
-
-        QCOMPARE(scan.error(),
-                 (ScanError{ScanError::Kind::cannotAccessDirectory, QDir::cleanPath(dir.path())}));
-        QCOMPARE(scan.phases().back(), ScanPhase::scanning);
-    }
-
     // Discovery stores each item's metadata beside it; the analysis never goes back to the disk, so
     // files deleted in between neither disturb it nor change its figures.
     void analysesWhatDiscoveryFoundEvenIfFilesVanish() {

@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -62,15 +61,6 @@ private slots:
         for (const char* command : {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
             QVERIFY2(run.output.contains(command), command);
         QCOMPARE(run.errors, QByteArray());
-    }
-
-    void versionGoesToStandardOutput() {
-        const CliRun run = runCli({"--version"});
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY2(QRegularExpression(QStringLiteral("^tessarine-cli \\d+\\.\\d+\\.\\d+\n$"))
-                     .match(QString::fromUtf8(run.output))
-                     .hasMatch(),
-                 run.output.constData());
     }
 
     void badUsageExitsWithTwo_data() {

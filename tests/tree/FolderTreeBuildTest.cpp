@@ -6,7 +6,6 @@
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 #include <QTimeZone>
 
 #include <thread>
@@ -167,33 +166,6 @@ private slots:
         QVERIFY(std::holds_alternative<FolderTreeError>(*outcome));
         QCOMPARE(std::get<FolderTreeError>(*outcome).kind, FolderTreeError::Kind::cancelled);
         QCOMPARE(records.last().phase, Phase::enumerating);
-    }
-
-    void recordsReachTheServiceThread() {
-        QTemporaryDir dir;
-        writeFolders(dir.path(), 30, 1);
-        FolderTreeService service;
-        QList<bool> onServiceThread;
-        QList<bool> buildingStates;
-        connect(&service, &FolderTreeService::progressChanged, this,
-                [&] { onServiceThread.append(QThread::currentThread() == service.thread()); });
-        connect(&service, &FolderTreeService::isBuildingChanged, this,
-                [&] { buildingStates.append(service.isBuilding()); });
-        QList<FolderTreeProgress> made;
-        service.setProgressObserver([&](const FolderTreeProgress& record) { made.append(record); });
-
-        FolderTreeOutcome outcome = FolderTreeError{};
-        std::thread worker([&] { outcome = service.build(dir.path()); });
-        worker.join();
-        QVERIFY(!service.progress()); // nothing arrives until the service's thread takes it
-        QCoreApplication::sendPostedEvents();
-
-        QVERIFY(std::holds_alternative<FolderInfo>(outcome));
-        QCOMPARE(onServiceThread, QList<bool>(made.size(), true));
-        QCOMPARE(service.progress(), std::optional(made.last()));
-        QCOMPARE(buildingStates, (QList<bool>{true, false}));
-        QCOMPARE(service.processedItems(), 31);
-        QCOMPARE(service.totalItems(), 30);
     }
 };
 
