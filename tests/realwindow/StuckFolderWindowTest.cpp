@@ -1,8 +1,9 @@
 #include "StuckFolderWindowTest.h"
 
 #include "DashboardResult.h"
-#include "StallingMount.h"
 #include "FileTrees.h"
+#include "RealWindow.h"
+#include "StallingMount.h"
 #include "storage/PersistenceService.h"
 
 #include <QTest>
@@ -12,7 +13,6 @@ namespace tessarine::testing {
 namespace {
 
 const QString waiting = QStringLiteral("Waiting for stalls to respond...");
-
 
 // The real program beside a folder that stops answering (a FUSE file system, as a hung network
 // mount): the scan and the folder tree that wait on it name it, Cancel leaves them behind, a scan
@@ -78,6 +78,8 @@ private slots:
         QVERIFY(!build.isEmpty());
         m_app->click(build.center());
         QVERIFY(m_mount->waitForStalls(2));
+        QVERIFY(
+            !m_app->scrollTo(QStringLiteral("folderTreeProgressCard"), page.center()).isEmpty());
         QVERIFY(!m_app->waitFor(waiting).isEmpty());
     }
 

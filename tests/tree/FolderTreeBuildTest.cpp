@@ -2,11 +2,10 @@
 #include "RecordedBuild.h"
 
 #include <QCoreApplication>
-#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimeZone>
 
 #include <thread>
 
@@ -22,10 +21,6 @@ QList<qint64> processedCounts(const QList<FolderTreeProgress>& records) {
     for (const FolderTreeProgress& record : records)
         counts.append(record.processedItems);
     return counts;
-}
-
-FolderTreeProgress building(qint64 total, qint64 processed) {
-    return FolderTreeProgress{Phase::building, total, processed, QString(), QDateTime(), QString()};
 }
 
 } // namespace
@@ -76,39 +71,6 @@ private slots:
         QCOMPARE(service.progress(), std::optional(last));
         QVERIFY(!service.isBuilding());
         QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
-    }
-
-    // Every fifth folder reports from 400 folders on; the root, processed last, reports too.
-    void updateIntervalScalesWithFolderCount() {
-        const QTemporaryDir thousand = makeFastTemporaryDir();
-        QVERIFY(thousand.isValid());
-        for (int i = 0; i < 1000; ++i)
-            QVERIFY(QDir(thousand.path()).mkdir(QStringLiteral("f%1").arg(i)));
-        const RecordedBuild build = recordBuild(thousand.path());
-        QList<qint64> everyFifth;
-        for (qint64 processed = 0; processed <= 1000; processed += 5)
-            everyFifth.append(processed);
-        QCOMPARE(processedCounts(build.recordsIn(Phase::building)), everyFifth);
-        QCOMPARE(build.records.last().processedItems, 1001);
-        QCOMPARE(build.records.last().totalItems, 1000);
-        QVERIFY(build.tree().childFolders.empty());
-    }
-
-    void remainingTime() {
-        const QDateTime start(QDate(2024, 3, 5), QTime(10, 0), QTimeZone::utc());
-        const auto estimate = [&](qint64 total, qint64 processed) {
-            FolderTreeProgress progress = building(total, processed);
-            progress.startTime = start;
-            return progress.estimatedTimeRemaining(start.addSecs(10));
-        };
-        QCOMPARE(estimate(1200, 300), std::optional(30.0));
-        // No estimate before anything is known, or while at most five percent is done.
-        QCOMPARE(estimate(0, 10), std::nullopt);
-        QCOMPARE(estimate(1200, 0), std::nullopt);
-        QCOMPARE(estimate(1200, 60), std::nullopt);
-        QVERIFY(estimate(1200, 61).value() > 180);
-        QCOMPARE(estimate(1200, 1201),
-                 std::optional(0.0)); // the root comes after the counted folders
     }
 
     void cancelStopsTheBuild_data() {

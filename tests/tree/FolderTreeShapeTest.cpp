@@ -6,7 +6,6 @@
 #include "tree/FolderEnumeration.h"
 #include "tree/FolderTreeAssembly.h"
 
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -53,66 +52,19 @@ private slots:
 
     // Hidden entries, a package (one file of its own entry's size), a named pipe, links to files,
     // folders and nothing (counted at their own size, not followed), empty folders and zero-byte
-    // files, in the file system's own listing order.
+    // files, and sibling folders of equal size (kept in listing order), in the file system's own
+    // listing order.
     void equalsPlainRecursiveBuild() {
         QFETCH(int, items);
         QFETCH(unsigned, seed);
         const QTemporaryDir dir = makeFastTemporaryDir();
         generateTree(dir.path(), items, seed);
+        writeFiles(dir.path(), {{"twin-a/f", 7}, {"twin-b/f", 7}, {"twin-c/f", 7}});
 
         const FolderInfo built = withoutIds(recordBuild(dir.path()).tree());
 
         QVERIFY(built == withoutIds(referenceTree(dir.path())));
         QVERIFY(built.childFolders.size() > 1);
-    }
-
-    void childrenLargestFirstEqualSizesInListingOrder() {
-        QTemporaryDir dir;
-        const QString root = dir.path();
-        for (int i = 0; i < 6; ++i)
-            writeFile(root + QStringLiteral("/same%1/file").arg(i), 7);
-        writeFile(root + "/bigger/file", 8);
-        writeFile(root + "/smaller/file", 6);
-
-        QStringList expected{"bigger"};
-        for (const QByteArray& name : listingOrder(root)) {
-            if (name.startsWith("same"))
-                expected.append(QString::fromUtf8(name));
-        }
-        expected.append("smaller");
-
-        QCOMPARE(childNames(recordBuild(root).tree()), expected);
-    }
-
-    void roots_data() {
-        QTest::addColumn<QString>("root");
-        QTest::addColumn<QString>("path"); // of the tree's root node
-        QTest::addColumn<qint64>("totalSize");
-        QTest::newRow("only files, trailing slash") << "files/"
-                                                    << "files" << 7LL;
-        // A root that cannot be listed is a bare leaf under its own path.
-        QTest::newRow("missing") << "absent"
-                                 << "absent" << 0LL;
-        QTest::newRow("a file") << "files/a.txt"
-                                << "files/a.txt" << 0LL;
-    }
-
-    void roots() {
-        QFETCH(QString, root);
-        QFETCH(QString, path);
-        QFETCH(qint64, totalSize);
-        QTemporaryDir dir;
-        writeFiles(dir.path(), {{"files/a.txt", 3}, {"files/b.txt", 4}});
-
-        const RecordedBuild build = recordBuild(dir.path() + '/' + root);
-
-        const FolderInfo& tree = build.tree();
-        QCOMPARE(tree.path(), dir.path() + '/' + path);
-        QCOMPARE(tree.name, QFileInfo(tree.path()).fileName());
-        QCOMPARE(tree.totalSize, totalSize);
-        QCOMPARE(tree.fileCount, totalSize ? 2 : 0);
-        QCOMPARE(tree.color, FolderColor::blue);
-        QCOMPARE(build.records.last().processedItems, 1);
     }
 
     void folderThatCannotBeListedBecomesLeaf() {
