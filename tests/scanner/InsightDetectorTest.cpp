@@ -59,8 +59,6 @@ private slots:
                                            << 10000LL << QStringList{nodeModules};
         QTest::newRow("1000 files are not many")
             << extensions("js:600:900 json:400:100") << Depths() << 1000LL << QStringList();
-        QTest::newRow("depth 10 is not deep")
-            << Extensions() << Depths{{10, {500, 0, 5000}}} << 5000LL << QStringList();
         QTest::newRow("100 deep files are not many")
             << Extensions() << Depths{{11, {60, 900, 10}}, {20, {40, 0, 10}}} << 20LL
             << QStringList();

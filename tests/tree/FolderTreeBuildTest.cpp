@@ -7,8 +7,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <thread>
-
 using namespace tessarine;
 using namespace tessarine::testing;
 
@@ -107,27 +105,6 @@ private slots:
         QVERIFY(!service.isCancelled());
         QCOMPARE(again.tree().totalSize, 20);
         QCOMPARE(again.records.last().phase, Phase::complete);
-    }
-
-    // The dashboard's Cancel, or the dashboard closing, right after Build: the task is cancelled
-    // while its worker is still starting, and must not go on to walk the whole tree.
-    void taskCancelledAsItStartsBuildsNoNode() {
-        const QTemporaryDir dir = makeFastTemporaryDir();
-        generateTree(dir.path(), 30000, 5u);
-        FolderTreeService service;
-        const CancelToken task;
-        std::optional<FolderTreeOutcome> outcome;
-        QList<FolderTreeProgress> records;
-        service.setProgressObserver(
-            [&](const FolderTreeProgress& record) { records.append(record); });
-
-        std::thread worker([&] { outcome = service.build(dir.path(), {}, task); });
-        task.cancel();
-        worker.join();
-
-        QVERIFY(std::holds_alternative<FolderTreeError>(*outcome));
-        QCOMPARE(std::get<FolderTreeError>(*outcome).kind, FolderTreeError::Kind::cancelled);
-        QCOMPARE(records.last().phase, Phase::enumerating);
     }
 };
 
