@@ -45,7 +45,8 @@ public:
     RealApp(const RealApp&) = delete;
     RealApp& operator=(const RealApp&) = delete;
 
-    // Starts the program and waits until its probe answers; false if it did not come up.
+    // Starts the program, or starts it again once it has ended, and waits until its probe answers;
+    // false if it did not come up.
     bool start();
     // The program's home folder, where its save dialog starts.
     QString home() const { return m_home.path(); }
