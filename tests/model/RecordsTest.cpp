@@ -1,6 +1,5 @@
 #include "model/Records.h"
 #include "model/FileCategory.h"
-#include "model/FolderColor.h"
 
 #include <QTest>
 
@@ -25,13 +24,6 @@ QStringList namesOf(const std::vector<const FolderInfo*>& folders) {
     for (const FolderInfo* info : folders)
         names.append(info->name);
     return names;
-}
-
-ExtensionStats extension(const QString& ext, qint64 totalSize) {
-    ExtensionStats stats;
-    stats.ext = ext;
-    stats.totalSize = totalSize;
-    return stats;
 }
 
 } // namespace
@@ -87,18 +79,7 @@ private slots:
         QCOMPARE(categoryForExtension(extension), category);
     }
 
-    void folderColoursWrapAround() {
-        QCOMPARE(folderColorAt(0), FolderColor::blue);
-        QCOMPARE(folderColorAt(12), FolderColor::blue);
-        QCOMPARE(folderColorAt(13), FolderColor::green);
-        QCOMPARE(folderColorAt(-1), FolderColor::cyan);
-    }
-
     void folderDerivedValues() {
-        const FolderInfo leaf = folder(QStringLiteral("leaf"), 700);
-        QCOMPARE(leaf.directFilesSize(), 700);
-        QCOMPARE(namesOf(leaf.flattened()), QStringList{QStringLiteral("leaf")});
-
         const FolderInfo tree =
             folder(QStringLiteral("root"), 100,
                    {folder(QStringLiteral("a"), 30,
@@ -171,18 +152,6 @@ private slots:
         tip.reset();
     }
 
-    // Depths in numeric order: ChartListModelsTest's depth levels.
-    void resultDerivedValues() {
-        AnalysisResult result;
-        result.extensionStats = {{QStringLiteral("mp4"), extension(QStringLiteral("mp4"), 500)},
-                                 {QString(), extension(QString(), 900)},
-                                 {QStringLiteral("txt"), extension(QStringLiteral("txt"), 20)}};
-        QStringList order;
-        for (const ExtensionStats& stats : result.sortedExtensions())
-            order.append(stats.displayName());
-        QCOMPARE(order, QStringList({"No Extension", ".mp4", ".txt"}));
-    }
-
     void formattedDuration_data() {
         QTest::addColumn<double>("seconds");
         QTest::addColumn<QString>("text");
@@ -200,13 +169,9 @@ private slots:
         AnalysisResult result;
         result.scanDuration = seconds;
         QCOMPARE(result.formattedDuration(), text);
-    }
-
-    // Every record gets an identity of its own (a result's names its history file).
-    void identities() {
-        QVERIFY(AnalysisResult{}.id != AnalysisResult{}.id);
-        QVERIFY(FileInfo{}.id != FileInfo{}.id);
-        QCOMPARE(PatternInsight{}.id.version(), QUuid::Random);
+        // An import knows no duration: it is never shown as one.
+        result.importSource.emplace().unknownFields = QStringList{QStringLiteral("scanDuration")};
+        QCOMPARE(result.formattedDuration(), "—");
     }
 };
 

@@ -110,24 +110,32 @@ private slots:
     }
 
     // Without ncdu's extended mode nothing tells when a file changed: said, not invented. Read
-    // from a pipe and saved, as `ssh server ncdu -o- /srv | tessarine-cli import - --save` does.
-    void plainExportFromStandardInput() {
+    // from a pipe and saved, as `ssh server ncdu -o- /srv | tessarine-cli import - --save` does,
+    // with the folder sizes of its tree, so that a later import names the folder that grew.
+    void plainExportsSavedAndCompared() {
         QTemporaryDir dir;
-        writeFiles(dir.filePath("tree"), {{"a/one.txt", 100}, {"two.jpg", 2000}});
+        const QString root = dir.filePath("tree");
+        writeFiles(root, {{"a/one.txt", 100}, {"two.jpg", 2000}});
         const QString exported = dir.filePath("plain.json");
-        QVERIFY(runNcdu({"-o", exported, dir.filePath("tree")}));
-        const CliRun run = runCli({"import", "-", "--save"}, {.inputFile = exported});
-        QCOMPARE(run.exitCode, 0);
-        const auto result = json::decodeResult(run.output);
-        QVERIFY(result);
-        QCOMPARE(result->totalSize, 2100);
-        QCOMPARE(result->largestFiles.first().modificationDate, distantPast());
-        QCOMPARE(result->importSource->fileName, "standard input");
-        QVERIFY(result->importSource->unknownFields.contains("modificationDate"));
-        QVERIFY(QFile::exists(QDir(historyDirectory())
-                                  .filePath("scan_" +
-                                            result->id.toString(QUuid::WithoutBraces).toUpper() +
-                                            ".json")));
+        QVERIFY(runNcdu({"-o", exported, root}));
+        const auto first =
+            json::decodeResult(runCli({"import", "-", "--save"}, {.inputFile = exported}).output);
+        QVERIFY(first);
+        QCOMPARE(first->totalSize, 2100);
+        QCOMPARE(first->largestFiles.first().modificationDate, distantPast());
+        QCOMPARE(first->importSource->fileName, "standard input");
+        QVERIFY(first->importSource->unknownFields.contains("modificationDate"));
+
+        writeFile(root + "/a/three.txt", 5000);
+        QVERIFY(runNcdu({"-o", exported, root}));
+        const auto second = json::decodeResult(runCli({"import", exported, "--save"}).output);
+        QVERIFY(second);
+        const CliRun compared =
+            runCli({"history", "compare", first->id.toString(), second->id.toString()});
+        QCOMPARE(compared.exitCode, 0);
+        QVERIFY2(
+            compared.output.contains(QFile::encodeName(root) + "/a  (100 bytes \xe2\x86\x92 5 KB)"),
+            compared.output.constData());
     }
 
     // A chain deeper than any stack: both ways, without recursion.
