@@ -178,7 +178,8 @@ private slots:
 
     // Names that are not UTF-8 (Latin-1, truncated or overlong sequences, encoded surrogates) go
     // to text and back to the same bytes, and names differing in one such byte stay apart from
-    // each other and from a real U+FFFD, through a URL and the command line as well.
+    // each other and from a real U+FFFD, through a URL and the command line as well (the bytes a
+    // URL hands the desktop are NameBytesTest's).
     void pathsKeepTheirBytes() {
         const QList<QByteArray> names{"x\xff.txt",
                                       "x\xfe.txt",
@@ -195,9 +196,7 @@ private slots:
             texts.append(text);
             arguments.append(name.constData());
             QCOMPARE(pathToBytes(text), name);
-            const QUrl url = urlFromPath(u'/' + text);
-            QCOMPARE(QByteArray::fromPercentEncoding(url.toEncoded()), "file:///" + name);
-            QCOMPARE(pathFromUrl(url), u'/' + text);
+            QCOMPARE(pathFromUrl(urlFromPath(u'/' + text)), u'/' + text);
         }
         QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), names.size());
         QCOMPARE(argumentsFromBytes(int(arguments.size()), arguments.data()), texts);
