@@ -1,6 +1,7 @@
 #include "AppState.h"
 
 #include "StoredScanOptions.h"
+#include "import/ImportedFolderSizes.h"
 #include "import/ScanImport.h"
 #include "model/PathBytes.h"
 #include "model/PathNames.h"
@@ -247,14 +248,18 @@ void AppState::deleteScan(const ScanSummary& scan) {
 void AppState::importScan(const QUrl& file) {
     startWorkerThread([this, replies = m_workerReplies.sender(), path = folderPathOf(file)] {
         ImportOutcome outcome = importScanFile(path);
-        replies.post([this, outcome = std::move(outcome)] {
+        // Its folder sizes come from the tree it brought, figured here, off the interface thread.
+        std::optional<FolderSizes> folderSizes;
+        if (const auto* result = std::get_if<AnalysisResult>(&outcome);
+            result && result->folderTree)
+            folderSizes = folderSizesOfTree(*result->folderTree);
+        replies.post([this, outcome = std::move(outcome), folderSizes = std::move(folderSizes)] {
             if (const auto* failure = std::get_if<ImportError>(&outcome)) {
                 setError(AppError::importFailed(failure->errorDescription()));
                 return;
             }
-            // No scan pass tallied its folders here, so it keeps no folder sizes file.
             const auto& result = std::get<AnalysisResult>(outcome);
-            saveResult(result, nullptr);
+            saveResult(result, folderSizes ? &*folderSizes : nullptr);
             openResult(result);
         });
     });

@@ -25,11 +25,11 @@ QString DisplayFormat::compactDuration(double seconds) const {
 }
 
 QString DisplayFormat::absoluteDate(const QDateTime& date) const {
-    return date.isValid() ? format::absoluteDate(date) : missing();
+    return format::absoluteDate(date);
 }
 
 QString DisplayFormat::relativeDate(const QDateTime& date) const {
-    return date.isValid() ? format::relativeDate(date, QDateTime::currentDateTimeUtc()) : missing();
+    return format::relativeDate(date, QDateTime::currentDateTimeUtc());
 }
 
 QString DisplayFormat::clockTime(const QDateTime& date) const {

@@ -14,7 +14,7 @@ namespace {
 
 constexpr quint32 magic = 0x54534958; // "TSIX"
 // Raised whenever the layout or the meaning of a field changes: an older index is then rebuilt.
-constexpr quint32 formatVersion = 1;
+constexpr quint32 formatVersion = 2;
 constexpr auto streamVersion = QDataStream::Qt_6_4;
 constexpr auto digest = QCryptographicHash::Sha1;
 
@@ -26,16 +26,38 @@ QDataStream& operator>>(QDataStream& in, FileStamp& stamp) {
     return in >> stamp.size >> stamp.modifiedNs >> stamp.changedNs >> stamp.inode;
 }
 
+QDataStream& operator<<(QDataStream& out, const std::optional<ImportSource>& source) {
+    out << source.has_value();
+    if (source)
+        out << source->program << source->fileName << source->importDate.toMSecsSinceEpoch()
+            << source->unknownFields;
+    return out;
+}
+
+QDataStream& operator>>(QDataStream& in, std::optional<ImportSource>& source) {
+    bool imported = false;
+    in >> imported;
+    source.reset();
+    if (!imported)
+        return in;
+    qint64 importDate = 0;
+    ImportSource& read = source.emplace();
+    in >> read.program >> read.fileName >> importDate >> read.unknownFields;
+    read.importDate = QDateTime::fromMSecsSinceEpoch(importDate, Qt::UTC);
+    return in;
+}
+
 QDataStream& operator<<(QDataStream& out, const ScanSummary& summary) {
     return out << summary.id << summary.scanDate.toMSecsSinceEpoch() << summary.rootPath
                << summary.rootName << summary.totalSize << summary.fileCount << summary.folderCount
-               << summary.maxDepth << summary.scanDuration;
+               << summary.maxDepth << summary.scanDuration << summary.importSource;
 }
 
 QDataStream& operator>>(QDataStream& in, ScanSummary& summary) {
     qint64 scanDate = 0;
     in >> summary.id >> scanDate >> summary.rootPath >> summary.rootName >> summary.totalSize >>
-        summary.fileCount >> summary.folderCount >> summary.maxDepth >> summary.scanDuration;
+        summary.fileCount >> summary.folderCount >> summary.maxDepth >> summary.scanDuration >>
+        summary.importSource;
     summary.scanDate = QDateTime::fromMSecsSinceEpoch(scanDate, Qt::UTC);
     return in;
 }

@@ -231,6 +231,7 @@ private slots:
             wholeSeconds(result.largestFiles.first().modificationDate);
         const QList<ScanSummary> listed = loadedSummaries(store);
         QCOMPARE(listed, QList{ScanSummary::of(expected)});
+        QCOMPARE(loadedSummaries(store), listed); // again, from the summary index
         const auto loaded = store.loadResult(result.id);
         QVERIFY(std::holds_alternative<AnalysisResult>(loaded));
         QVERIFY(std::get<AnalysisResult>(loaded) == expected);
