@@ -15,7 +15,7 @@ namespace {
 // a scan saved by the command-line tool appears while the user still looks. Counted from the
 // first change, not the last: a folder that keeps changing is still looked at every so often.
 constexpr auto settleInterval = std::chrono::milliseconds(60);
-constexpr int firstLookNiceness = 10;
+constexpr int firstLookNiceness = 5;
 
 } // namespace
 

@@ -58,8 +58,9 @@ private:
     bool m_looking = false;
     bool m_changedDuringLook = false;
     bool m_ownChangeDuringLook = false;
-    // A look's rows were held back, so the next one applies its rows even if it finds no change.
-    bool m_rowsBehind = false;
+    // No rows shown yet, or a look's rows were held back: the next look applies its rows even if
+    // it finds no change.
+    bool m_rowsBehind = true;
 };
 
 } // namespace tessarine

@@ -9,6 +9,7 @@
 #include "model/ScanProgress.h"
 #include "model/WorkerThread.h"
 #include "storage/PersistenceService.h"
+#include "storage/SummaryIndex.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,35 +54,10 @@ class AppStateTest : public QObject {
 private slots:
     void initTestCase() { testing::isolateUserFiles(); }
 
-    void successfulScanShowsSavesAndListsTheResult() {
-        QTemporaryDir home, folder;
-        makeScannableFolder(folder.path());
-        PersistenceService store(home.path());
-        AppState state(store);
-
-        state.startScan(QUrl::fromLocalFile(folder.path()));
-        QCOMPARE(state.currentView(), AppState::Scanning);
-        settle(state);
-
-        QCOMPARE(state.currentView(), AppState::Dashboard);
-        const AnalysisResult shown = *state.currentResult();
-        QCOMPARE(shown.fileCount, 6);
-        QCOMPARE(state.scanHistory()->results(), QList{ScanSummary::of(shown)});
-        QCOMPARE(historyFiles(store).size(), 1);
-
-        // A second scan goes to the head of the history; the previous result stays on display
-        // until the new one is ready.
-        state.startScan(folder.path());
-        QCOMPARE(state.currentResult()->id, shown.id);
-        settle(state);
-        QCOMPARE(state.scanHistory()->count(), 2);
-        QCOMPARE(state.scanHistory()->results().at(0).id, state.currentResult()->id);
-        QCOMPARE(state.scanHistory()->results().at(1).id, shown.id);
-    }
-
-    // New scans count as Settings say, and the choice outlives the state; a rescan counts as its
-    // result did, whatever Settings say by then.
-    void scansUseTheRememberedOptionsAndRescansTheirResults() {
+    // A scan is shown, saved and listed; new scans count as Settings say, and the choice outlives
+    // the state; a rescan counts as its result did, whatever Settings say by then, and goes to
+    // the head of the history while the previous result stays on display until it is ready.
+    void scansAreShownSavedAndCountedAsSettingsSay() {
         QTemporaryDir home, folder;
         makeScannableFolder(folder.path());
         testing::writeFile(folder.path() + "/.cache/blob", 5000);
@@ -95,18 +71,25 @@ private slots:
         AppState state(store);
         QCOMPARE(state.scanOptions(), hidden);
 
-        state.startScan(folder.path());
+        state.startScan(QUrl::fromLocalFile(folder.path()));
+        QCOMPARE(state.currentView(), AppState::Scanning);
         settle(state);
+        QCOMPARE(state.currentView(), AppState::Dashboard);
         const AnalysisResult counted = *state.currentResult();
         QCOMPARE(counted.scanOptions, hidden);
         QCOMPARE(counted.fileCount, 7);
+        QCOMPARE(state.scanHistory()->results(), QList{ScanSummary::of(counted)});
+        QCOMPARE(historyFiles(store).size(), 1);
 
         state.setScanOptions({});
         state.rescan(counted);
+        QCOMPARE(state.currentResult()->id, counted.id);
         settle(state);
         QVERIFY(state.currentResult()->id != counted.id);
         QCOMPARE(state.currentResult()->scanOptions, hidden);
         QCOMPARE(state.currentResult()->fileCount, 7);
+        QCOMPARE(state.scanHistory()->count(), 2);
+        QCOMPARE(state.scanHistory()->results().at(0).id, state.currentResult()->id);
         QCOMPARE(AppState(store).scanOptions(), ScanOptions());
     }
 
@@ -239,6 +222,10 @@ private slots:
         QTRY_COMPARE(history.count(), 0);
         QVERIFY(!otherProcess.save(old));
         QTRY_COMPARE(history.results(), summaries({old}));
+        // A start that finds every file in the index shows the index's rows.
+        QTRY_COMPARE(readSummaryIndex(store.storagePath()).size(), 1);
+        AppState started(store);
+        QTRY_COMPARE(started.scanHistory()->results(), summaries({old}));
         QVERIFY(QFile::remove(store.historyFilePath(old.id)));
         state.openStoredScan(ScanSummary::of(old));
         QCOMPARE(state.error()->errorDescription(), "Failed to load: File not found");
