@@ -6,7 +6,9 @@
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
-#include <QSaveFile>
+#include <QTemporaryFile>
+
+#include <cstdio>
 
 namespace tessarine {
 
@@ -130,9 +132,16 @@ bool writeSummaryIndex(const QString& historyFolder, const CatalogEntries& entri
     const QByteArray payload = payloadOf(entries);
     out << magic << formatVersion << payload << QCryptographicHash::hash(payload, digest);
     // Written beside and renamed over: another process reading it meanwhile sees the old index
-    // or the new one, never half of one.
-    QSaveFile file(summaryIndexPath(historyFolder));
-    return openAndWriteCompletely(file, bytes) && file.commit();
+    // or the new one, never half of one. Unlike a history file it is not synced to disk first
+    // (QSaveFile would): that waited up to seconds on a busy disk, and an index a crash left
+    // half written fails its checksum and is rebuilt.
+    QTemporaryFile file(summaryIndexPath(historyFolder) + QStringLiteral("-XXXXXX"));
+    if (!openAndWriteCompletely(file, bytes) ||
+        std::rename(QFile::encodeName(file.fileName()).constData(),
+                    QFile::encodeName(summaryIndexPath(historyFolder)).constData()) != 0)
+        return false;
+    file.setAutoRemove(false);
+    return true;
 }
 
 } // namespace tessarine
