@@ -32,14 +32,31 @@ ChartCard {
         }
     }
 
-    Column {
+    // "Show All" and "Show Less" open and close the list rather than jumping.
+    Item {
+        objectName: "extensionRows"
         Layout.fillWidth: true
-        spacing: 8
+        implicitHeight: rows.implicitHeight
+        clip: true
 
-        Repeater {
-            model: extensions
+        Behavior on implicitHeight {
+            NumberAnimation {
+                duration: Theme.standardDuration
+                easing.type: Theme.standardEasing
+            }
+        }
 
-            ExtensionRow { width: parent.width }
+        Column {
+            id: rows
+
+            width: parent.width
+            spacing: 8
+
+            Repeater {
+                model: extensions
+
+                ExtensionRow { width: parent.width }
+            }
         }
     }
 

@@ -115,6 +115,8 @@ QtObject {
     readonly property real spacingXLarge: 20
     readonly property real spacingSection: 24
     readonly property real spacingHuge: 40
+    // What every card leaves between its edge and its content: the platform's standard padding.
+    readonly property real cardPadding: 16
 
     // Motion: the quick fade, the standard change, and a critically damped spring (no overshoot),
     // which an ease-out curve of the spring's response time matches closely.

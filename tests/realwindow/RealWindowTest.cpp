@@ -2,7 +2,6 @@
 #include "FileTrees.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QTest>
 
 using namespace tessarine;
@@ -155,18 +154,7 @@ private slots:
 };
 
 int main(int argc, char* argv[]) {
-    VirtualDisplay display;
-    if (display.name().isEmpty()) {
-        qCritical("Xvfb did not start (scripts/install-deps.sh installs it)");
-        return 1;
-    }
-    qputenv("DISPLAY", display.name().toLatin1());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    QTemporaryDir runtime;
-    qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
-    QGuiApplication application(argc, argv);
-    RealWindowTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runRealWindowTest<RealWindowTest>(argc, argv);
 }
 
 #include "RealWindowTest.moc"

@@ -20,7 +20,7 @@ Card {
 
     signal cancelRequested()
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
 
     Timer {
         interval: 100
@@ -59,7 +59,7 @@ Card {
     ColumnLayout {
         id: content
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.cardPadding }
         spacing: Theme.spacingXLarge
 
         RowLayout {

@@ -128,7 +128,7 @@ Rectangle {
         }
         Text {
             anchors.right: parent.right
-            text: Format.relativeDate(card.scanDate)
+            text: Format.relativeDate(card.scanDate, Format.now)
             font: Theme.extraSmall
             color: Theme.tertiary
         }
