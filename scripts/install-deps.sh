@@ -18,8 +18,8 @@ packages=(
   qml6-module-qtquick-shapes qml6-module-qttest qt6-qpa-plugins
   # the desktop's own file chooser through its portal, where one answers
   qt6-xdgdesktopportal-platformtheme
-  # fonts: text face and the icon set
-  fonts-inter fonts-material-design-icons-iconfont
+  # fonts: text face and the icon set; fontTools writes Inter with its tabular digits at build time
+  fonts-inter fonts-material-design-icons-iconfont python3-fonttools
   # a session bus of its own for the colour-scheme portal test
   dbus-daemon
   # a folder that stops answering, as a hung network mount does: a FUSE file system in Python

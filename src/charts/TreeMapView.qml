@@ -119,7 +119,7 @@ ChartCard {
 
                 Text {
                     text: details.cell ? Format.byteCount(details.cell.totalSize) : ""
-                    font: Theme.monospaced(Theme.caption)
+                    font: Theme.tabularDigits(Theme.caption)
                     color: Theme.primary
                 }
 

@@ -78,6 +78,8 @@ QtObject {
     // Typography: Inter at the system type scale, in pixels.
     readonly property string fontFamily: "Inter"
     readonly property string monoFamily: "DejaVu Sans Mono"
+    // Inter with its tabular digits, which the build writes and the application carries.
+    readonly property string figureFamily: "Inter Tabular"
     readonly property font largeTitle: Qt.font({ family: fontFamily, pixelSize: 26 })
     readonly property font title: Qt.font({ family: fontFamily, pixelSize: 22 })
     readonly property font title2: Qt.font({ family: fontFamily, pixelSize: 17 })
@@ -94,9 +96,15 @@ QtObject {
         return Qt.font({ family: style.family, pixelSize: style.pixelSize, weight: weight })
     }
 
-    // The monospaced face at a style's size, for figures and paths that should not jitter.
+    // The monospaced face at a style's size, for paths, key caps and text set in a typewriter face.
     function monospaced(style, weight) {
         return Qt.font({ family: monoFamily, pixelSize: style.pixelSize,
+                         weight: weight === undefined ? Font.Normal : weight })
+    }
+
+    // The style with digits of one width, for figures that change or stand in columns.
+    function tabularDigits(style, weight) {
+        return Qt.font({ family: figureFamily, pixelSize: style.pixelSize,
                          weight: weight === undefined ? Font.Normal : weight })
     }
 

@@ -1,7 +1,6 @@
 #include "screens/common/FirstRowsModel.h"
 #include "screens/dashboard/SummaryFigures.h"
 #include "screens/scanning/ActivityLogModel.h"
-#include "screens/scanning/PhaseStepsModel.h"
 #include "screens/scanning/ScanFigures.h"
 #include "screens/scanning/ScanPaths.h"
 #include "screens/scanning/ScanPhaseDisplay.h"
@@ -277,14 +276,6 @@ private slots:
         first.setLimit(0);
         QCOMPARE(first.count(), 0);
         QVERIFY(!countChanges.isEmpty());
-    }
-
-    void phaseStepsFollowThePhase() {
-        PhaseStepsModel steps;
-        QAbstractItemModelTester tester(&steps);
-        steps.setPhase(ScanPhase::analyzing);
-        QCOMPARE(column(steps, PhaseStepsModel::CompletedRole),
-                 (QStringList{"true", "true", "false", "false", "false"}));
     }
 };
 

@@ -1,5 +1,5 @@
 #include "BuildHold.h"
-#include "DashboardResult.h"
+#include "SampleResults.h"
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
@@ -135,15 +135,6 @@ private:
     QQmlApplicationEngine m_engine;
 };
 
-// A full result as a scan of a busy projects folder gives it.
-AnalysisResult fullResult(int categories, bool withInsights = true) {
-    AnalysisResult result =
-        testing::dashboardResult(QStringLiteral("/Users/ann/Projects"), categories, 40, 20, 100);
-    if (withInsights)
-        result.insights = testing::sampleInsights();
-    return result;
-}
-
 // The item of that name in the window's visual tree, wherever loaders made it.
 QQuickItem* findItem(QQuickItem* root, const QString& objectName) {
     if (root->objectName() == objectName)
@@ -188,17 +179,10 @@ private slots:
 
     void landing() {
         Scene(0).save("landing-empty");
-        Scene(7).save("landing-recent");
         Scene scene(3);
         scene.state().setError(
             AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
         scene.save("error-alert");
-    }
-
-    void scanning() {
-        Scene()
-            .scanning(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app"))
-            .save("scanning");
     }
 
     // The dashboard, a drag over it, and where the keys went: the ring around a button Tab
@@ -224,7 +208,8 @@ private slots:
     }
 
     // Every screen at the smallest window and at full HD, with names long enough to need
-    // eliding: no text may run out of its card.
+    // eliding: no text may run out of its card. (The dashboard at the usual size, scrolled,
+    // hovered and exported: RealWindowTest.)
     void screensAtWindowSizes_data() {
         QTest::addColumn<QSize>("size");
         QTest::newRow("smallest") << QSize(900, 600);
@@ -264,15 +249,6 @@ private slots:
         QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
         scene.save("folder-analysis-building");
         controller->cancel();
-    }
-
-    void dashboardVariants() {
-        Scene(0).showing(fullResult(12)).save("dashboard-12-categories");
-        Scene scene(0);
-        scene.showing(fullResult(4, false));
-        // The end of the page, where the insights would be.
-        QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
-        scene.save("dashboard-no-insights");
     }
 
     void history() {

@@ -121,7 +121,7 @@ Card {
 
                 Text {
                     text: card.service.statusText
-                    font: Theme.monospaced(Theme.subheadline)
+                    font: Theme.tabularDigits(Theme.subheadline)
                     color: Theme.secondary
                 }
             }

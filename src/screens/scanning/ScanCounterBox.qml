@@ -45,7 +45,7 @@ Rectangle {
         Text {
             Layout.alignment: Qt.AlignHCenter
             text: box.value
-            font: Theme.monospaced(Theme.title, Font.Bold)
+            font: Theme.tabularDigits(Theme.title, Font.Bold)
             color: Theme.primary
         }
 
