@@ -98,13 +98,16 @@ QtObject {
 
     // The monospaced face at a style's size, for paths, key caps and text set in a typewriter face.
     function monospaced(style, weight) {
-        return Qt.font({ family: monoFamily, pixelSize: style.pixelSize,
-                         weight: weight === undefined ? Font.Normal : weight })
+        return faceAt(monoFamily, style, weight)
     }
 
     // The style with digits of one width, for figures that change or stand in columns.
     function tabularDigits(style, weight) {
-        return Qt.font({ family: figureFamily, pixelSize: style.pixelSize,
+        return faceAt(figureFamily, style, weight)
+    }
+
+    function faceAt(family, style, weight) {
+        return Qt.font({ family: family, pixelSize: style.pixelSize,
                          weight: weight === undefined ? Font.Normal : weight })
     }
 
