@@ -114,6 +114,9 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     m_hoverTransition.setEndValue(1.0);
     m_hoverTransition.setEasingCurve(QEasingCurve::OutQuad);
     connect(&m_hoverTransition, &QVariantAnimation::valueChanged, this, &TreemapCells::hoverStep);
+    // The left cell has shrunk back into the others.
+    connect(&m_hoverTransition, &QAbstractAnimation::finished, this,
+            [this] { m_leavingIndex = -1; });
     m_restyle.setStartValue(0.0);
     m_restyle.setEndValue(1.0);
     m_restyle.setDuration(200);
@@ -222,19 +225,20 @@ void TreemapCells::setHoveredIndex(int index) {
         return;
     // A cell still shrinking back from an earlier hover is done at once.
     updateCellArea(m_leavingIndex);
-    m_leavingIndex = m_hoveredIndex;
-    m_leavingFrom = hoverAmount(m_hoveredIndex);
+    const int left = m_hoveredIndex;
+    m_leavingFrom = hoverAmount(left);
     m_hoveredIndex = index;
     m_hoverTransition.stop();
     if (m_hoverDuration > 0) {
+        m_leavingIndex = left;
         m_hoverProgress = 0;
         m_hoverTransition.setDuration(m_hoverDuration);
         m_hoverTransition.start();
     } else {
-        m_hoverProgress = 1;
         m_leavingIndex = -1;
+        m_hoverProgress = 1;
     }
-    updateCellArea(m_leavingIndex);
+    updateCellArea(left);
     updateHoveredArea();
     emit hoveredIndexChanged();
 }
@@ -243,8 +247,6 @@ void TreemapCells::hoverStep(const QVariant& progress) {
     m_hoverProgress = progress.toReal();
     updateCellArea(m_leavingIndex);
     updateHoveredArea();
-    if (m_hoverTransition.state() == QAbstractAnimation::Stopped && m_hoverProgress >= 1)
-        m_leavingIndex = -1;
 }
 
 void TreemapCells::restyleStep(const QVariant& progress) {
@@ -288,9 +290,15 @@ void TreemapCells::paint(QPainter* painter) {
     // A hover change repaints two small areas; the cells outside them are left as they are.
     const QRectF area =
         painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
+    // Most repaints change no style: the cells are painted as they are, without a copy each.
+    const bool restyling = m_previousStyle.size() == cells.size();
     for (qsizetype i = 0; i < cells.size(); ++i) {
-        if (cells[i].rect.intersects(area) && !isRaised(i))
+        if (!cells[i].rect.intersects(area) || isRaised(i))
+            continue;
+        if (restyling)
             paintCellWithLabel(*painter, styledCell(i), 0);
+        else
+            paintCellWithLabel(*painter, cells[i], 0);
     }
     // The cell the pointer left under the one it went to, which may lie inside it.
     for (const int raised : {m_leavingIndex, m_hoveredIndex}) {

@@ -25,8 +25,8 @@ bool fileChooserAnswers() {
             // A portal is up within milliseconds once the desktop runs; the window is not held up
             // longer than this by one that does not come.
             constexpr int timeoutMs = 1000;
-            answers = bus.call(version, QDBus::Block, timeoutMs).type() ==
-                      QDBusMessage::ReplyMessage;
+            answers =
+                bus.call(version, QDBus::Block, timeoutMs).type() == QDBusMessage::ReplyMessage;
         }
     }
     QDBusConnection::disconnectFromBus(connection);

@@ -50,8 +50,9 @@ private:
             QStringLiteral("/org/freedesktop/portal/desktop/request/test/%1").arg(++m_requests);
         // Later, not with the answer: the program listens on the request once it has it.
         QTimer::singleShot(500, this, [this, handle, uri = picked.toString()] {
-            QDBusMessage response = QDBusMessage::createSignal(
-                handle, QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"));
+            QDBusMessage response =
+                QDBusMessage::createSignal(handle, QStringLiteral("org.freedesktop.portal.Request"),
+                                           QStringLiteral("Response"));
             response << 0u << QVariantMap{{QStringLiteral("uris"), QStringList{uri}}};
             m_bus.send(response);
         });
@@ -87,10 +88,11 @@ private slots:
             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties));
         QVERIFY(portal.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
         qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address());
-        writeFiles(m_folders.path(), {{"Projects/photo.jpg", 40'000}, {"Projects/notes.txt", 9'000},
+        writeFiles(m_folders.path(), {{"Projects/photo.jpg", 40'000},
+                                      {"Projects/notes.txt", 9'000},
                                       {"Picked Folder/song.mp3", 70'000}});
-        m_app = std::make_unique<RealApp>(
-            QStringList{m_folders.filePath(QStringLiteral("Projects"))});
+        m_app =
+            std::make_unique<RealApp>(QStringList{m_folders.filePath(QStringLiteral("Projects"))});
         QVERIFY(m_app->start());
         QVERIFY(!m_app->waitFor(QStringLiteral("Storage Treemap"), 30'000).isEmpty());
     }
@@ -120,7 +122,8 @@ private slots:
     }
 
     void folderPickerScansWhatThePortalPicked() {
-        m_chooser->picked = QUrl::fromLocalFile(m_folders.filePath(QStringLiteral("Picked Folder")));
+        m_chooser->picked =
+            QUrl::fromLocalFile(m_folders.filePath(QStringLiteral("Picked Folder")));
         m_app->key(QStringLiteral("ctrl+n"));
         QVERIFY(!m_app->waitFor(QStringLiteral("Picked Folder"), 30'000).isEmpty());
         QCOMPARE(m_chooser->method, QStringLiteral("OpenFile"));

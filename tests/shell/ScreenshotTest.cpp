@@ -1,8 +1,8 @@
 #include "BuildHold.h"
-#include "SampleResults.h"
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "SampleResults.h"
 #include "UserFiles.h"
 #include "WindowDrag.h"
 
