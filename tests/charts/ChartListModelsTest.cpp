@@ -132,9 +132,8 @@ private slots:
         QCOMPARE(model.peakDepth(), 1);
         QCOMPARE(model.totalFiles(), 24);
         QCOMPARE(model.largestFileCount(), 9);
-        QCOMPARE(model.rowAt(0, 400), 0);
+        // Which slice a point picks: ChartGeometryTest::slicePicking.
         QCOMPARE(model.rowAt(399, 400), 3);
-        QCOMPARE(model.rowAt(400, 400), -1);
     }
 
     void treemapFollowsSizeAndSelection() {
