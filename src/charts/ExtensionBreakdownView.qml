@@ -28,21 +28,32 @@ ChartCard {
             font: Theme.caption
             tint: Theme.blue
             padding: 2
-            onClicked: extensions.showAll = !extensions.showAll
+            onClicked: {
+                rowsArea.sliding = true
+                extensions.showAll = !extensions.showAll
+            }
         }
     }
 
-    // "Show All" and "Show Less" open and close the list rather than jumping.
+    // "Show All" and "Show Less" open and close the list rather than jumping; the first layout
+    // does not slide.
     Item {
+        id: rowsArea
+
+        property bool sliding: false
+
         objectName: "extensionRows"
         Layout.fillWidth: true
         implicitHeight: rows.implicitHeight
         clip: true
 
         Behavior on implicitHeight {
+            enabled: rowsArea.sliding
+
             NumberAnimation {
                 duration: Theme.standardDuration
                 easing.type: Theme.standardEasing
+                onRunningChanged: if (!running) rowsArea.sliding = false
             }
         }
 

@@ -114,15 +114,18 @@ public:
     }
 
 private:
-    // What the window shows once two frames in a row draw the same picture. The scanning ring
-    // never stops turning: a window still changing after a couple of seconds is taken as it is.
+    // What the window shows once its frames have drawn the same picture for a quarter of a
+    // second: two equal frames alone would take a screen whose animations wait on a short delay
+    // (the summary cards) before they start. The scanning ring never stops turning: a window
+    // still changing after a couple of seconds is taken as it is.
     static QImage settledImage(QQuickWindow* window) {
         QImage previous = window->grabWindow();
         QDeadlineTimer deadline(2500);
-        while (!deadline.hasExpired() && nextFrame(window)) {
+        QDeadlineTimer still(250);
+        while (!deadline.hasExpired() && !still.hasExpired() && nextFrame(window)) {
             QImage next = window->grabWindow();
-            if (next == previous)
-                break;
+            if (next != previous)
+                still.setRemainingTime(250);
             previous = std::move(next);
         }
         return previous;

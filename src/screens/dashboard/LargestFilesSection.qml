@@ -119,15 +119,16 @@ Rectangle {
             id: body
 
             objectName: "largestFilesBody"
-            // How much of the body shows, animated.
-            property real openHeight: section.isExpanded ? bodyColumn.implicitHeight : 0
+            // How much of the body shows: a fraction, so that only a fold slides, not the first
+            // layout.
+            property real shown: section.isExpanded ? 1 : 0
 
-            visible: openHeight > 0
+            visible: shown > 0
             Layout.fillWidth: true
-            Layout.preferredHeight: openHeight
+            Layout.preferredHeight: bodyColumn.implicitHeight * shown
             clip: true
 
-            Behavior on openHeight {
+            Behavior on shown {
                 NumberAnimation {
                     duration: Theme.quickDuration
                     easing.type: Theme.standardEasing
