@@ -20,7 +20,7 @@ $(BUILD)/build.ninja:
 	$(CMAKE_GEN) -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release
 
 build: deps $(BUILD)/build.ninja
-	cmake --build $(BUILD) -j $(JOBS)
+	bash scripts/build-without-warnings.sh $(BUILD) $(JOBS)
 
 run: build
 	$(BUILD)/src/shell/tessarine

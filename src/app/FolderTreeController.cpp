@@ -28,9 +28,8 @@ void FolderTreeController::build(const QString& rootPath, const ScanOptions& opt
     setState(Building);
     startWorkerThread([this, service = m_service, replies = m_replies.sender(), build, rootPath,
                        options, cancel = m_currentCancel] {
-        const std::optional<FolderTreeError> rootError = unlistableRootError(rootPath);
         FolderTreeOutcome outcome =
-            rootError ? FolderTreeOutcome(*rootError) : service->build(rootPath, options, cancel);
+            withRootError(service->build(rootPath, options, cancel), rootPath);
         replies.post([this, build, outcome = std::move(outcome)]() mutable {
             finish(build, std::move(outcome));
         });

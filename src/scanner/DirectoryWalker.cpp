@@ -87,8 +87,8 @@ struct PendingFolder {
 // The state of one walk, shared by its worker threads.
 class WalkSession {
 public:
-    WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath, int rootFd,
-                dev_t rootDevice, int threadCount);
+    WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
+                int threadCount);
     ~WalkSession();
 
     WalkOutcome run();
@@ -96,9 +96,11 @@ public:
 private:
     void work(std::size_t worker);
     std::optional<PendingFolder> take();
-    void listFolder(DirectoryReader& reader, const PendingFolder& pending);
+    void listFolder(std::size_t worker, std::optional<DirectoryReader>& reader,
+                    const PendingFolder& pending);
     void queueSubfolders(std::span<ListedDirectory* const> subfolders, int fd);
-    int open(const PendingFolder& pending) const;
+    int open(const PendingFolder& pending);
+    int openRoot();
     int openFromRoot(const ListedDirectory* folder) const;
     void release(HeldDescriptor* held);
     bool isCancelled() const { return m_cancelled && m_cancelled->load(std::memory_order_relaxed); }
@@ -111,8 +113,10 @@ private:
     const QByteArray& m_rootPath;
     std::vector<ListingArena> m_arenas;
     ListedDirectory* m_root;
-    const int m_rootFd;
-    const dev_t m_rootDevice;
+    // Set by the worker that opens the root, before any folder below it is queued (under
+    // m_mutex), so every other worker sees them.
+    int m_rootFd = -1;
+    dev_t m_rootDevice = 0;
     const int m_heldLimit;
     HardLinkClaims m_hardLinks;
 
@@ -140,14 +144,12 @@ private:
 };
 
 WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArray& rootPath,
-                         int rootFd, dev_t rootDevice, int threadCount)
+                         int threadCount)
     : m_options(options)
     , m_cancelled(options.cancelled ? options.cancelled : &m_neverCancelled)
     , m_rootPath(rootPath)
     , m_arenas(std::size_t(threadCount))
     , m_root(m_arenas.front().make<ListedDirectory>(nullptr, QByteArrayView()))
-    , m_rootFd(rootFd)
-    , m_rootDevice(rootDevice)
     , m_heldLimit(options.maxHeldDescriptors > 0 ? options.maxHeldDescriptors
                                                  : std::max(16, raiseOpenFileLimit() / 2))
     , m_hardLinks(options.detail.summedFiles)
@@ -157,7 +159,8 @@ WalkSession::WalkSession(const DirectoryWalker::Options& options, const QByteArr
 }
 
 WalkSession::~WalkSession() {
-    close(m_rootFd);
+    if (m_rootFd >= 0)
+        close(m_rootFd);
 }
 
 WalkOutcome WalkSession::run() {
@@ -191,15 +194,16 @@ WalkOutcome WalkSession::run() {
     for (const PendingFolder& pending : m_stack)
         release(pending.parent);
     m_hardLinks.settle();
-    return {std::move(m_arenas), m_root, m_items, m_folders, isCancelled()};
+    const ListedDirectory* root = m_rootFd < 0 ? nullptr : m_root;
+    return {std::move(m_arenas), root, m_items, m_folders, isCancelled()};
 }
 
 void WalkSession::work(std::size_t worker) {
-    DirectoryReader reader(m_arenas[worker], m_hardLinks, m_options.detail, m_options.scanOptions,
-                           m_rootDevice);
+    // Made at the first folder, once the root is open and its device known.
+    std::optional<DirectoryReader> reader;
     while (const std::optional<PendingFolder> pending = take()) {
         m_listing[worker].store(pending->folder, std::memory_order_release);
-        listFolder(reader, *pending);
+        listFolder(worker, reader, *pending);
         m_listing[worker].store(nullptr, std::memory_order_relaxed);
         std::lock_guard lock(m_mutex);
         if (--m_busyWorkers == 0 && m_stack.empty()) {
@@ -223,17 +227,21 @@ std::optional<PendingFolder> WalkSession::take() {
     return pending;
 }
 
-void WalkSession::listFolder(DirectoryReader& reader, const PendingFolder& pending) {
+void WalkSession::listFolder(std::size_t worker, std::optional<DirectoryReader>& reader,
+                             const PendingFolder& pending) {
     const int fd = open(pending);
     release(pending.parent);
     if (fd < 0) {
         pending.folder->markUnreadable();
         return;
     }
-    const auto subfolders = reader.read(fd, *pending.folder, *m_cancelled);
+    if (!reader)
+        reader.emplace(m_arenas[worker], m_hardLinks, m_options.detail, m_options.scanOptions,
+                       m_rootDevice);
+    const auto subfolders = reader->read(fd, *pending.folder, *m_cancelled);
     m_items.fetch_add(qint64(pending.folder->entries().size()) + pending.folder->summedCount(),
                       std::memory_order_relaxed);
-    m_folders.fetch_add(reader.lastFolderCount(), std::memory_order_relaxed);
+    m_folders.fetch_add(reader->lastFolderCount(), std::memory_order_relaxed);
     m_recentFolder.store(pending.folder, std::memory_order_release);
     queueSubfolders(subfolders, fd);
 }
@@ -259,13 +267,30 @@ void WalkSession::queueSubfolders(std::span<ListedDirectory* const> subfolders, 
         m_workAvailable.notify_one();
 }
 
-int WalkSession::open(const PendingFolder& pending) const {
+int WalkSession::open(const PendingFolder& pending) {
     const ListedDirectory* folder = pending.folder;
     if (!folder->parent())
-        return fcntl(m_rootFd, F_DUPFD_CLOEXEC, 0);
+        return openRoot();
     if (pending.parent)
         return openat(pending.parent->fd, folder->name().data(), openFolderFlags);
     return openFromRoot(folder);
+}
+
+// The root is opened by a worker like any folder, so that the reports name it too when it is the
+// one that keeps the walk waiting (a hung mount chosen as the root itself).
+int WalkSession::openRoot() {
+    const int fd = openFolder(m_rootPath);
+    if (fd < 0)
+        return -1;
+    // One stat per walk, and only when the walk is to stay on the root's file system.
+    struct stat status {};
+    if (m_options.scanOptions.oneFileSystem && fstat(fd, &status) != 0) {
+        close(fd);
+        return -1;
+    }
+    m_rootDevice = status.st_dev;
+    m_rootFd = fd;
+    return fcntl(m_rootFd, F_DUPFD_CLOEXEC, 0);
 }
 
 // The slow way, used only when too many parent descriptors are held already: one openat per
@@ -338,18 +363,8 @@ DirectoryListing DirectoryWalker::walk(const QString& rootPath) const {
     // The root is the one path followed even when it is a symbolic link: the user chose it.
     DirectoryListing listing;
     listing.m_rootPath = encodedRoot;
-    const int rootFd = openFolder(encodedRoot);
-    if (rootFd < 0)
-        return listing;
-    // One stat per walk, and only when the walk is to stay on the root's file system.
-    struct stat rootStatus {};
-    if (m_options.scanOptions.oneFileSystem && fstat(rootFd, &rootStatus) != 0) {
-        close(rootFd);
-        return listing;
-    }
     const int threads = m_options.threadCount > 0 ? m_options.threadCount : defaultThreadCount();
-    WalkOutcome outcome =
-        WalkSession(m_options, encodedRoot, rootFd, rootStatus.st_dev, threads).run();
+    WalkOutcome outcome = WalkSession(m_options, encodedRoot, threads).run();
     listing.m_arenas = std::move(outcome.arenas);
     listing.m_root = outcome.root;
     listing.m_itemCount = outcome.items;

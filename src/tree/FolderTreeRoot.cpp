@@ -10,4 +10,13 @@ std::optional<FolderTreeError> unlistableRootError(const QString& rootPath) {
     return FolderTreeError{FolderTreeError::Kind::accessDenied, rootPath};
 }
 
+FolderTreeOutcome withRootError(FolderTreeOutcome outcome, const QString& rootPath) {
+    const auto* tree = std::get_if<FolderInfo>(&outcome);
+    if (!tree || tree->fileCount > 0 || !tree->childFolders.empty())
+        return outcome;
+    if (std::optional<FolderTreeError> error = unlistableRootError(rootPath))
+        return *error;
+    return outcome;
+}
+
 } // namespace tessarine

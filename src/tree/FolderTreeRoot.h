@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tree/FolderTreeError.h"
+#include "tree/FolderTreeService.h"
 
 #include <QString>
 
@@ -13,5 +13,10 @@ namespace tessarine {
 // being read, but would hide a mistyped or unreadable root from whoever asked for its tree.
 // Reads the disk: call it off the interface thread.
 std::optional<FolderTreeError> unlistableRootError(const QString& rootPath);
+
+// The build's outcome, or the root's error when the tree came back empty because its root could
+// not be listed. Asked after the build rather than before it: the build's walk names a root that
+// keeps it waiting (a hung mount), where a question before it would wait without a word.
+FolderTreeOutcome withRootError(FolderTreeOutcome outcome, const QString& rootPath);
 
 } // namespace tessarine

@@ -55,6 +55,8 @@ RealApp::~RealApp() {
 }
 
 bool RealApp::start() {
+    // Started again, the program answers on a new connection.
+    m_probe.abort();
     QDir home(m_home.path());
     for (const char* folder : {"data", "config", "cache", "runtime"})
         home.mkdir(QLatin1String(folder));

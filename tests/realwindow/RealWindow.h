@@ -31,9 +31,10 @@ private:
     QString m_name;
 };
 
-// The main function of a real-window test: the Test class's slots run against an X server of their
-// own, with a runtime folder of their own.
-template <typename Test> int runRealWindowTest(int argc, char* argv[]) {
+// The main function of a real-window test: the Test class's slots, then alsoRun where given, run
+// against an X server of their own, with a runtime folder of their own.
+template <typename Test>
+int runRealWindowTest(int argc, char* argv[], int (*alsoRun)(int, char**) = nullptr) {
     VirtualDisplay display;
     if (display.name().isEmpty()) {
         qCritical("Xvfb did not start (scripts/install-deps.sh installs it)");
@@ -45,7 +46,8 @@ template <typename Test> int runRealWindowTest(int argc, char* argv[]) {
     qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     QGuiApplication application(argc, argv);
     Test test;
-    return QTest::qExec(&test, argc, argv);
+    const int failures = QTest::qExec(&test, argc, argv);
+    return alsoRun ? failures | alsoRun(argc, argv) : failures;
 }
 
 // Polls condition until it holds or timeoutMs pass, handling events meanwhile.
@@ -64,7 +66,8 @@ public:
     RealApp(const RealApp&) = delete;
     RealApp& operator=(const RealApp&) = delete;
 
-    // Starts the program and waits until its probe answers; false if it did not come up.
+    // Starts the program, or starts it again once it has ended, and waits until its probe answers;
+    // false if it did not come up.
     bool start();
     // The program's home folder, where its save dialog starts.
     QString home() const { return m_home.path(); }

@@ -1,7 +1,9 @@
 #include "RealWindow.h"
 #include "FileTrees.h"
+#include "StuckFolderWindowTest.h"
 
 #include <QFile>
+#include <QSettings>
 #include <QTest>
 
 using namespace tessarine;
@@ -36,6 +38,8 @@ private slots:
                 }
             }
         }
+        // Counted once Settings say so.
+        writeFile(root + QStringLiteral("/.cache/blob.bin"), 50'000);
         m_app = std::make_unique<RealApp>(QStringList{root});
         QVERIFY(m_app->start());
     }
@@ -129,6 +133,22 @@ private slots:
         QVERIFY(file.readAll().contains("file3.zip"));
     }
 
+    // Settings by their key: the switch is kept in the program's own settings file at once, and
+    // Ctrl+W closes Settings alone.
+    void settingsRememberHiddenItems() {
+        m_app->key(QStringLiteral("ctrl+comma"));
+        QVERIFY(m_app->click(QStringLiteral("includeHiddenSwitch")));
+        QSettings settings(m_app->home() + QStringLiteral("/config/Tessarine/Tessarine.conf"),
+                           QSettings::IniFormat);
+        QVERIFY(waitUntil([&] {
+            settings.sync();
+            return settings.value(QStringLiteral("scan/includeHidden")).toBool();
+        }));
+        m_app->key(QStringLiteral("ctrl+w"));
+        QVERIFY(m_app->waitUntilGone(QStringLiteral("includeHiddenSwitch")));
+        QVERIFY(!m_app->find(QStringLiteral("dashboardScroller")).isEmpty());
+    }
+
     // The history and help by their keys; help opened again starts on its first section.
     void historyAndHelpByKeys() {
         m_app->key(QStringLiteral("ctrl+shift+h"));
@@ -151,10 +171,21 @@ private slots:
         m_app->key(QStringLiteral("ctrl+q"));
         QVERIFY(m_app->waitForExit());
     }
+
+    // Started again, the program scans as its Settings were left: the hidden file counts, and the
+    // header says so. Ctrl+W on the last window ends it.
+    void nextLaunchCountsHiddenItems() {
+        QVERIFY(m_app->start());
+        QVERIFY(!m_app->waitFor(QStringLiteral("hidden items included"), 30'000).isEmpty());
+        // A click gives the new window the keyboard.
+        QVERIFY(m_app->click(QStringLiteral("Files, 73")));
+        m_app->key(QStringLiteral("ctrl+w"));
+        QVERIFY(m_app->waitForExit());
+    }
 };
 
 int main(int argc, char* argv[]) {
-    return runRealWindowTest<RealWindowTest>(argc, argv);
+    return runRealWindowTest<RealWindowTest>(argc, argv, runStuckFolderWindowTest);
 }
 
 #include "RealWindowTest.moc"

@@ -8,8 +8,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/stat.h>
-
 using namespace tessarine;
 using namespace tessarine::testing;
 
@@ -72,41 +70,6 @@ private slots:
         QCOMPARE(openDescriptorCount(), descriptorsBefore);
     }
 
-    // The rules the reference walk shares with the walker, pinned on their own.
-    void classifiesEntries() {
-        QTemporaryDir dir;
-        const QString root = dir.path();
-        writeFiles(root, {{"plain.txt", 1234},
-                          {"empty", 0},
-                          {"Editor.APP/Contents/Info.plist", 99},
-                          {".git/config", 10},
-                          {"sub/.hidden-file", 10}});
-        QVERIFY(QFile::link(root + "/plain.txt", root + "/link-to-file"));
-        QVERIFY(QFile::link(root + "/sub", root + "/link-to-folder"));
-        QVERIFY(QFile::link(root + "/nowhere", root + "/dangling"));
-        QCOMPARE(mkfifo(QFile::encodeName(root + "/pipe").constData(), 0644), 0);
-
-        const DirectoryListing listing = walk(root);
-
-        QMap<QByteArray, WalkedItem> byName;
-        for (const WalkedItem& item : cursorItems(listing))
-            byName.insert(item.path.mid(QFile::encodeName(root).size() + 1), item);
-        QCOMPARE(byName.keys(),
-                 (QList<QByteArray>{"Editor.APP", "dangling", "empty", "link-to-file",
-                                    "link-to-folder", "pipe", "plain.txt", "sub"}));
-        QCOMPARE(byName["plain.txt"].kind, EntryKind::file);
-        QCOMPARE(byName["plain.txt"].size, 1234);
-        QVERIFY(byName["plain.txt"].modifiedMsecs != ListedEntry::unknownModificationTime);
-        QCOMPARE(byName["Editor.APP"].kind, EntryKind::package);
-        QCOMPARE(byName["sub"].kind, EntryKind::directory);
-        QCOMPARE(byName["pipe"].kind, EntryKind::special);
-        for (const char* link : {"link-to-file", "link-to-folder", "dangling"}) {
-            QCOMPARE(byName[link].kind, EntryKind::symlink);
-            QCOMPARE(byName[link].size, 0);
-        }
-        QCOMPARE(listing.folderCount(), 2);
-    }
-
     void cancelledWalkReleasesDescriptors() {
         QTemporaryDir dir;
         generateTree(dir.path(), 500, 3);
@@ -122,26 +85,6 @@ private slots:
         for (ListingCursor cursor(listing); cursor.next();) {
         }
         QCOMPARE(openDescriptorCount(), descriptorsBefore);
-    }
-
-    void reportsProgressConsistently() {
-        QTemporaryDir dir;
-        generateTree(dir.path(), 2000, 11);
-        const QByteArray root = QFile::encodeName(dir.path());
-        std::vector<WalkProgress> reports;
-        DirectoryWalker::Options options;
-        options.progressInterval = std::chrono::milliseconds(1);
-        options.onProgress = [&](const WalkProgress& progress) { reports.push_back(progress); };
-        const DirectoryListing listing = walk(dir.path(), options);
-        qint64 previous = 0;
-        for (const WalkProgress& report : reports) {
-            QVERIFY(report.items >= previous);
-            QVERIFY(report.folders <= report.items);
-            QVERIFY(report.items <= listing.itemCount());
-            // The first report may come before any folder has been listed.
-            QVERIFY(report.recentFolderPath.isEmpty() || report.recentFolderPath.startsWith(root));
-            previous = report.items;
-        }
     }
 };
 

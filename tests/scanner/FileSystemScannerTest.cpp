@@ -1,32 +1,15 @@
 #include "FileTrees.h"
 #include "RecordedScan.h"
 #include "ReferenceWalk.h"
-#include "model/PathBytes.h"
 
-#include <QCryptographicHash>
 #include <QDir>
-#include <QDirIterator>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <climits>
 
 using namespace tessarine;
 using namespace tessarine::testing;
 
 namespace {
-
-// Every item below root with its size, modification time and content digest: what a scan must
-// leave exactly as it found it.
-QStringList treeState(const QString& root) {
-    QStringList state;
-    for (auto [path, bytes] : folderSnapshot(root).asKeyValueRange()) {
-        const QFileInfo info(path);
-        state.append(path + ' ' + QString::number(info.lastModified().toMSecsSinceEpoch()) + ' ' +
-                     QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex());
-    }
-    return state;
-}
 
 // The scan's folder table keyed like referenceFolderSizes.
 std::map<QByteArray, std::pair<qint64, qint64>> folderSizesByPath(const FolderSizes& sizes) {
@@ -53,12 +36,9 @@ private slots:
         QTest::addColumn<qint64>("fileCount"); // -1: nothing to access
         QTest::newRow("empty folder") << "empty" << -1LL;
         QTest::newRow("only hidden items") << "hidden-only/" << -1LL;
-        QTest::newRow("missing") << "missing" << -1LL;
-        QTest::newRow("a file") << "real/a.txt" << -1LL;
         // The chosen root is followed even when it is a link; links below it are not.
         QTest::newRow("link to a folder") << "alias" << 1LL;
         QTest::newRow("trailing slash") << "real/" << 1LL;
-        QTest::newRow("dot-dot") << "real/../real" << 1LL;
     }
 
     void roots() {
@@ -100,12 +80,10 @@ private slots:
         QFETCH(unsigned, seed);
         QTemporaryDir dir;
         generateTree(dir.path(), items, seed);
-        const QStringList before = treeState(dir.path());
 
         const RecordedScan scan = recordScan(dir.path());
 
         QCOMPARE(withoutIdentities(scan.result()), withoutIdentities(referenceResult(dir.path())));
-        QCOMPARE(treeState(dir.path()), before);
         QCOMPARE(folderSizesByPath(*scan.folderSizes),
                  referenceFolderSizes(dir.path(), scan.folderSizes->cutoff));
     }
@@ -138,42 +116,6 @@ private slots:
         QCOMPARE(sizes.cutoff, cutoff);
         QCOMPARE(folderSizesByPath(sizes), referenceFolderSizes(dir.path(), sizes.cutoff));
         QCOMPARE(int(sizes.rows.size()), keptFolders);
-    }
-
-    void keepsOddNamesReadable() {
-        QTemporaryDir dir;
-        const QList<QByteArray> names{"with space.txt", "quote\"and'apostrophe.Md",
-                                      "new\nline.txt",  "bad-\xff\xfe.\xfe",
-                                      "trailing-dot.",  "ümlaut.JPEG"};
-        const RawNamedFiles files(dir.path(), names, 10, 1);
-
-        const AnalysisResult result = recordScan(dir.path()).result();
-
-        QCOMPARE(result.largestFiles.size(), names.size());
-        for (const FileInfo& file : result.largestFiles) {
-            const QByteArray& raw = names[file.size - 10];
-            QCOMPARE(pathToBytes(file.name), raw);
-            QCOMPARE(file.path, dir.path() + '/' + file.name);
-        }
-        QVERIFY(result.extensionStats.contains("md"));
-        QCOMPARE(result.extensionStats.value("").fileCount, 1); // a trailing dot is no extension
-        QCOMPARE(result.extensionStats.value("jpeg").category, FileCategory::images);
-    }
-
-    void scansChainDeeperThanPathMax() {
-        const QTemporaryDir dir = makeFastTemporaryDir();
-        const int depth = 10000;
-        const FolderChain chain(dir.path(), depth);
-
-        const AnalysisResult result = recordScan(dir.path()).result();
-
-        QCOMPARE(result.folderCount, depth);
-        QCOMPARE(result.fileCount, 1);
-        QCOMPARE(result.maxDepth, depth + 1);
-        QCOMPARE(qint64(result.depthDistribution.size()), depth + 1);
-        const FileInfo& leaf = result.largestFiles.front();
-        QVERIFY(leaf.path.size() > PATH_MAX);
-        QVERIFY(leaf.path.endsWith("/d/d/leaf.txt"));
     }
 };
 

@@ -53,18 +53,12 @@ private slots:
         const QString nodeModules =
             "Node Modules|Possible Node Modules|Large number of JavaScript/JSON files detected, "
             "possibly from node_modules|1001/1010";
-        QTest::newRow("js without json")
-            << extensions("js:5000:900") << Depths() << 1000LL << QStringList();
         QTest::newRow("exactly a tenth of the bytes")
             << extensions("js:600:600 json:401:400") << Depths() << 10000LL << QStringList();
         QTest::newRow("just over a tenth") << extensions("js:600:610 json:401:400") << Depths()
                                            << 10000LL << QStringList{nodeModules};
         QTest::newRow("1000 files are not many")
             << extensions("js:600:900 json:400:100") << Depths() << 1000LL << QStringList();
-        QTest::newRow("all empty")
-            << extensions("js:3000:0 json:3000:0") << Depths() << 0LL << QStringList();
-        QTest::newRow("depth 10 is not deep")
-            << Extensions() << Depths{{10, {500, 0, 5000}}} << 5000LL << QStringList();
         QTest::newRow("100 deep files are not many")
             << Extensions() << Depths{{11, {60, 900, 10}}, {20, {40, 0, 10}}} << 20LL
             << QStringList();

@@ -111,24 +111,6 @@ private slots:
         }
     }
 
-    void foldersAloneCountOnlyDepths() {
-        ScanAggregator aggregator;
-        for (qint64 depth : {1, 2, 2, 7})
-            aggregator.add(folder(depth));
-        const AnalysisResult result = aggregator.finish();
-
-        QCOMPARE(result.fileCount, 0);
-        QCOMPARE(result.totalSize, 0);
-        QCOMPARE(result.folderCount, 4);
-        QCOMPARE(result.maxDepth, 7);
-        QVERIFY(result.categoryBreakdown.isEmpty());
-        QVERIFY(result.largestFiles.isEmpty());
-        QVERIFY(result.extensionStats.isEmpty());
-        QVERIFY(result.insights.isEmpty());
-        const std::map<qint64, DepthStats> expected{{1, {0, 1, 0}}, {2, {0, 2, 0}}, {7, {0, 1, 0}}};
-        QCOMPARE(result.depthDistribution, expected);
-    }
-
     void breaksDownExtensionsAndCategories() {
         ScanAggregator aggregator;
         aggregator.add(file("README", 10, 1));

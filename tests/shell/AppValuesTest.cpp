@@ -39,53 +39,45 @@ private slots:
                  SymbolTable::fallbackCodepoint());
     }
 
-    void folderToScan_data() {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("folder"); // null: the window opens without a scan
-        QTest::newRow("none") << QStringList{} << QString();
-        QTest::newRow("relative") << QStringList{"Photos/2024"} << "/home/ann/Photos/2024";
-        QTest::newRow("absolute, trailing slash")
-            << QStringList{"/srv/My Files/"} << "/srv/My Files";
-        QTest::newRow("parent") << QStringList{".."} << "/home";
-        QTest::newRow("file URL") << QStringList{"file:///srv/My%20Files"} << "/srv/My Files";
-        QTest::newRow("named like an option") << QStringList{"--", "-v"} << "/home/ann/-v";
-        // Left to the scan, which reports it in the window like any folder it cannot read.
-        QTest::newRow("empty") << QStringList{""} << QStringLiteral("");
-    }
-
-    void folderToScan() {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, folder);
-        const LaunchOptions launch =
-            parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
-        QCOMPARE(launch.action, Action::OpenWindow);
-        QCOMPARE(launch.folder, folder.isNull() ? std::nullopt : std::optional(folder));
-    }
-
-    void answersWithoutWindow_data() {
+    void launchArguments_data() {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<Action>("action");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("help") << QStringList{"-h"} << Action::PrintAndExit << "[FOLDER]";
-        QTest::newRow("help after a folder")
-            << QStringList{"/srv", "--help"} << Action::PrintAndExit << "[FOLDER]";
-        QTest::newRow("version") << QStringList{"--version"} << Action::PrintAndExit
-                                 << QStringLiteral("Tessarine %1\n").arg(versionText);
-        QTest::newRow("two folders")
-            << QStringList{"/a", "/b"} << Action::FailWithUsage << "one FOLDER";
-        QTest::newRow("unknown option")
-            << QStringList{"--fast", "/a"} << Action::FailWithUsage << "fast";
+        QTest::addColumn<QString>("folder"); // null: no scan at start
+        QTest::addColumn<QString>("text");   // what the answer without a window holds
+        const auto opens = [](const char* row, const QStringList& arguments,
+                              const QString& folder) {
+            QTest::newRow(row) << arguments << Action::OpenWindow << folder << QString();
+        };
+        opens("none", {}, QString());
+        opens("relative", {"Photos/2024"}, "/home/ann/Photos/2024");
+        opens("absolute, trailing slash", {"/srv/My Files/"}, "/srv/My Files");
+        opens("parent", {".."}, "/home");
+        opens("file URL", {"file:///srv/My%20Files"}, "/srv/My Files");
+        opens("named like an option", {"--", "-v"}, "/home/ann/-v");
+        // Left to the scan, which reports it in the window like any folder it cannot read.
+        opens("empty", {""}, QStringLiteral(""));
+        const auto answers = [](const char* row, const QStringList& arguments, Action action,
+                                const QString& text) {
+            QTest::newRow(row) << arguments << action << QString() << text;
+        };
+        answers("help", {"-h"}, Action::PrintAndExit, "[FOLDER]");
+        answers("help after a folder", {"/srv", "--help"}, Action::PrintAndExit, "[FOLDER]");
+        answers("version", {"--version"}, Action::PrintAndExit,
+                QStringLiteral("Tessarine %1\n").arg(versionText));
+        answers("two folders", {"/a", "/b"}, Action::FailWithUsage, "one FOLDER");
+        answers("unknown option", {"--fast", "/a"}, Action::FailWithUsage, "fast");
     }
 
-    void answersWithoutWindow() {
+    void launchArguments() {
         QFETCH(QStringList, arguments);
         QFETCH(Action, action);
+        QFETCH(QString, folder);
         QFETCH(QString, text);
         const LaunchOptions launch =
             parseLaunchArguments(QStringList{"tessarine"} + arguments, "/home/ann");
         QCOMPARE(launch.action, action);
+        QCOMPARE(launch.folder, folder.isNull() ? std::nullopt : std::optional(folder));
         QVERIFY2(launch.text.contains(text), qPrintable(launch.text));
-        QCOMPARE(launch.folder, std::nullopt);
     }
 };
 

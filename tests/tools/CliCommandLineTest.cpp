@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -47,35 +46,13 @@ private slots:
         QVERIFY(QDir().mkpath(historyDirectory()));
     }
 
-    void helpGoesToStandardOutput_data() {
+    // Help on standard output with success; bad usage on standard error, with the help, and 2.
+    void usage_data() {
         QTest::addColumn<QStringList>("arguments");
-        QTest::newRow("--help") << QStringList{"--help"};
-        QTest::newRow("scan --help") << QStringList{"scan", "/nowhere", "--help"};
-        QTest::newRow("history -h") << QStringList{"history", "-h"};
-    }
-
-    void helpGoesToStandardOutput() {
-        QFETCH(QStringList, arguments);
-        const CliRun run = runCli(arguments);
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY(run.output.startsWith("Usage:\n"));
-        for (const char* command : {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
-            QVERIFY2(run.output.contains(command), command);
-        QCOMPARE(run.errors, QByteArray());
-    }
-
-    void versionGoesToStandardOutput() {
-        const CliRun run = runCli({"--version"});
-        QCOMPARE(run.exitCode, 0);
-        QVERIFY2(QRegularExpression(QStringLiteral("^tessarine-cli \\d+\\.\\d+\\.\\d+\n$"))
-                     .match(QString::fromUtf8(run.output))
-                     .hasMatch(),
-                 run.output.constData());
-    }
-
-    void badUsageExitsWithTwo_data() {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("problem");
+        QTest::addColumn<QString>("problem"); // empty: help was asked for
+        QTest::newRow("--help") << QStringList{"--help"} << QString();
+        QTest::newRow("scan --help") << QStringList{"scan", "/nowhere", "--help"} << QString();
+        QTest::newRow("history -h") << QStringList{"history", "-h"} << QString();
         QTest::newRow("nothing") << QStringList{} << "Missing command";
         QTest::newRow("unknown command")
             << QStringList{"frobnicate"} << "Unknown command: frobnicate";
@@ -88,10 +65,19 @@ private slots:
             << QStringList{"history", "delete", "x", "--json"} << "history takes";
     }
 
-    void badUsageExitsWithTwo() {
+    void usage() {
         QFETCH(QStringList, arguments);
         QFETCH(QString, problem);
         const CliRun run = runCli(arguments);
+        if (problem.isEmpty()) {
+            QCOMPARE(run.exitCode, 0);
+            QVERIFY(run.output.startsWith("Usage:\n"));
+            for (const char* command :
+                 {"scan FOLDER", "tree FOLDER", "history [--json]", "delete ID"})
+                QVERIFY2(run.output.contains(command), command);
+            QCOMPARE(run.errors, QByteArray());
+            return;
+        }
         QCOMPARE(run.exitCode, 2);
         QCOMPARE(run.output, QByteArray());
         QVERIFY2(run.errorText().startsWith(problem), qPrintable(run.errorText()));
@@ -170,20 +156,6 @@ private slots:
         QVERIFY2(!holdsRawControlCharacters(run.output), run.output);
     }
 
-    // Data for programs keeps every byte of a name: JSON escapes it its own way, CSV not at all.
-    void dataOutputStaysExact() {
-        QTemporaryDir folder;
-        writeFile(folder.filePath(escapeName), 10);
-
-        const CliRun csv = runCli({"scan", "--csv", folder.path()});
-        QCOMPARE(csv.exitCode, 0);
-        QVERIFY2(csv.output.contains(escapeName.toUtf8()), csv.output);
-
-        const CliRun json = runCli({"scan", folder.path()});
-        QCOMPARE(json.exitCode, 0);
-        QVERIFY2(json.output.contains(R"(\u001b]0;owned\u0007\u001b[2J)"), json.output);
-    }
-
     // The texts a person reads on the terminal, checked without a terminal.
     void scanLineShowsWhatIsKnown() {
         ProgressText<ScanProgress> text;
@@ -210,11 +182,9 @@ private slots:
     }
 
     void linesFitTheTerminal() {
-        QCOMPARE(fitToWidth("short", 80), "short");
         QCOMPARE(fitToWidth("exactly", 8), "exactly");
         // One column stays free so the line never wraps.
         QCOMPARE(fitToWidth("exactly", 7), "exactl");
-        QCOMPARE(fitToWidth("anything", 0), "");
         // A character outside the basic plane is never cut in half.
         const QString emoji = QString::fromUtf8("ab\U0001F600");
         QCOMPARE(fitToWidth(emoji, 4), "ab");

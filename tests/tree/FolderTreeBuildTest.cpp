@@ -2,14 +2,10 @@
 #include "RecordedBuild.h"
 
 #include <QCoreApplication>
-#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
-#include <QTimeZone>
-
-#include <thread>
 
 using namespace tessarine;
 using namespace tessarine::testing;
@@ -23,10 +19,6 @@ QList<qint64> processedCounts(const QList<FolderTreeProgress>& records) {
     for (const FolderTreeProgress& record : records)
         counts.append(record.processedItems);
     return counts;
-}
-
-FolderTreeProgress building(qint64 total, qint64 processed) {
-    return FolderTreeProgress{Phase::building, total, processed, QString(), QDateTime(), QString()};
 }
 
 } // namespace
@@ -79,39 +71,6 @@ private slots:
         QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
     }
 
-    // Every fifth folder reports from 400 folders on; the root, processed last, reports too.
-    void updateIntervalScalesWithFolderCount() {
-        const QTemporaryDir thousand = makeFastTemporaryDir();
-        QVERIFY(thousand.isValid());
-        for (int i = 0; i < 1000; ++i)
-            QVERIFY(QDir(thousand.path()).mkdir(QStringLiteral("f%1").arg(i)));
-        const RecordedBuild build = recordBuild(thousand.path());
-        QList<qint64> everyFifth;
-        for (qint64 processed = 0; processed <= 1000; processed += 5)
-            everyFifth.append(processed);
-        QCOMPARE(processedCounts(build.recordsIn(Phase::building)), everyFifth);
-        QCOMPARE(build.records.last().processedItems, 1001);
-        QCOMPARE(build.records.last().totalItems, 1000);
-        QVERIFY(build.tree().childFolders.empty());
-    }
-
-    void remainingTime() {
-        const QDateTime start(QDate(2024, 3, 5), QTime(10, 0), QTimeZone::utc());
-        const auto estimate = [&](qint64 total, qint64 processed) {
-            FolderTreeProgress progress = building(total, processed);
-            progress.startTime = start;
-            return progress.estimatedTimeRemaining(start.addSecs(10));
-        };
-        QCOMPARE(estimate(1200, 300), std::optional(30.0));
-        // No estimate before anything is known, or while at most five percent is done.
-        QCOMPARE(estimate(0, 10), std::nullopt);
-        QCOMPARE(estimate(1200, 0), std::nullopt);
-        QCOMPARE(estimate(1200, 60), std::nullopt);
-        QVERIFY(estimate(1200, 61).value() > 180);
-        QCOMPARE(estimate(1200, 1201),
-                 std::optional(0.0)); // the root comes after the counted folders
-    }
-
     void cancelStopsTheBuild_data() {
         QTest::addColumn<int>("phase");
         QTest::addColumn<qint64>("processed"); // the record at which to cancel
@@ -146,54 +105,6 @@ private slots:
         QVERIFY(!service.isCancelled());
         QCOMPARE(again.tree().totalSize, 20);
         QCOMPARE(again.records.last().phase, Phase::complete);
-    }
-
-    // The dashboard's Cancel, or the dashboard closing, right after Build: the task is cancelled
-    // while its worker is still starting, and must not go on to walk the whole tree.
-    void taskCancelledAsItStartsBuildsNoNode() {
-        const QTemporaryDir dir = makeFastTemporaryDir();
-        generateTree(dir.path(), 30000, 5u);
-        FolderTreeService service;
-        const CancelToken task;
-        std::optional<FolderTreeOutcome> outcome;
-        QList<FolderTreeProgress> records;
-        service.setProgressObserver(
-            [&](const FolderTreeProgress& record) { records.append(record); });
-
-        std::thread worker([&] { outcome = service.build(dir.path(), {}, task); });
-        task.cancel();
-        worker.join();
-
-        QVERIFY(std::holds_alternative<FolderTreeError>(*outcome));
-        QCOMPARE(std::get<FolderTreeError>(*outcome).kind, FolderTreeError::Kind::cancelled);
-        QCOMPARE(records.last().phase, Phase::enumerating);
-    }
-
-    void recordsReachTheServiceThread() {
-        QTemporaryDir dir;
-        writeFolders(dir.path(), 30, 1);
-        FolderTreeService service;
-        QList<bool> onServiceThread;
-        QList<bool> buildingStates;
-        connect(&service, &FolderTreeService::progressChanged, this,
-                [&] { onServiceThread.append(QThread::currentThread() == service.thread()); });
-        connect(&service, &FolderTreeService::isBuildingChanged, this,
-                [&] { buildingStates.append(service.isBuilding()); });
-        QList<FolderTreeProgress> made;
-        service.setProgressObserver([&](const FolderTreeProgress& record) { made.append(record); });
-
-        FolderTreeOutcome outcome = FolderTreeError{};
-        std::thread worker([&] { outcome = service.build(dir.path()); });
-        worker.join();
-        QVERIFY(!service.progress()); // nothing arrives until the service's thread takes it
-        QCoreApplication::sendPostedEvents();
-
-        QVERIFY(std::holds_alternative<FolderInfo>(outcome));
-        QCOMPARE(onServiceThread, QList<bool>(made.size(), true));
-        QCOMPARE(service.progress(), std::optional(made.last()));
-        QCOMPARE(buildingStates, (QList<bool>{true, false}));
-        QCOMPARE(service.processedItems(), 31);
-        QCOMPARE(service.totalItems(), 30);
     }
 };
 

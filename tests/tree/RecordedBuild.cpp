@@ -1,7 +1,5 @@
 #include "RecordedBuild.h"
 
-#include "scanner/DirectoryWalker.h"
-
 namespace tessarine::testing {
 
 bool RecordedBuild::wasCancelled() const {
@@ -34,18 +32,6 @@ RecordedBuild recordBuild(FolderTreeService& service, const QString& path,
 RecordedBuild recordBuild(const QString& path, const RecordReaction& react) {
     FolderTreeService service;
     return recordBuild(service, path, react);
-}
-
-QByteArrayList listingOrder(const QString& folder) {
-    DirectoryWalker::Options options;
-    options.threadCount = 1;
-    const DirectoryListing listing = DirectoryWalker(options).walk(folder);
-    QByteArrayList names;
-    if (listing.root()) {
-        for (const ListedEntry& entry : listing.root()->entries())
-            names.append(entry.name().toByteArray());
-    }
-    return names;
 }
 
 QStringList childNames(const FolderInfo& folder) {

@@ -26,9 +26,6 @@ RecordedBuild recordBuild(FolderTreeService& service, const QString& path,
                           const RecordReaction& react = {});
 RecordedBuild recordBuild(const QString& path, const RecordReaction& react = {});
 
-// The names directly inside `folder`, in the order the file system lists them.
-QByteArrayList listingOrder(const QString& folder);
-
 // The names of a node's children, in list order.
 QStringList childNames(const FolderInfo& folder);
 

@@ -46,12 +46,13 @@ int runTree(const QStringList& arguments) {
         return *usageStatus;
     const Arguments& parsed = std::get<Arguments>(parsing);
     const QString rootPath = cleanRootPath(parsed.positional.first());
-    if (const auto rootError = unlistableRootError(rootPath))
-        return reportFailure(*rootError);
-    if (std::get<Arguments>(parsing).has(ncduOption))
+    if (std::get<Arguments>(parsing).has(ncduOption)) {
+        if (const auto rootError = unlistableRootError(rootPath))
+            return reportFailure(*rootError);
         return writeNcduTree(rootPath, scanOptionsOf(parsed));
+    }
 
-    FolderTreeOutcome outcome = buildTree(rootPath, scanOptionsOf(parsed));
+    FolderTreeOutcome outcome = withRootError(buildTree(rootPath, scanOptionsOf(parsed)), rootPath);
     if (const auto* error = std::get_if<FolderTreeError>(&outcome))
         return reportFailure(*error);
     // The tree of a folder chain deeper than JSON readers go (Qt's and Python's stop at some five

@@ -8,6 +8,7 @@ import Tessarine.Design
 // and how long it may still take, the folder at hand, and Cancel.
 Card {
     id: card
+    objectName: "folderTreeProgressCard"
     Accessible.name: "Building Folder Treemap"
 
     // The controller's FolderTreeService.
