@@ -1,6 +1,7 @@
 #include "AppState.h"
 
 #include "StoredScanOptions.h"
+#include "import/ImportedFolderSizes.h"
 #include "import/ScanImport.h"
 #include "model/PathBytes.h"
 #include "model/PathNames.h"
@@ -112,18 +113,13 @@ void AppState::clearError() {
 }
 
 void AppState::loadHistory() {
-    auto opened = m_store.openCatalog();
-    if (const auto* failure = std::get_if<StorageError>(&opened)) {
-        reportLoadFailure(failure->errorDescription());
-        // Nothing to follow in a folder that could not be made; one that could not be listed
-        // may come right, and is followed from nothing.
-        if (m_store.directoryError())
-            return;
-        opened = HistoryCatalog(m_store.storagePath());
+    // Nothing is read here, not even the summary index: reading ten thousand stored scans without
+    // one took most of a minute. The rows arrive from the follower's first look.
+    if (const auto& error = m_store.directoryError()) {
+        reportLoadFailure(StorageError{*error}.errorDescription());
+        return;
     }
-    const auto& catalog = std::get<HistoryCatalog>(opened);
-    m_scanHistory.reset(catalog.summaries());
-    m_historyFollower = std::make_unique<HistoryFollower>(catalog, m_store.storagePath());
+    m_historyFollower = std::make_unique<HistoryFollower>(m_store.storagePath());
     connect(m_historyFollower.get(), &HistoryFollower::summariesChanged, this,
             [this](const QList<ScanSummary>& summaries) {
                 m_loadFailureShown = false;
@@ -247,14 +243,18 @@ void AppState::deleteScan(const ScanSummary& scan) {
 void AppState::importScan(const QUrl& file) {
     startWorkerThread([this, replies = m_workerReplies.sender(), path = folderPathOf(file)] {
         ImportOutcome outcome = importScanFile(path);
-        replies.post([this, outcome = std::move(outcome)] {
+        // Its folder sizes come from the tree it brought, figured here, off the interface thread.
+        std::optional<FolderSizes> folderSizes;
+        if (const auto* result = std::get_if<AnalysisResult>(&outcome);
+            result && result->folderTree)
+            folderSizes = folderSizesOfTree(*result->folderTree);
+        replies.post([this, outcome = std::move(outcome), folderSizes = std::move(folderSizes)] {
             if (const auto* failure = std::get_if<ImportError>(&outcome)) {
                 setError(AppError::importFailed(failure->errorDescription()));
                 return;
             }
-            // No scan pass tallied its folders here, so it keeps no folder sizes file.
             const auto& result = std::get<AnalysisResult>(outcome);
-            saveResult(result, nullptr);
+            saveResult(result, folderSizes ? &*folderSizes : nullptr);
             openResult(result);
         });
     });

@@ -60,7 +60,8 @@ public:
     enum AppView { Landing, Scanning, Dashboard, History };
     Q_ENUM(AppView)
 
-    // Loads the history from the store at once. The store outlives this state.
+    // The history arrives a moment later, from a look on another thread. The store outlives this
+    // state.
     explicit AppState(PersistenceService& store, QObject* parent = nullptr);
     // Cancels a running scan without waiting for it (see WorkerThread.h).
     ~AppState() override;

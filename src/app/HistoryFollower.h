@@ -19,8 +19,9 @@ class HistoryFollower : public QObject {
     Q_OBJECT
 
 public:
-    // Follows the folder from what the catalog (opened at start) already knows.
-    HistoryFollower(HistoryCatalog catalog, const QString& folder, QObject* parent = nullptr);
+    // Starts with a look that takes in the summary index and reads what it does not vouch for,
+    // reporting every broken file as a start does.
+    explicit HistoryFollower(const QString& folder, QObject* parent = nullptr);
     // Waits for a look still running.
     ~HistoryFollower() override;
 
@@ -49,14 +50,17 @@ private:
     HistoryCatalog m_catalog;
     QFileSystemWatcher m_watcher;
     // A save makes a few changes in a row (a temporary file, then its rename): they are taken in
-    // with one look once they settle.
+    // with one look a moment after the first.
     QTimer m_settle;
+    QThreadPool m_firstLookThread;
     QThreadPool m_lookThread;
+    HistoryCatalog::Reporting m_reporting = HistoryCatalog::Reporting::everyBrokenFile;
     bool m_looking = false;
     bool m_changedDuringLook = false;
     bool m_ownChangeDuringLook = false;
-    // A look's rows were held back, so the next one applies its rows even if it finds no change.
-    bool m_rowsBehind = false;
+    // No rows shown yet, or a look's rows were held back: the next look applies its rows even if
+    // it finds no change.
+    bool m_rowsBehind = true;
 };
 
 } // namespace tessarine

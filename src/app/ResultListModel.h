@@ -1,8 +1,8 @@
 #pragma once
 
+#include "design/RowListModel.h"
 #include "model/ScanSummary.h"
 
-#include <QAbstractListModel>
 #include <QList>
 #include <QtQml/qqmlregistration.h>
 
@@ -11,7 +11,7 @@ namespace tessarine {
 // A list of stored scans shown by a view, by their summaries. A new list is taken in by removing
 // and inserting rows, keyed by id, so that the rows both lists hold stay where they are: the view
 // keeps its place and its delegates instead of starting over.
-class ResultListModel : public QAbstractListModel {
+class ResultListModel : public RowListModel<ResultListModel, QList<ScanSummary>> {
     Q_OBJECT
     QML_ANONYMOUS
     Q_PROPERTY(int count READ count NOTIFY countChanged)
@@ -28,28 +28,27 @@ public:
     };
     Q_ENUM(Role)
 
-    using QAbstractListModel::QAbstractListModel;
+    using RowListModel::RowListModel;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
-    int count() const { return static_cast<int>(m_results.size()); }
-    const QList<ScanSummary>& results() const { return m_results; }
+    int count() const { return static_cast<int>(m_rows.size()); }
+    const QList<ScanSummary>& results() const { return m_rows; }
 
 signals:
     void countChanged();
 
 protected:
+    QVariant rowData(const ScanSummary& summary, int role) const override;
     void resetRows(QList<ScanSummary> results);
-    // Becomes the given list. Only where the two order their common rows differently, or an id
-    // is listed twice, is the whole list replaced.
+    // Becomes the given list, row by row. Only where the two order their common rows
+    // differently, an id is listed twice or the changes are too scattered, are the rows replaced
+    // in place instead.
     void syncRows(const QList<ScanSummary>& latest);
     void insertRow(int row, const ScanSummary& result);
     void removeRowAt(int row);
 
-    QList<ScanSummary> m_results;
-
 private:
+    bool syncOneSpan(const QList<ScanSummary>& latest);
+    void replaceRows(const QList<ScanSummary>& latest);
     void removeRowsMissingFrom(const QHash<QUuid, qsizetype>& latestRows);
     // `kept` holds the rows left of the list before, by id.
     void insertAndUpdateRows(const QList<ScanSummary>& latest, const QHash<QUuid, qsizetype>& kept);

@@ -21,7 +21,12 @@ public:
     // Removes every row showing the record with this id; the others keep their order.
     void removeAll(const QUuid& id);
     // Becomes the given list (newest first), keeping the rows both hold where they are.
-    void sync(const QList<ScanSummary>& latest) { syncRows(latest); }
+    void sync(const QList<ScanSummary>& latest);
+
+signals:
+    // Once after every change, however many rows it moved: a list built on this one takes it
+    // in with one look at the whole history instead of one per removal or insertion.
+    void scansChanged();
 };
 
 } // namespace tessarine

@@ -35,11 +35,11 @@ QString DisplayFormat::compactDuration(double seconds) const {
 }
 
 QString DisplayFormat::absoluteDate(const QDateTime& date) const {
-    return date.isValid() ? format::absoluteDate(date) : missing();
+    return format::absoluteDate(date);
 }
 
 QString DisplayFormat::relativeDate(const QDateTime& date, const QDateTime& now) const {
-    return date.isValid() ? format::relativeDate(date, now) : missing();
+    return format::relativeDate(date, now);
 }
 
 QString DisplayFormat::clockTime(const QDateTime& date) const {

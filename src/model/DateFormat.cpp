@@ -1,5 +1,7 @@
 #include "model/Format.h"
 
+#include "model/Records.h"
+
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -63,7 +65,7 @@ RelativeUnit relativeUnit(const QDateTime& earlier, const QDateTime& later) {
 } // namespace
 
 QString absoluteDate(const QDateTime& date) {
-    if (!date.isValid())
+    if (!isKnownDate(date))
         return missing();
     const QLocale locale;
     const QDateTime local = date.toLocalTime();
@@ -74,6 +76,8 @@ QString absoluteDate(const QDateTime& date) {
 }
 
 QString relativeDate(const QDateTime& date, const QDateTime& now) {
+    if (!isKnownDate(date))
+        return missing();
     const bool past = date < now;
     const RelativeUnit unit = past ? relativeUnit(date, now) : relativeUnit(now, date);
     const QString amount =

@@ -23,7 +23,8 @@ QString duration(double seconds);
 // A running time: "< 1s", "42s", "2m 5s".
 QString compactDuration(double seconds);
 
-// Medium date and short time in local time, e.g. "Nov 23, 2026 at 9:41 AM".
+// Medium date and short time in local time, e.g. "Nov 23, 2026 at 9:41 AM". Both date texts are
+// "—" for a date that stands for "unknown" (isKnownDate), never the year 1.
 QString absoluteDate(const QDateTime& date);
 
 // Abbreviated distance from now: "5 min. ago", "2 hr. ago", "3 days ago", "in 2 hr.".

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/Records.h"
+#include "model/ScanSummary.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -28,6 +29,9 @@ bool encode(const FolderInfo& folder, const std::function<bool(QByteArrayView)>&
 // missing member, a wrong JSON type, an unknown enumeration value, a bad UUID or a bad date.
 // "folderTree" may be missing or null.
 std::optional<AnalysisResult> decodeResult(const QByteArray& bytes, QString* error = nullptr);
+// The summary decodeResult's result would give, without decoding the result's lists: what is
+// inside them is only checked when the whole result is decoded.
+std::optional<ScanSummary> decodeSummary(const QByteArray& bytes, QString* error = nullptr);
 
 // The most levels of folders below its root that a folder tree can have and still read back:
 // Qt's parser gives up beyond 1024 nested containers, and each level takes two (a folder's object

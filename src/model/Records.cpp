@@ -13,6 +13,20 @@ QDateTime distantPast() {
     return QDateTime(QDate(1, 1, 1), QTime(0, 0), Qt::UTC);
 }
 
+bool isKnownDate(const QDateTime& date) {
+    return date.isValid() && date > distantPast();
+}
+
+QString ImportSource::label() const {
+    return QStringLiteral("Imported from %1 (%2), %3")
+        .arg(program, fileName, format::absoluteDate(importDate));
+}
+
+QDateTime ImportSource::knownScanDate(const QDateTime& scanDate,
+                                      const std::optional<ImportSource>& source) {
+    return source && source->unknownFields.contains(u"scanDate") ? QDateTime() : scanDate;
+}
+
 QString ExtensionStats::displayName() const {
     return ext.isEmpty() ? QStringLiteral("No Extension") : QLatin1Char('.') + ext;
 }
@@ -57,6 +71,8 @@ std::vector<std::pair<qint64, DepthStats>> AnalysisResult::sortedDepths() const 
 }
 
 QString AnalysisResult::formattedDuration() const {
+    if (importSource && importSource->unknownFields.contains(u"scanDuration"))
+        return format::missing();
     return format::duration(scanDuration);
 }
 

@@ -27,6 +27,8 @@ namespace tessarine {
 
 // The date recorded for an item whose modification date is unknown: 0001-01-01T00:00:00Z.
 QDateTime distantPast();
+// Whether a date says when, rather than standing for "unknown" (invalid, or the distant past).
+bool isKnownDate(const QDateTime& date);
 
 // One scanned file or directory.
 struct FileInfo {
@@ -202,6 +204,7 @@ struct ImportSource {
     Q_PROPERTY(QString fileName MEMBER fileName)
     Q_PROPERTY(QDateTime importDate MEMBER importDate)
     Q_PROPERTY(QStringList unknownFields MEMBER unknownFields)
+    Q_PROPERTY(QString label READ label)
 
 public:
     QString program;  // "ncdu 1.18", "tessarine-cli 0.1.0"
@@ -212,6 +215,14 @@ public:
     // limit), keeping their totals in the folders above.
     QStringList unknownFields;
 
+    // "Imported from ncdu 1.18 (srv.json), Nov 25, 2026 at 9:41 AM": where from and when, as the
+    // dashboard and the history mark an imported scan.
+    QString label() const;
+    // The scan date to show of a result or summary: none where the file it was imported from
+    // gave none (scanDate then holds the import date, which orders it in the history).
+    static QDateTime knownScanDate(const QDateTime& scanDate,
+                                   const std::optional<ImportSource>& source);
+
     bool operator==(const ImportSource&) const = default;
 };
 
@@ -220,6 +231,7 @@ public:
 struct AnalysisResult {
     Q_GADGET
     Q_PROPERTY(QDateTime scanDate MEMBER scanDate)
+    Q_PROPERTY(QDateTime knownScanDate READ knownScanDate)
     Q_PROPERTY(QString rootPath MEMBER rootPath)
     Q_PROPERTY(QString rootName MEMBER rootName)
     Q_PROPERTY(qint64 totalSize MEMBER totalSize)
@@ -257,8 +269,9 @@ public:
     QList<ExtensionStats> sortedExtensions() const;
     // The depth entries, smallest depth first.
     std::vector<std::pair<qint64, DepthStats>> sortedDepths() const;
-    // scanDuration as "250 ms", "12.3 seconds" or "2m 5s".
+    // scanDuration as "250 ms", "12.3 seconds" or "2m 5s"; "—" where an imported file gave none.
     QString formattedDuration() const;
+    QDateTime knownScanDate() const { return ImportSource::knownScanDate(scanDate, importSource); }
     // The last component of rootPath as the sidebar and the history show it: empty for the root
     // folder, which names itself elsewhere, and "Unknown" without a path.
     QString folderName() const;

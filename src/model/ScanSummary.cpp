@@ -14,7 +14,8 @@ ScanSummary ScanSummary::of(const AnalysisResult& result) {
             .fileCount = result.fileCount,
             .folderCount = result.folderCount,
             .maxDepth = result.maxDepth,
-            .scanDuration = result.scanDuration};
+            .scanDuration = result.scanDuration,
+            .importSource = result.importSource};
 }
 
 QString ScanSummary::folderName() const {

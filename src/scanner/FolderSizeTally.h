@@ -32,11 +32,13 @@ public:
     // `depth` as the listing cursor gives it: 1 for an entry directly inside the scanned folder.
     // `name` must outlive the tally (it points into the listing).
     void addFolder(qint64 depth, QByteArrayView name);
-    void addFile(qint64 depth, qint64 size) {
+    void addFile(qint64 depth, qint64 size) { addFiles(depth, size, 1); }
+    // Several files of one folder at once, as a folder tree knows them.
+    void addFiles(qint64 depth, qint64 size, qint64 count) {
         closeDeeperThan(depth);
         Row& folder = m_rows[std::size_t(m_open.back())];
         addSaturating(folder.size, size);
-        ++folder.fileCount;
+        addSaturating(folder.fileCount, count);
     }
 
     // The table, with the folders under the cut-off left out. Call once, after the last item.

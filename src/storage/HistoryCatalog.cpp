@@ -30,8 +30,7 @@ std::optional<CatalogEntry> readEntry(const QString& path, const FileStamp& list
     } else {
         const auto& file = std::get<StoredFile>(read);
         entry.stamp = file.stamp;
-        if (auto result = json::decodeResult(file.bytes, &entry.failure))
-            entry.summary = ScanSummary::of(*result);
+        entry.summary = json::decodeSummary(file.bytes, &entry.failure);
     }
     return entry;
 }
@@ -114,20 +113,29 @@ std::optional<CatalogEntries> HistoryCatalog::indexUpdate() {
 }
 
 QList<ScanSummary> HistoryCatalog::summaries() const {
-    std::vector<std::pair<const QString*, const ScanSummary*>> listed;
+    // Sorted by date as a number: ten thousand dates compared afresh at every step were most of
+    // a look's time.
+    struct Listed {
+        qint64 date;
+        qint64 saved;
+        const QString* name;
+        const ScanSummary* summary;
+    };
+    std::vector<Listed> listed;
     listed.reserve(std::size_t(m_entries.size()));
     for (auto entry = m_entries.cbegin(); entry != m_entries.cend(); ++entry)
         if (entry->summary)
-            listed.emplace_back(&entry.key(), &*entry->summary);
-    std::sort(listed.begin(), listed.end(), [](const auto& a, const auto& b) {
-        if (a.second->scanDate != b.second->scanDate)
-            return a.second->scanDate > b.second->scanDate;
-        return *a.first < *b.first;
+            listed.push_back({entry->summary->scanDate.toMSecsSinceEpoch(), entry->stamp.modifiedNs,
+                              &entry.key(), &*entry->summary});
+    std::sort(listed.begin(), listed.end(), [](const Listed& a, const Listed& b) {
+        if (a.date != b.date)
+            return a.date > b.date;
+        return a.saved != b.saved ? a.saved > b.saved : *a.name < *b.name;
     });
     QList<ScanSummary> summaries;
     summaries.reserve(qsizetype(listed.size()));
-    for (const auto& [name, summary] : listed)
-        summaries.append(*summary);
+    for (const Listed& entry : listed)
+        summaries.append(*entry.summary);
     return summaries;
 }
 

@@ -56,7 +56,8 @@ public:
     // moment with ten thousand scans, can wait until the summaries are shown.
     std::optional<CatalogEntries> indexUpdate();
 
-    // Newest first; scans of the same date in the order of their file names.
+    // Newest first. Dates are stored to the second: scans of the same second come latest saved
+    // first, as the application lists a scan it has just saved, then by file name.
     QList<ScanSummary> summaries() const;
     const CatalogEntries& entries() const { return m_entries; }
 

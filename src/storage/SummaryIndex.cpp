@@ -6,7 +6,9 @@
 #include <QCryptographicHash>
 #include <QDataStream>
 #include <QDir>
-#include <QSaveFile>
+#include <QTemporaryFile>
+
+#include <cstdio>
 
 namespace tessarine {
 
@@ -14,7 +16,7 @@ namespace {
 
 constexpr quint32 magic = 0x54534958; // "TSIX"
 // Raised whenever the layout or the meaning of a field changes: an older index is then rebuilt.
-constexpr quint32 formatVersion = 1;
+constexpr quint32 formatVersion = 2;
 constexpr auto streamVersion = QDataStream::Qt_6_4;
 constexpr auto digest = QCryptographicHash::Sha1;
 
@@ -26,16 +28,38 @@ QDataStream& operator>>(QDataStream& in, FileStamp& stamp) {
     return in >> stamp.size >> stamp.modifiedNs >> stamp.changedNs >> stamp.inode;
 }
 
+QDataStream& operator<<(QDataStream& out, const std::optional<ImportSource>& source) {
+    out << source.has_value();
+    if (source)
+        out << source->program << source->fileName << source->importDate.toMSecsSinceEpoch()
+            << source->unknownFields;
+    return out;
+}
+
+QDataStream& operator>>(QDataStream& in, std::optional<ImportSource>& source) {
+    bool imported = false;
+    in >> imported;
+    source.reset();
+    if (!imported)
+        return in;
+    qint64 importDate = 0;
+    ImportSource& read = source.emplace();
+    in >> read.program >> read.fileName >> importDate >> read.unknownFields;
+    read.importDate = QDateTime::fromMSecsSinceEpoch(importDate, Qt::UTC);
+    return in;
+}
+
 QDataStream& operator<<(QDataStream& out, const ScanSummary& summary) {
     return out << summary.id << summary.scanDate.toMSecsSinceEpoch() << summary.rootPath
                << summary.rootName << summary.totalSize << summary.fileCount << summary.folderCount
-               << summary.maxDepth << summary.scanDuration;
+               << summary.maxDepth << summary.scanDuration << summary.importSource;
 }
 
 QDataStream& operator>>(QDataStream& in, ScanSummary& summary) {
     qint64 scanDate = 0;
     in >> summary.id >> scanDate >> summary.rootPath >> summary.rootName >> summary.totalSize >>
-        summary.fileCount >> summary.folderCount >> summary.maxDepth >> summary.scanDuration;
+        summary.fileCount >> summary.folderCount >> summary.maxDepth >> summary.scanDuration >>
+        summary.importSource;
     summary.scanDate = QDateTime::fromMSecsSinceEpoch(scanDate, Qt::UTC);
     return in;
 }
@@ -108,9 +132,16 @@ bool writeSummaryIndex(const QString& historyFolder, const CatalogEntries& entri
     const QByteArray payload = payloadOf(entries);
     out << magic << formatVersion << payload << QCryptographicHash::hash(payload, digest);
     // Written beside and renamed over: another process reading it meanwhile sees the old index
-    // or the new one, never half of one.
-    QSaveFile file(summaryIndexPath(historyFolder));
-    return openAndWriteCompletely(file, bytes) && file.commit();
+    // or the new one, never half of one. Unlike a history file it is not synced to disk first
+    // (QSaveFile would): that waited up to seconds on a busy disk, and an index a crash left
+    // half written fails its checksum and is rebuilt.
+    QTemporaryFile file(summaryIndexPath(historyFolder) + QStringLiteral("-XXXXXX"));
+    if (!openAndWriteCompletely(file, bytes) ||
+        std::rename(QFile::encodeName(file.fileName()).constData(),
+                    QFile::encodeName(summaryIndexPath(historyFolder)).constData()) != 0)
+        return false;
+    file.setAutoRemove(false);
+    return true;
 }
 
 } // namespace tessarine

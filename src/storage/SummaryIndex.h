@@ -17,7 +17,9 @@ namespace tessarine {
 // byte array, and the payload's SHA-1. The payload is the entry count, then per entry the file
 // name, size, modification and change times in nanoseconds, inode, and either true and the
 // summary (id, scan date in milliseconds since the epoch, root path and name, total size, files,
-// folders, depth, duration) or false and the reason the file could not be read.
+// folders, depth, duration, then whether it was imported and if so the program, file name, import
+// date in milliseconds and the fields the file did not give) or false and the reason the file
+// could not be read.
 QString summaryIndexPath(const QString& historyFolder);
 CatalogEntries readSummaryIndex(const QString& historyFolder);
 // Replaces the index in one rename; says whether it could.

@@ -1,6 +1,7 @@
 #include "model/Format.h"
 #include "model/PathBytes.h"
 #include "model/PathNames.h"
+#include "model/Records.h"
 #include "model/ScanProgress.h"
 
 #include <QDir>
@@ -43,7 +44,6 @@ private slots:
         QTest::newRow("zero") << 0LL << "Zero KB";
         QTest::newRow("one") << 1LL << "1 byte";
         QTest::newRow("most bytes") << 999LL << "999 bytes";
-        QTest::newRow("one KB") << 1000LL << "1 KB";
         QTest::newRow("KB rounded") << 1500LL << "2 KB";
         QTest::newRow("rounds into MB") << 999'999LL << "1 MB";
         QTest::newRow("MB one decimal") << 1'234'567LL << "1.2 MB";
@@ -78,7 +78,11 @@ private slots:
     void dates() {
         const QDateTime morning(QDate(2026, 11, 23), QTime(9, 41, 7), Qt::LocalTime);
         QCOMPARE(format::absoluteDate(morning).replace(u'\u202f', u' '), "Nov 23, 2026 at 9:41 AM");
-        QCOMPARE(format::absoluteDate(QDateTime()), format::missing());
+        // Unknown, as a file without a modification time or an import without a date is.
+        for (const QDateTime& unknown : {QDateTime(), distantPast()}) {
+            QCOMPARE(format::absoluteDate(unknown), format::missing());
+            QCOMPARE(format::relativeDate(unknown, morning), format::missing());
+        }
         QCOMPARE(format::clockTime(morning), "09:41:07");
         QCOMPARE(format::clockTime(morning.addSecs(12 * 3600)), "21:41:07");
     }
@@ -174,7 +178,8 @@ private slots:
 
     // Names that are not UTF-8 (Latin-1, truncated or overlong sequences, encoded surrogates) go
     // to text and back to the same bytes, and names differing in one such byte stay apart from
-    // each other and from a real U+FFFD, through a URL and the command line as well.
+    // each other and from a real U+FFFD, through a URL and the command line as well (the bytes a
+    // URL hands the desktop are NameBytesTest's).
     void pathsKeepTheirBytes() {
         const QList<QByteArray> names{"x\xff.txt",
                                       "x\xfe.txt",
@@ -191,9 +196,7 @@ private slots:
             texts.append(text);
             arguments.append(name.constData());
             QCOMPARE(pathToBytes(text), name);
-            const QUrl url = urlFromPath(u'/' + text);
-            QCOMPARE(QByteArray::fromPercentEncoding(url.toEncoded()), "file:///" + name);
-            QCOMPARE(pathFromUrl(url), u'/' + text);
+            QCOMPARE(pathFromUrl(urlFromPath(u'/' + text)), u'/' + text);
         }
         QCOMPARE(QSet<QString>(texts.begin(), texts.end()).size(), names.size());
         QCOMPARE(argumentsFromBytes(int(arguments.size()), arguments.data()), texts);

@@ -63,6 +63,10 @@ public:
         if (withTrend)
             storeProjectsTrend(m_store);
         m_state = std::make_unique<AppState>(m_store);
+        // Without a summary index beside them, the stored scans arrive from a look on another
+        // thread.
+        QVERIFY(QTest::qWaitFor(
+            [&] { return m_state->scanHistory()->count() == storedScans + (withTrend ? 5 : 0); }));
         AppState::setSharedInstance(m_state.get());
         prepareEngine(m_engine);
         m_engine.load(QUrl(QString::fromLatin1(mainWindowUrl)));

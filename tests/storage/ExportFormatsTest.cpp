@@ -65,19 +65,13 @@ private slots:
         QCOMPARE(error.persistenceError()->kind, PersistenceError::Kind::encodingFailed);
     }
 
-    void writeExportReplacesTheFile() {
+    // An export replaces a longer file whole. A failed one says why in the system's words, and
+    // leaves what was there before untouched: no partial file, no removed earlier export.
+    void exportReplacesOrLeavesNoPartialFile() {
         QTemporaryDir target;
-        const QString path = target.filePath("analysis_My \"Projects\", 2024.csv");
-        QVERIFY(!writeExport(path, QByteArray(1000, 'x')));
-        QVERIFY(!writeExport(path, "short"));
-        QCOMPARE(readBytes(path), QByteArray("short"));
-    }
-
-    // A failed export says why in the system's words, and leaves what was there before untouched:
-    // no partial file, no removed earlier export.
-    void failedExportSaysWhyAndLeavesNoPartialFile() {
-        QTemporaryDir target;
-        const QString earlier = writeFile(target.filePath("earlier.csv"), "kept");
+        const QString earlier = target.filePath("analysis_My \"Projects\", 2024.csv");
+        QVERIFY(!writeExport(earlier, QByteArray(1000, 'x')) && !writeExport(earlier, "kept"));
+        QCOMPARE(readBytes(earlier), QByteArray("kept"));
         const QMap<QString, QByteArray> before = folderSnapshot(target.path());
 
         QCOMPARE(writeExport(earlier + "/out.csv", "x")->errorDescription(),

@@ -107,6 +107,10 @@ AnalysisResult sampleResult(const QDateTime& scanDate) {
     result.insights = {cache};
 
     result.folderTree = folderTree();
+    result.importSource = ImportSource{QStringLiteral("ncdu 1.18"),
+                                       QStringLiteral("srv.json"),
+                                       QDateTime(QDate(2024, 3, 6), QTime(8, 0), Qt::UTC),
+                                       {QStringLiteral("modificationDate")}};
     return result;
 }
 

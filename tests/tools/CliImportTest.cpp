@@ -85,6 +85,8 @@ private slots:
             QSKIP("ncdu is not installed (scripts/install-deps.sh installs it)");
     }
 
+    // ncdu's export of a tree imports equal to a scan of it, with the tree a build on the disk
+    // gives; and ncdu browses what `tree --ncdu` writes, its sums of every folder ours.
     void importOfNcduExportEqualsScan() {
         QTemporaryDir dir;
         const QString root = dir.filePath("tree");
@@ -99,35 +101,48 @@ private slots:
         QCOMPARE(comparable(parsed(imported.output), resultVariables),
                  comparable(parsed(scan.output), resultVariables));
 
-        // The tree came with the file: the same folders as a build on the disk.
         const QJsonObject result = parsed(imported.output).toObject();
-        QCOMPARE(comparable(result["folderTree"], {"id"}),
-                 comparable(parsed(runCli({"tree", root}).output), {"id"}));
+        const QJsonValue tree = comparable(parsed(runCli({"tree", root}).output), {"id"});
+        QCOMPARE(comparable(result["folderTree"], {"id"}), tree);
         const QJsonObject source = result["importSource"].toObject();
         QCOMPARE(source["program"].toString(), "ncdu 1.18");
         QCOMPARE(source["fileName"].toString(), "export.json");
         QCOMPARE(source["unknownFields"].toArray(), QJsonArray{"scanDuration"});
+
+        const QString ours = dir.filePath("ours.json");
+        QCOMPARE(runCli({"tree", root, "--ncdu"}, {.outputFile = ours}).exitCode, 0);
+        QVERIFY(runNcdu({"-f", ours, "-o", exported}));
+        QCOMPARE(comparable(parsed(runCli({"import", exported}).output)["folderTree"], {"id"}),
+                 tree);
     }
 
     // Without ncdu's extended mode nothing tells when a file changed: said, not invented. Read
-    // from a pipe and saved, as `ssh server ncdu -o- /srv | tessarine-cli import - --save` does.
-    void plainExportFromStandardInput() {
+    // from a pipe and saved, as `ssh server ncdu -o- /srv | tessarine-cli import - --save` does,
+    // with the folder sizes of its tree, so that a later import names the folder that grew.
+    void plainExportsSavedAndCompared() {
         QTemporaryDir dir;
-        writeFiles(dir.filePath("tree"), {{"a/one.txt", 100}, {"two.jpg", 2000}});
+        const QString root = dir.filePath("tree");
+        writeFiles(root, {{"a/one.txt", 100}, {"two.jpg", 2000}});
         const QString exported = dir.filePath("plain.json");
-        QVERIFY(runNcdu({"-o", exported, dir.filePath("tree")}));
-        const CliRun run = runCli({"import", "-", "--save"}, {.inputFile = exported});
-        QCOMPARE(run.exitCode, 0);
-        const auto result = json::decodeResult(run.output);
-        QVERIFY(result);
-        QCOMPARE(result->totalSize, 2100);
-        QCOMPARE(result->largestFiles.first().modificationDate, distantPast());
-        QCOMPARE(result->importSource->fileName, "standard input");
-        QVERIFY(result->importSource->unknownFields.contains("modificationDate"));
-        QVERIFY(QFile::exists(QDir(historyDirectory())
-                                  .filePath("scan_" +
-                                            result->id.toString(QUuid::WithoutBraces).toUpper() +
-                                            ".json")));
+        QVERIFY(runNcdu({"-o", exported, root}));
+        const auto first =
+            json::decodeResult(runCli({"import", "-", "--save"}, {.inputFile = exported}).output);
+        QVERIFY(first);
+        QCOMPARE(first->totalSize, 2100);
+        QCOMPARE(first->largestFiles.first().modificationDate, distantPast());
+        QCOMPARE(first->importSource->fileName, "standard input");
+        QVERIFY(first->importSource->unknownFields.contains("modificationDate"));
+
+        writeFile(root + "/a/three.txt", 5000);
+        QVERIFY(runNcdu({"-o", exported, root}));
+        const auto second = json::decodeResult(runCli({"import", exported, "--save"}).output);
+        QVERIFY(second);
+        const CliRun compared =
+            runCli({"history", "compare", first->id.toString(), second->id.toString()});
+        QCOMPARE(compared.exitCode, 0);
+        QVERIFY2(
+            compared.output.contains(QFile::encodeName(root) + "/a  (100 bytes \xe2\x86\x92 5 KB)"),
+            compared.output.constData());
     }
 
     // A chain deeper than any stack: both ways, without recursion.
@@ -152,64 +167,43 @@ private slots:
         QVERIFY(runNcdu({"-f", ours, "-o", dir.filePath("again.json")}));
     }
 
-    // ncdu browses what `tree --ncdu` writes, and its sums of every folder are ours.
-    void ncduReadsOurTree() {
-        QTemporaryDir dir;
-        const QString root = dir.filePath("tree");
-        writeAwkwardTree(root);
-        RawNamedFiles raw(root + "/odd", {"caf\xe9.txt"}, 10);
-        const QString ours = dir.filePath("ours.json");
-        const QString again = dir.filePath("again.json");
-        QCOMPARE(runCli({"tree", root, "--ncdu"}, {.outputFile = ours}).exitCode, 0);
-        QVERIFY(runNcdu({"-f", ours, "-o", again}));
-        const CliRun imported = runCli({"import", again});
-        QCOMPARE(imported.exitCode, 0);
-        QCOMPARE(comparable(parsed(imported.output).toObject()["folderTree"], {"id"}),
-                 comparable(parsed(runCli({"tree", root}).output), {"id"}));
-    }
-
+    // Each gives a clear message and saves nothing. The last is far larger than any export, and
+    // is refused without being copied into memory.
     void hostileImports_data() {
         QTest::addColumn<QByteArray>("text");
         QTest::addColumn<QString>("message");
+        QTest::addColumn<qint64>("size"); // the file is made this long, with a hole after the text
         const QByteArray head = R"([1,2,{"progname":"ncdu"},[{"name":"/srv"},)";
-        QTest::newRow("truncated") << head + R"({"name":"a","asize":1)"
-                                   << "ends too early";
-        QTest::newRow("major version")
-            << QByteArray(R"([2,0,{},[{"name":"/"}]])") << "version 2 of the ncdu format";
-        QTest::newRow("past 64 bits") << head + R"({"name":"a","asize":99999999999999999999}]])"
-                                      << "past 64 bits";
-        QTest::newRow("slash") << head + R"({"name":"a/b"}]])"
-                               << "single path component";
-        QTest::newRow("dot dot") << head + R"([{"name":".."}]]])"
-                                 << "single path component";
-        QTest::newRow("nested") << head + QByteArray(100000, '[') << "expected \"{\"";
-        QTest::newRow("not json") << QByteArray("PK\x03\x04zip") << "Not an ncdu export";
-        QTest::newRow("not a result") << QByteArray(R"({"id": 1})") << "Invalid import file";
-        QTest::newRow("empty") << QByteArray() << "Not an ncdu export";
+        const auto row = [](const char* tag, const QByteArray& text, const char* message,
+                            qint64 size = 0) {
+            QTest::newRow(tag) << text << QString::fromUtf8(message) << size;
+        };
+        row("truncated", head + R"({"name":"a","asize":1)", "ends too early");
+        row("major version", R"([2,0,{},[{"name":"/"}]])", "version 2 of the ncdu format");
+        row("past 64 bits", head + R"({"name":"a","asize":99999999999999999999}]])",
+            "past 64 bits");
+        row("slash", head + R"({"name":"a/b"}]])", "single path component");
+        row("dot dot", head + R"([{"name":".."}]]])", "single path component");
+        row("nested", head + QByteArray(100000, '['), "expected \"{\"");
+        row("not json", "PK\x03\x04zip", "Not an ncdu export");
+        row("not a result", R"({"id": 1})", "Invalid import file");
+        row("empty", QByteArray(), "Not an ncdu export");
+        row("2 GB", QByteArray(), "Not an ncdu export", qint64(2) << 30);
     }
 
     void hostileImports() {
         QFETCH(QByteArray, text);
         QFETCH(QString, message);
+        QFETCH(qint64, size);
         const QStringList stored = QDir(historyDirectory()).entryList(QDir::Files);
         QTemporaryDir dir;
-        const QString file = writeFile(dir.filePath("hostile.json"), text);
-        const CliRun run = runCli({"import", file, "--save"});
+        QFile file(writeFile(dir.filePath("hostile.json"), text));
+        QVERIFY(size == 0 || file.resize(size));
+        const CliRun run = runCli({"import", file.fileName(), "--save"});
         QCOMPARE(run.exitCode, 1);
         QVERIFY2(run.errorText().contains(message), qPrintable(run.errorText()));
         QVERIFY(run.output.isEmpty());
         QCOMPARE(QDir(historyDirectory()).entryList(QDir::Files), stored);
-    }
-
-    // A file far larger than any export is refused or read without being copied into memory.
-    void hugeFile() {
-        QTemporaryDir dir;
-        QFile file(dir.filePath("huge.json"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.resize(qint64(2) << 30));
-        file.close();
-        const CliRun run = runCli({"import", file.fileName()});
-        QCOMPARE(run.exitCode, 1);
-        QVERIFY2(run.errorText().contains("Not an ncdu export"), qPrintable(run.errorText()));
     }
 };
 

@@ -5,8 +5,10 @@
 #include "StandardStreams.h"
 #include "Usage.h"
 
+#include "import/ImportedFolderSizes.h"
 #include "import/ScanImport.h"
 #include "model/Json.h"
+#include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 namespace tessarine::cli {
@@ -32,7 +34,12 @@ int runImport(const QStringList& arguments) {
     }
     const auto& result = std::get<AnalysisResult>(outcome);
     if (parsed->has(saveOption)) {
-        if (const auto error = PersistenceService::shared().save(result)) {
+        PersistenceService& store = PersistenceService::shared();
+        auto error = store.save(result);
+        if (!error && result.folderTree)
+            error = saveFolderSizes(store.storagePath(), result.id,
+                                    folderSizesOfTree(*result.folderTree));
+        if (error) {
             printError(error->errorDescription());
             return exitFailure;
         }

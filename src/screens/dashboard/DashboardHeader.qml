@@ -8,7 +8,9 @@ import Tessarine.Screens
 // and Rescan.
 Card {
     id: header
-    Accessible.name: [result.rootName, "scanned in " + result.formattedDuration]
+    Accessible.name: [result.rootName,
+                      result.isImported ? result.importSource.label
+                                        : "scanned in " + result.formattedDuration]
                      .concat(result.scanOptions.labels).join(", ")
 
     required property analysisResult result
@@ -60,7 +62,7 @@ Card {
                 DetailLabel {
                     font: Theme.subheadline
                     symbol: "clock"
-                    text: Format.absoluteDate(header.result.scanDate)
+                    text: Format.absoluteDate(header.result.knownScanDate)
                 }
 
                 DetailLabel {
@@ -74,9 +76,7 @@ Card {
                     visible: header.result.isImported
                     font: Theme.subheadline
                     symbol: "square.and.arrow.down"
-                    text: "Imported from " + header.result.importSource.program + " ("
-                          + header.result.importSource.fileName + "), "
-                          + Format.absoluteDate(header.result.importSource.importDate)
+                    text: header.result.importSource.label
                     maximumWidth: facts.width
                 }
 

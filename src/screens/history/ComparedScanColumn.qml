@@ -21,7 +21,7 @@ Column {
         spacing: 2
         Accessible.role: Accessible.Grouping
         Accessible.name: column.label + ": " + column.result.rootName + ", "
-                         + Format.absoluteDate(column.result.scanDate)
+                         + Format.absoluteDate(column.result.knownScanDate)
         Text {
             text: column.label
             font: Theme.caption
@@ -35,7 +35,7 @@ Column {
             elide: Text.ElideRight
         }
         Text {
-            text: Format.absoluteDate(column.result.scanDate)
+            text: Format.absoluteDate(column.result.knownScanDate)
             font: Theme.caption
             color: Theme.secondary
         }

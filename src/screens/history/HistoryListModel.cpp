@@ -6,12 +6,10 @@
 
 namespace tessarine {
 
-QVariant HistoryListModel::data(const QModelIndex& index, int role) const {
+QVariant HistoryListModel::rowData(const ScanSummary& summary, int role) const {
     if (role != SelectedRole)
-        return ResultListModel::data(index, role);
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
-        return {};
-    return m_selection.contains(m_results.at(index.row()).id);
+        return ResultListModel::rowData(summary, role);
+    return m_selection.contains(summary.id);
 }
 
 QHash<int, QByteArray> HistoryListModel::roleNames() const {
@@ -29,10 +27,7 @@ void HistoryListModel::setHistory(ScanHistoryModel* history) {
     if (history) {
         // Every change of the history, however small, is a new list: a search and a sort over
         // ten thousand scans' summaries take well under a frame.
-        connect(history, &QAbstractItemModel::modelReset, this, &HistoryListModel::followHistory);
-        connect(history, &QAbstractItemModel::rowsInserted, this, &HistoryListModel::followHistory);
-        connect(history, &QAbstractItemModel::rowsRemoved, this, &HistoryListModel::followHistory);
-        connect(history, &QAbstractItemModel::dataChanged, this, &HistoryListModel::followHistory);
+        connect(history, &ScanHistoryModel::scansChanged, this, &HistoryListModel::followHistory);
     }
     followHistory();
     emit historyChanged();
@@ -111,7 +106,7 @@ void HistoryListModel::refreshRows(bool trendShownChanged) {
     syncRows(filteredHistory(allScans(), m_searchText, m_sortOrder));
     // Redrawn only when it changed: the chart of a folder scanned every hour for a year draws
     // thousands of points.
-    TrendSeries trend = storageTrend(m_results);
+    TrendSeries trend = storageTrend(m_rows);
     if (!trendShownChanged && trend == m_trend)
         return;
     m_trend = std::move(trend);

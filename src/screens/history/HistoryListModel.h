@@ -34,7 +34,6 @@ public:
 
     using ResultListModel::ResultListModel;
 
-    QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
     ScanHistoryModel* history() const { return m_history; }
@@ -62,6 +61,9 @@ signals:
     void sortOrderChanged();
     void selectionChanged();
     void trendChanged();
+
+protected:
+    QVariant rowData(const ScanSummary& summary, int role) const override;
 
 private:
     QList<ScanSummary> allScans() const;

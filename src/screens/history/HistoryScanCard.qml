@@ -4,8 +4,9 @@ import Tessarine.App
 import Tessarine.Design
 import Tessarine.Screens
 
-// One saved scan: its selection circle, folder, date and size. A click opens it on the
-// dashboard; the circle and the context menu select it.
+// One saved scan: its selection circle, folder, date and size, and for a scan made elsewhere
+// where it came from and when. A click opens it on the dashboard; the circle and the context menu
+// select it.
 Rectangle {
     id: card
 
@@ -15,7 +16,6 @@ Rectangle {
     required property string rootPath
     required property double totalSize
     required property double fileCount
-    required property date scanDate
     required property bool selected
 
     // Asks for the context menu, which the list shares among its cards: one menu per card would
@@ -30,7 +30,8 @@ Rectangle {
     // Announced as what a click does: open this scan.
     Accessible.role: Accessible.Button
     Accessible.name: "Open scan of " + (rootName !== "" ? rootName : rootPath) + ", "
-                     + Format.byteCount(totalSize) + ", " + Format.absoluteDate(scanDate)
+                     + Format.byteCount(totalSize) + ", " + Format.absoluteDate(summary.knownScanDate)
+                     + (summary.isImported ? ", " + summary.importSource.label : "")
     Accessible.onPressAction: AppState.openStoredScan(card.summary)
 
     // The list's current card, while the list has the keyboard (only keys give it the focus).
@@ -112,6 +113,14 @@ Rectangle {
             color: Theme.secondary
             elide: Text.ElideMiddle
         }
+        DetailLabel {
+            objectName: "importedMark"
+            visible: card.summary.isImported
+            font: Theme.extraSmall
+            symbol: "square.and.arrow.down"
+            text: card.summary.importSource.label
+            maximumWidth: parent.width
+        }
     }
 
     Column {
@@ -122,13 +131,13 @@ Rectangle {
         spacing: 2
         Text {
             anchors.right: parent.right
-            text: Format.absoluteDate(card.scanDate)
+            text: Format.absoluteDate(card.summary.knownScanDate)
             font: Theme.caption
             color: Theme.secondary
         }
         Text {
             anchors.right: parent.right
-            text: Format.relativeDate(card.scanDate, Format.now)
+            text: Format.relativeDate(card.summary.knownScanDate, Format.now)
             font: Theme.extraSmall
             color: Theme.tertiary
         }

@@ -16,6 +16,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QtCore/qtestsupport_core.h>
 
 namespace tessarine {
 
@@ -49,6 +50,9 @@ AppFixture::AppFixture(QObject* parent)
     testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
     testing::storeSampleHistory(*m_store, 7);
     m_state = std::make_unique<AppState>(*m_store);
+    // Without a summary index beside them, the stored scans arrive from a look on another thread.
+    if (!QTest::qWaitFor([this] { return m_state->scanHistory()->count() == 7; }))
+        qWarning("The stored sample scans did not arrive");
     AppState::setSharedInstance(m_state.get());
     FileActions::setServices(&m_desktop);
 }
