@@ -43,7 +43,7 @@ if(NOT TESSARINE_CORE_ONLY)
         qml6-module-qtquick qml6-module-qtquick-window qml6-module-qtquick-layouts
         qml6-module-qtquick-controls qml6-module-qtquick-templates
         qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
-        qt6-qpa-plugins)
+        qt6-qpa-plugins qt6-xdgdesktopportal-platformtheme)
     if(NOT TESSARINE_EMBED_FONTS)
         list(APPEND runtime_packages fonts-inter fonts-material-design-icons-iconfont)
     endif()

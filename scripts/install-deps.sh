@@ -16,8 +16,10 @@ packages=(
   qml6-module-qtquick qml6-module-qtquick-controls qml6-module-qtquick-templates
   qml6-module-qtquick-layouts qml6-module-qtquick-window qml6-module-qtquick-dialogs qml6-module-qt-labs-folderlistmodel
   qml6-module-qtquick-shapes qml6-module-qttest qt6-qpa-plugins
-  # fonts: text face and the icon set
-  fonts-inter fonts-material-design-icons-iconfont
+  # the desktop's own file chooser through its portal, where one answers
+  qt6-xdgdesktopportal-platformtheme
+  # fonts: text face and the icon set; fontTools writes Inter with its tabular digits at build time
+  fonts-inter fonts-material-design-icons-iconfont python3-fonttools
   # a session bus of its own for the colour-scheme portal test
   dbus-daemon
   # a folder that stops answering, as a hung network mount does: a FUSE file system in Python

@@ -2,9 +2,10 @@ import QtQuick
 import Tessarine.App
 
 // The one drop target for folders to scan and scans to import, for the whole window and the
-// landing screen's drop zone alike. Only drags that carry file locations reach it, and none while
-// a scan runs; of a dropped set only the first item counts: a folder starts a scan, a file is
-// imported as a scan made elsewhere (an ncdu export, a Tessarine result).
+// landing screen's drop zone alike. Only drags that carry file locations reach it. While a scan
+// runs a drag is still shown as over the window, but its drop is refused; of a dropped set only
+// the first item counts: a folder starts a scan, a file is imported as a scan made elsewhere (an
+// ncdu export, a Tessarine result).
 DropArea {
     id: area
 
@@ -24,8 +25,6 @@ DropArea {
     }
 
     keys: ["text/uri-list"]
-
-    onEntered: drag => drag.accepted = !AppState.isScanning
 
     onDropped: drop => {
         if (area.take(drop.urls))

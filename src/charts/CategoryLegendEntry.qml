@@ -58,7 +58,7 @@ AbstractButton {
 
         Text {
             text: entry.share
-            font: Theme.monospaced(Theme.extraSmall)
+            font: Theme.tabularDigits(Theme.extraSmall)
             color: Theme.secondary
         }
     }

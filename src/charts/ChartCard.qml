@@ -3,21 +3,20 @@ import QtQuick.Layouts
 import Tessarine.Design
 
 // The card every chart of a result sits on: its sections stacked 16 points apart inside the
-// standard padding.
+// standard card padding.
 Card {
     id: card
 
     default property alias content: column.data
-    property real padding: 20
 
-    implicitWidth: column.implicitWidth + 2 * padding
-    implicitHeight: column.implicitHeight + 2 * padding
+    implicitWidth: column.implicitWidth + 2 * Theme.cardPadding
+    implicitHeight: column.implicitHeight + 2 * Theme.cardPadding
 
     ColumnLayout {
         id: column
 
         anchors.fill: parent
-        anchors.margins: card.padding
+        anchors.margins: Theme.cardPadding
         spacing: Theme.spacingLarge
     }
 }

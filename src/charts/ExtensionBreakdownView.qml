@@ -28,18 +28,46 @@ ChartCard {
             font: Theme.caption
             tint: Theme.blue
             padding: 2
-            onClicked: extensions.showAll = !extensions.showAll
+            onClicked: {
+                rowsArea.sliding = true
+                extensions.showAll = !extensions.showAll
+            }
         }
     }
 
-    Column {
+    // "Show All" and "Show Less" open and close the list rather than jumping; the first layout
+    // does not slide.
+    Item {
+        id: rowsArea
+
+        property bool sliding: false
+
+        objectName: "extensionRows"
         Layout.fillWidth: true
-        spacing: 8
+        implicitHeight: rows.implicitHeight
+        clip: true
 
-        Repeater {
-            model: extensions
+        Behavior on implicitHeight {
+            enabled: rowsArea.sliding
 
-            ExtensionRow { width: parent.width }
+            NumberAnimation {
+                duration: Theme.standardDuration
+                easing.type: Theme.standardEasing
+                onRunningChanged: if (!running) rowsArea.sliding = false
+            }
+        }
+
+        Column {
+            id: rows
+
+            width: parent.width
+            spacing: 8
+
+            Repeater {
+                model: extensions
+
+                ExtensionRow { width: parent.width }
+            }
         }
     }
 

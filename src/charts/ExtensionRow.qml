@@ -65,7 +65,7 @@ RowLayout {
         Text {
             anchors.right: parent.right
             text: Format.byteCount(row.totalSize)
-            font: Theme.monospaced(Theme.caption, Font.Medium)
+            font: Theme.tabularDigits(Theme.caption, Font.Medium)
             color: Theme.primary
         }
 

@@ -13,7 +13,7 @@ Card {
     required property folderTree tree
     readonly property alias treemap: treemapModel
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
     Accessible.name: "Folder Treemap"
 
     FolderTreemapModel {
@@ -28,7 +28,7 @@ Card {
     ColumnLayout {
         id: content
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.cardPadding }
         spacing: Theme.spacingMedium
 
         RowLayout {
@@ -89,21 +89,9 @@ Card {
                 anchors.fill: parent
                 cornerRadius: Theme.radiusMedium
                 cells: treemapModel.cells
+                hoverScale: 1.01
+                hoverDuration: 100
                 onDoubleClicked: index => treemapModel.drillDown(index)
-                onHoveredIndexChanged: {
-                    hoverScale = 1
-                    if (hoveredIndex >= 0)
-                        hoverAnimation.restart()
-                }
-
-                NumberAnimation on hoverScale {
-                    id: hoverAnimation
-
-                    running: false
-                    to: 1.01
-                    duration: 100
-                    easing.type: Easing.OutQuad
-                }
 
                 ParallelAnimation {
                     id: navigationAnimation

@@ -19,6 +19,8 @@ Item {
     required property real cellWidth
     required property real cellHeight
     property bool hovered: false
+    property real hoverScale: 1
+    property int hoverDuration: 0
 
     readonly property bool showsSymbol: cellWidth > 60 && cellHeight > 40
     readonly property bool showsDetails: cellWidth > 100 && cellHeight > 60
@@ -27,9 +29,10 @@ Item {
     y: cellY
     width: cellWidth
     height: cellHeight
-    scale: hovered ? 1.02 : 1
+    scale: hovered ? hoverScale : 1
 
-    Behavior on scale { NumberAnimation { duration: 150; easing.type: Easing.OutQuad } }
+    // The curve TreemapCells grows its cells by.
+    Behavior on scale { NumberAnimation { duration: label.hoverDuration; easing.type: Easing.OutQuad } }
 
     Column {
         anchors.centerIn: parent

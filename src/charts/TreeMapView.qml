@@ -51,22 +51,9 @@ ChartCard {
             anchors.fill: parent
             cornerRadius: Theme.radiusMedium
             cells: treemap.cells
+            hoverScale: 1.02
+            hoverDuration: 150
             onClicked: index => card.selection.toggle(treemap.categoryAt(index))
-            // A newly hovered cell grows into place rather than jumping.
-            onHoveredIndexChanged: {
-                hoverScale = 1
-                if (hoveredIndex >= 0)
-                    hoverAnimation.restart()
-            }
-
-            NumberAnimation on hoverScale {
-                id: hoverAnimation
-
-                running: false
-                to: 1.02
-                duration: 150
-                easing.type: Easing.OutCubic
-            }
         }
 
         Repeater {
@@ -74,8 +61,11 @@ ChartCard {
 
             model: treemap
 
+            // Grows and shrinks with its cell.
             TreeMapCellLabel {
                 hovered: index === cells.hoveredIndex
+                hoverScale: cells.hoverScale
+                hoverDuration: cells.hoverDuration
             }
         }
     }
@@ -129,7 +119,7 @@ ChartCard {
 
                 Text {
                     text: details.cell ? Format.byteCount(details.cell.totalSize) : ""
-                    font: Theme.monospaced(Theme.caption)
+                    font: Theme.tabularDigits(Theme.caption)
                     color: Theme.primary
                 }
 

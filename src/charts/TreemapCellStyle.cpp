@@ -27,8 +27,9 @@ TreemapLabel folderLabel(const NestedTreemapCell& cell) {
             showsSize ? format::byteCount(cell.item.folder->totalSize) : QString(),
             !cell.item.isFiles && rect.width() > 60, std::clamp(rect.width() / 12, 8.0, 11.0),
             std::clamp(rect.width() / 15, 7.0, 9.0),
-            // The cell's 1-point gap, and the padding of a cell that shows its contents.
-            cell.nests ? 4.0 : 1.0};
+            // The padding of a cell that shows its contents; the cell's rectangle already leaves
+            // the 1-point gap to its neighbours.
+            cell.nests ? 3.0 : 0.0};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "charts/TreemapCells.h"
 
+#include "charts/TreemapCellBlend.h"
 #include "charts/TreemapCellsAccessible.h"
 #include "charts/TreemapLabelPainter.h"
 #include "charts/TreemapNavigation.h"
@@ -64,11 +65,10 @@ void paintCell(QPainter& painter, const QRectF& rect, qreal radius, const QColor
     painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), radius - half, radius - half);
 }
 
-// The cell with its label, in its hovered style or not.
-void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, bool hovered) {
-    paintCell(painter, cell.rect, cell.radius, cell.fill,
-              hovered ? cell.hoveredOpacity : cell.opacity,
-              hovered ? cell.hoveredBorder : cell.border);
+// The cell with its label, amount of the way into its hovered style.
+void paintCellWithLabel(QPainter& painter, const TreemapCell& cell, qreal amount) {
+    const CellLook look = hoverLook(cell, amount);
+    paintCell(painter, cell.rect, cell.radius, cell.fill, look.opacity, look.border);
     paintTreemapLabel(painter, cell.rect, cell.label);
 }
 
@@ -110,12 +110,35 @@ TreemapCells::TreemapCells(QQuickItem* parent)
     };
     takeAccent();
     connect(&ColorScheme::instance(), &ColorScheme::darkChanged, this, takeAccent);
+    m_hoverTransition.setStartValue(0.0);
+    m_hoverTransition.setEndValue(1.0);
+    m_hoverTransition.setEasingCurve(QEasingCurve::OutQuad);
+    connect(&m_hoverTransition, &QVariantAnimation::valueChanged, this, &TreemapCells::hoverStep);
+    // The left cell has shrunk back into the others.
+    connect(&m_hoverTransition, &QAbstractAnimation::finished, this,
+            [this] { m_leavingIndex = -1; });
+    m_restyle.setStartValue(0.0);
+    m_restyle.setEndValue(1.0);
+    m_restyle.setDuration(200);
+    m_restyle.setEasingCurve(QEasingCurve::InOutQuad);
+    connect(&m_restyle, &QVariantAnimation::valueChanged, this, &TreemapCells::restyleStep);
 }
 
 void TreemapCells::setCells(const TreemapCellList& cells) {
     if (cells == m_cells)
         return;
     const bool relaidOut = !sameLayout(cells.cells(), m_cells.cells());
+    // Another style of the same cells fades in from the style of the moment, over the cells
+    // whose style changed.
+    QList<TreemapCell> previous;
+    m_restyledArea = {};
+    for (qsizetype i = 0; !relaidOut && i < cells.count(); ++i) {
+        previous.append(styledCell(i));
+        if (!(previous.last() == cells.cells()[i]))
+            m_restyledArea |= grown(previous.last().rect);
+    }
+    m_restyle.stop();
+    m_previousStyle = previous;
     m_cells = cells;
     // A new style alone (another selection) leaves every cell where it was, so the keys stay on
     // their cell; a new layout (a drill-down) starts them again from its first cell. The pointer
@@ -124,7 +147,14 @@ void TreemapCells::setCells(const TreemapCellList& cells) {
         setHoveredIndex(relaidOut ? firstCell() : m_hoveredIndex);
     else
         setHoveredIndex(cellAt(m_pointer.x(), m_pointer.y()));
-    repaintAll();
+    if (relaidOut) {
+        // The cell the pointer left belonged to the old layout.
+        m_leavingIndex = -1;
+        repaintAll();
+    } else {
+        m_restyleProgress = 0;
+        m_restyle.start();
+    }
     emit cellsChanged();
 }
 
@@ -135,6 +165,13 @@ void TreemapCells::setHoverScale(qreal scale) {
     m_hoverScale = scale;
     updateHoveredArea();
     emit hoverScaleChanged();
+}
+
+void TreemapCells::setHoverDuration(int duration) {
+    if (duration == m_hoverDuration)
+        return;
+    m_hoverDuration = duration;
+    emit hoverDurationChanged();
 }
 
 void TreemapCells::setCornerRadius(qreal radius) {
@@ -161,36 +198,90 @@ void TreemapCells::repaintAll() {
     update();
 }
 
-void TreemapCells::updateHoveredArea() {
+void TreemapCells::updateArea(const QRectF& area) {
     // An empty area would repaint the whole item.
-    if (m_hoveredIndex < 0 || m_hoveredIndex >= m_cells.count())
+    if (area.isEmpty())
         return;
     if (m_repaintsAll) {
         update();
         return;
     }
-    const QRectF rect = m_cells.cells()[m_hoveredIndex].rect;
-    const qreal scale = std::max(m_hoverScale, 1.0);
-    const QSizeF size = rect.size() * scale;
     // One more pixel for antialiasing.
-    update(QRectF(rect.center() - QPointF(size.width(), size.height()) / 2, size)
-               .toAlignedRect()
-               .adjusted(-1, -1, 1, 1));
+    update(area.toAlignedRect().adjusted(-1, -1, 1, 1));
+}
+
+QRectF TreemapCells::grown(const QRectF& rect) const {
+    const QSizeF size = rect.size() * std::max(m_hoverScale, 1.0);
+    return QRectF(rect.center() - QPointF(size.width(), size.height()) / 2, size);
+}
+
+void TreemapCells::updateCellArea(int index) {
+    if (index >= 0 && index < m_cells.count())
+        updateArea(grown(m_cells.cells()[index].rect));
 }
 
 void TreemapCells::setHoveredIndex(int index) {
     if (index == m_hoveredIndex)
         return;
-    updateHoveredArea();
+    // A cell still shrinking back from an earlier hover is done at once.
+    updateCellArea(m_leavingIndex);
+    const int left = m_hoveredIndex;
+    m_leavingFrom = hoverAmount(left);
     m_hoveredIndex = index;
+    m_hoverTransition.stop();
+    if (m_hoverDuration > 0) {
+        m_leavingIndex = left;
+        m_hoverProgress = 0;
+        m_hoverTransition.setDuration(m_hoverDuration);
+        m_hoverTransition.start();
+    } else {
+        m_leavingIndex = -1;
+        m_hoverProgress = 1;
+    }
+    updateCellArea(left);
     updateHoveredArea();
     emit hoveredIndexChanged();
 }
 
-bool TreemapCells::movesWithHovered(qsizetype index) const {
+void TreemapCells::hoverStep(const QVariant& progress) {
+    m_hoverProgress = progress.toReal();
+    updateCellArea(m_leavingIndex);
+    updateHoveredArea();
+}
+
+void TreemapCells::restyleStep(const QVariant& progress) {
+    m_restyleProgress = progress.toReal();
+    updateArea(m_restyledArea);
+    if (m_restyleProgress >= 1)
+        m_previousStyle.clear();
+}
+
+qreal TreemapCells::hoverAmount(int index) const {
+    if (index < 0)
+        return 0;
+    if (index == m_hoveredIndex)
+        return m_hoverProgress;
+    if (index == m_leavingIndex)
+        return m_leavingFrom * (1 - m_hoverProgress);
+    return 0;
+}
+
+TreemapCell TreemapCells::styledCell(qsizetype index) const {
+    const TreemapCell& cell = m_cells.cells()[index];
+    if (m_previousStyle.size() != m_cells.cells().size())
+        return cell;
+    return restyled(m_previousStyle[index], cell, m_restyleProgress);
+}
+
+bool TreemapCells::isRaised(qsizetype index) const {
+    return index == m_hoveredIndex || index == m_leavingIndex || movesWith(m_hoveredIndex, index) ||
+           movesWith(m_leavingIndex, index);
+}
+
+bool TreemapCells::movesWith(int raised, qsizetype index) const {
     const QList<TreemapCell>& cells = m_cells.cells();
-    return m_hoveredIndex >= 0 && m_hoveredIndex < cells.size() && index > m_hoveredIndex &&
-           cells[m_hoveredIndex].rect.contains(cells[index].rect);
+    return raised >= 0 && raised < cells.size() && index > raised &&
+           cells[raised].rect.contains(cells[index].rect);
 }
 
 void TreemapCells::paint(QPainter* painter) {
@@ -199,30 +290,40 @@ void TreemapCells::paint(QPainter* painter) {
     // A hover change repaints two small areas; the cells outside them are left as they are.
     const QRectF area =
         painter->hasClipping() ? painter->clipBoundingRect() : QRectF(0, 0, width(), height());
+    // Most repaints change no style: the cells are painted as they are, without a copy each.
+    const bool restyling = m_previousStyle.size() == cells.size();
     for (qsizetype i = 0; i < cells.size(); ++i) {
-        const TreemapCell& cell = cells[i];
-        if (i != m_hoveredIndex && cell.rect.intersects(area) && !movesWithHovered(i))
-            paintCellWithLabel(*painter, cell, false);
+        if (!cells[i].rect.intersects(area) || isRaised(i))
+            continue;
+        if (restyling)
+            paintCellWithLabel(*painter, styledCell(i), 0);
+        else
+            paintCellWithLabel(*painter, cells[i], 0);
     }
-    if (m_hoveredIndex >= 0 && m_hoveredIndex < cells.size())
-        paintHovered(*painter);
+    // The cell the pointer left under the one it went to, which may lie inside it.
+    for (const int raised : {m_leavingIndex, m_hoveredIndex}) {
+        if (raised >= 0 && raised < cells.size())
+            paintRaised(*painter, raised);
+    }
     cutCorners(*painter);
 }
 
-void TreemapCells::paintHovered(QPainter& painter) const {
+void TreemapCells::paintRaised(QPainter& painter, int index) const {
     const QList<TreemapCell>& cells = m_cells.cells();
-    const TreemapCell& hovered = cells[m_hoveredIndex];
+    const TreemapCell raised = styledCell(index);
+    const qreal amount = hoverAmount(index);
+    const qreal scale = 1 + (m_hoverScale - 1) * amount;
     painter.save();
-    painter.translate(hovered.rect.center());
-    painter.scale(m_hoverScale, m_hoverScale);
-    painter.translate(-hovered.rect.center());
-    paintCellWithLabel(painter, hovered, true);
-    for (qsizetype i = m_hoveredIndex + 1; i < cells.size(); ++i) {
-        if (movesWithHovered(i))
-            paintCellWithLabel(painter, cells[i], false);
+    painter.translate(raised.rect.center());
+    painter.scale(scale, scale);
+    painter.translate(-raised.rect.center());
+    paintCellWithLabel(painter, raised, amount);
+    for (qsizetype i = index + 1; i < cells.size(); ++i) {
+        if (movesWith(index, i) && !(index == m_leavingIndex && i == m_hoveredIndex))
+            paintCellWithLabel(painter, styledCell(i), 0);
     }
-    if (showsFocusRing())
-        paintFocusRing(painter, hovered, m_accent);
+    if (index == m_hoveredIndex && showsFocusRing())
+        paintFocusRing(painter, raised, m_accent);
     painter.restore();
 }
 

@@ -4,6 +4,16 @@
 
 namespace tessarine {
 
+DisplayFormat::DisplayFormat(QObject* parent)
+    : QObject(parent) {
+    m_clock.setInterval(1000);
+    connect(&m_clock, &QTimer::timeout, this, [this] {
+        m_now = QDateTime::currentDateTimeUtc();
+        emit nowChanged();
+    });
+    m_clock.start();
+}
+
 QString DisplayFormat::byteCount(qint64 bytes) const {
     return format::byteCount(bytes);
 }
@@ -28,8 +38,8 @@ QString DisplayFormat::absoluteDate(const QDateTime& date) const {
     return format::absoluteDate(date);
 }
 
-QString DisplayFormat::relativeDate(const QDateTime& date) const {
-    return format::relativeDate(date, QDateTime::currentDateTimeUtc());
+QString DisplayFormat::relativeDate(const QDateTime& date, const QDateTime& now) const {
+    return format::relativeDate(date, now);
 }
 
 QString DisplayFormat::clockTime(const QDateTime& date) const {

@@ -78,6 +78,8 @@ QtObject {
     // Typography: Inter at the system type scale, in pixels.
     readonly property string fontFamily: "Inter"
     readonly property string monoFamily: "DejaVu Sans Mono"
+    // Inter with its tabular digits, which the build writes and the application carries.
+    readonly property string figureFamily: "Inter Tabular"
     readonly property font largeTitle: Qt.font({ family: fontFamily, pixelSize: 26 })
     readonly property font title: Qt.font({ family: fontFamily, pixelSize: 22 })
     readonly property font title2: Qt.font({ family: fontFamily, pixelSize: 17 })
@@ -94,9 +96,18 @@ QtObject {
         return Qt.font({ family: style.family, pixelSize: style.pixelSize, weight: weight })
     }
 
-    // The monospaced face at a style's size, for figures and paths that should not jitter.
+    // The monospaced face at a style's size, for paths, key caps and text set in a typewriter face.
     function monospaced(style, weight) {
-        return Qt.font({ family: monoFamily, pixelSize: style.pixelSize,
+        return faceAt(monoFamily, style, weight)
+    }
+
+    // The style with digits of one width, for figures that change or stand in columns.
+    function tabularDigits(style, weight) {
+        return faceAt(figureFamily, style, weight)
+    }
+
+    function faceAt(family, style, weight) {
+        return Qt.font({ family: family, pixelSize: style.pixelSize,
                          weight: weight === undefined ? Font.Normal : weight })
     }
 
@@ -115,6 +126,8 @@ QtObject {
     readonly property real spacingXLarge: 20
     readonly property real spacingSection: 24
     readonly property real spacingHuge: 40
+    // What every card leaves between its edge and its content: the platform's standard padding.
+    readonly property real cardPadding: 16
 
     // Motion: the quick fade, the standard change, and a critically damped spring (no overshoot),
     // which an ease-out curve of the spring's response time matches closely.

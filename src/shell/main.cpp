@@ -1,6 +1,7 @@
 #include "app/AppState.h"
 #include "model/PathBytes.h"
 #include "model/WorkerThread.h"
+#include "shell/DesktopFileChooser.h"
 #include "shell/LaunchOptions.h"
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
@@ -32,6 +33,7 @@ int main(int argc, char* argv[]) {
     if (early.action == LaunchOptions::Action::PrintAndExit)
         return finishWithoutWindow(early);
 
+    tessarine::preferDesktopFileChooser();
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Tessarine"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tessarine"));

@@ -1,5 +1,6 @@
 #include "DesktopPalette.h"
 #include "SampleResults.h"
+#include "SessionBus.h"
 
 #include "charts/CategoryTreemapModel.h"
 #include "charts/FolderTreemapModel.h"
@@ -10,12 +11,10 @@
 #include <QDBusConnection>
 #include <QDBusVariant>
 #include <QMetaProperty>
-#include <QProcess>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QSignalSpy>
-#include <QStandardPaths>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -60,35 +59,26 @@ class ColorSchemeTest : public QObject {
 private slots:
     void initTestCase() {
         m_lightPalette = QGuiApplication::palette();
-        const QString daemon = QStandardPaths::findExecutable(QStringLiteral("dbus-daemon"));
-        if (daemon.isEmpty())
+        if (!m_bus.isRunning())
             return;
-        m_bus.start(daemon, {QStringLiteral("--session"), QStringLiteral("--nofork"),
-                             QStringLiteral("--print-address")});
-        QVERIFY(m_bus.waitForReadyRead());
-        const QByteArray address = m_bus.readLine().trimmed();
         // The application's session bus from its first use on, which is still to come.
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        QDBusConnection portal =
-            QDBusConnection::connectToBus(QString::fromLatin1(address), QStringLiteral("portal"));
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address());
+        QDBusConnection portal = QDBusConnection::connectToBus(QString::fromLatin1(m_bus.address()),
+                                                               QStringLiteral("portal"));
         QVERIFY(portal.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), &m_portal,
                                       QDBusConnection::ExportAllSlots |
                                           QDBusConnection::ExportAllSignals));
         QVERIFY(portal.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
     }
 
-    void cleanupTestCase() {
-        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
-        m_bus.kill();
-        m_bus.waitForFinished();
-    }
+    void cleanupTestCase() { QDBusConnection::disconnectFromBus(QStringLiteral("portal")); }
 
     void cleanup() { QGuiApplication::setPalette(m_lightPalette); }
 
     // First, so that the scheme's first question finds the portal's preference. It ends with
     // "no preference", which leaves the palette to decide for the cases below.
     void portalPreferenceWinsAndSwitchesLive() {
-        if (m_bus.state() != QProcess::Running)
+        if (!m_bus.isRunning())
             QSKIP("needs dbus-daemon");
         m_portal.colorScheme = 1;
         const ColorScheme& scheme = ColorScheme::instance();
@@ -182,7 +172,7 @@ private slots:
 
 private:
     QPalette m_lightPalette;
-    QProcess m_bus;
+    testing::SessionBus m_bus;
     FakeSettingsPortal m_portal;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QJsonObject>
 #include <QLocalSocket>
@@ -7,6 +8,7 @@
 #include <QRect>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <functional>
 
@@ -28,6 +30,25 @@ private:
     QProcess m_server;
     QString m_name;
 };
+
+// The main function of a real-window test: the Test class's slots, then alsoRun where given, run
+// against an X server of their own, with a runtime folder of their own.
+template <typename Test>
+int runRealWindowTest(int argc, char* argv[], int (*alsoRun)(int, char**) = nullptr) {
+    VirtualDisplay display;
+    if (display.name().isEmpty()) {
+        qCritical("Xvfb did not start (scripts/install-deps.sh installs it)");
+        return 1;
+    }
+    qputenv("DISPLAY", display.name().toLatin1());
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    QTemporaryDir runtime;
+    qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+    QGuiApplication application(argc, argv);
+    Test test;
+    const int failures = QTest::qExec(&test, argc, argv);
+    return alsoRun ? failures | alsoRun(argc, argv) : failures;
+}
 
 // Polls condition until it holds or timeoutMs pass, handling events meanwhile.
 bool waitUntil(const std::function<bool()>& condition, int timeoutMs = 10'000);

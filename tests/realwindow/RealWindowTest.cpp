@@ -3,7 +3,6 @@
 #include "StuckFolderWindowTest.h"
 
 #include <QFile>
-#include <QGuiApplication>
 #include <QSettings>
 #include <QTest>
 
@@ -186,18 +185,7 @@ private slots:
 };
 
 int main(int argc, char* argv[]) {
-    VirtualDisplay display;
-    if (display.name().isEmpty()) {
-        qCritical("Xvfb did not start (scripts/install-deps.sh installs it)");
-        return 1;
-    }
-    qputenv("DISPLAY", display.name().toLatin1());
-    qputenv("QT_QPA_PLATFORM", "xcb");
-    QTemporaryDir runtime;
-    qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
-    QGuiApplication application(argc, argv);
-    RealWindowTest test;
-    return QTest::qExec(&test, argc, argv) | runStuckFolderWindowTest(argc, argv);
+    return runRealWindowTest<RealWindowTest>(argc, argv, runStuckFolderWindowTest);
 }
 
 #include "RealWindowTest.moc"

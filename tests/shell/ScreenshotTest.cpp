@@ -1,16 +1,14 @@
 #include "BuildHold.h"
-#include "DashboardResult.h"
 #include "DesktopPalette.h"
 #include "FileTrees.h"
 #include "SampleHistory.h"
+#include "SampleResults.h"
 #include "UserFiles.h"
 #include "WindowDrag.h"
 
 #include "app/AppState.h"
 #include "app/FolderTreeController.h"
-#include "charts/FolderTreemapModel.h"
 #include "design/ColorScheme.h"
-#include "scanner/FileSystemScanner.h"
 #include "shell/ShellEngine.h"
 #include "storage/PersistenceService.h"
 
@@ -149,15 +147,6 @@ private:
     QQmlApplicationEngine m_engine;
 };
 
-// A full result as a scan of a busy projects folder gives it.
-AnalysisResult fullResult(int categories, bool withInsights = true) {
-    AnalysisResult result =
-        testing::dashboardResult(QStringLiteral("/Users/ann/Projects"), categories, 40, 20, 100);
-    if (withInsights)
-        result.insights = testing::sampleInsights();
-    return result;
-}
-
 // The item of that name in the window's visual tree, wherever loaders made it.
 QQuickItem* findItem(QQuickItem* root, const QString& objectName) {
     if (root->objectName() == objectName)
@@ -187,17 +176,6 @@ QQuickItem* scrollTo(QQuickWindow* window, const char* objectName) {
     return item;
 }
 
-// The named item scrolled into sight, once the page has moved.
-QQuickItem* inSight(QQuickWindow* window, const char* objectName) {
-    QQuickItem* item = scrollTo(window, objectName);
-    nextFrame(window);
-    return item;
-}
-
-QPoint centerOf(const QQuickItem* item, qreal fractionX = 0.5) {
-    return item->mapToScene(QPointF(item->width() * fractionX, item->height() / 2)).toPoint();
-}
-
 } // namespace
 
 // Renders the main window in its characteristic states, for people to look at; the assertions
@@ -213,17 +191,10 @@ private slots:
 
     void landing() {
         Scene(0).save("landing-empty");
-        Scene(7).save("landing-recent");
         Scene scene(3);
         scene.state().setError(
             AppError::scanFailed(QStringLiteral("Cannot access directory: /Volumes/Backup")));
         scene.save("error-alert");
-    }
-
-    void scanning() {
-        Scene()
-            .scanning(QStringLiteral("/Users/ann/Projects/tessarine/build/src/app"))
-            .save("scanning");
     }
 
     // The dashboard, a drag over it, and where the keys went: the ring around a button Tab
@@ -249,7 +220,8 @@ private slots:
     }
 
     // Every screen at the smallest window and at full HD, with names long enough to need
-    // eliding: no text may run out of its card.
+    // eliding: no text may run out of its card. (The dashboard at the usual size, scrolled,
+    // hovered and exported: RealWindowTest.)
     void screensAtWindowSizes_data() {
         QTest::addColumn<QSize>("size");
         QTest::newRow("smallest") << QSize(900, 600);
@@ -271,6 +243,7 @@ private slots:
         Scene(5, true).resized(size).history().save("history" + suffix);
     }
 
+    // A build under way; the built treemap is RealWindowTest's.
     void folderAnalysis() {
         const QTemporaryDir folders = testing::makeFastTemporaryDir();
         testing::generateTree(folders.path(), 6000, 7);
@@ -288,94 +261,6 @@ private slots:
         QTRY_COMPARE(controller->service()->phaseName(), QStringLiteral("building"));
         scene.save("folder-analysis-building");
         controller->cancel();
-
-        controller->build(result.rootPath);
-        QTRY_VERIFY_WITH_TIMEOUT(controller->hasTree(), 60'000);
-        scrollTo(scene.window(), "folderAnalysis");
-        scene.save("folder-analysis-tree");
-
-        auto* treemap = findItem(section, QStringLiteral("folderTreemap"))
-                            ->property("treemap")
-                            .value<FolderTreemapModel*>();
-        for (int level = 0; level < 2; ++level) {
-            int drillable = 0;
-            while (treemap->folderAt(drillable) && !treemap->drillDown(drillable))
-                ++drillable;
-        }
-        QCOMPARE(treemap->pathNames().size(), 2);
-        scene.save("folder-treemap-drilled");
-
-        // The treemap itself in sight, wherever drilling left the page.
-        scrollTo(scene.window(), "folderTreemap");
-        QQuickItem* cells = findItem(section, QStringLiteral("treemapCells"));
-        const QRectF cell = treemap->cellRect(treemap->cells().count() / 3);
-        QTest::mouseMove(scene.window(), cells->mapToScene(cell.center()).toPoint());
-        QTRY_VERIFY(treemap->hoveredIndex() >= 0);
-        scene.save("folder-treemap-hover");
-    }
-
-    // Every page of the dashboard of a real scan of a generated tree, then its interactive states.
-    void fullDashboard() {
-        const QTemporaryDir folders = testing::makeFastTemporaryDir();
-        const QString projects = folders.filePath(QStringLiteral("Projects"));
-        testing::generateTree(projects, 20000, 11u);
-        FileSystemScanner scanner;
-        ScanOutcome scanned = scanner.scan(projects);
-        QVERIFY(std::holds_alternative<AnalysisResult>(scanned));
-        Scene scene(3);
-        scene.resized(QSize(1200, 800))
-            .showing(std::get<AnalysisResult>(scanned))
-            .save("dashboard-full-1");
-        auto* flickable = QQmlProperty::read(findItem(scene.window(), "dashboardScroller"),
-                                             QStringLiteral("contentItem"))
-                              .value<QQuickItem*>();
-        QVERIFY(flickable);
-        const qreal end = flickable->property("contentHeight").toReal() - flickable->height();
-        for (int page = 2; (page - 1) * flickable->height() < end + flickable->height(); ++page) {
-            flickable->setProperty("contentY", std::min((page - 1) * flickable->height(), end));
-            scene.save(QStringLiteral("dashboard-full-%1").arg(page));
-        }
-        QQuickWindow* window = scene.window();
-
-        QQuickItem* treemap = inSight(window, "categoryTreemapCells");
-        QTest::mouseMove(window, centerOf(treemap, 0.6));
-        QTRY_VERIFY(treemap->property("hoveredIndex").toInt() >= 0);
-        scene.save("dashboard-treemap-hover", Scene::Immediately);
-        QTest::mouseClick(window, Qt::LeftButton, {}, centerOf(treemap, 0.6));
-        QTest::mouseMove(window, QPoint(5, 5));
-        scene.save("dashboard-category-selected");
-
-        QTest::mouseClick(window, Qt::LeftButton, {},
-                          centerOf(inSight(window, "showAllExtensionsButton")));
-        QQuickItem* depth = inSight(window, "depthHoverArea");
-        QTest::mouseMove(window, centerOf(depth, 0.25));
-        QTest::mouseMove(window, centerOf(depth, 0.3));
-        QTRY_VERIFY(!findItem(window, "depthSummary")->isVisible());
-        scene.save("dashboard-depth-hover-extensions-all", Scene::Immediately);
-
-        QTest::mouseClick(window, Qt::LeftButton, {},
-                          centerOf(inSight(window, "largestFilesSearch")));
-        for (const char typed : std::string_view("file-1"))
-            QTest::keyClick(window, typed);
-        nextFrame(window);
-        const QPoint firstRow =
-            findItem(window, "largestFilesTableView")->mapToScene(QPointF(150, 20)).toPoint();
-        QTest::mouseClick(window, Qt::LeftButton, {}, firstRow);
-        QTest::mouseClick(window, Qt::LeftButton, Qt::ControlModifier, firstRow + QPoint(0, 80));
-        scene.save("dashboard-table-search-selection");
-
-        QTest::mouseClick(window, Qt::LeftButton, {},
-                          centerOf(findItem(window, "exportToolbarButton")));
-        scene.save("dashboard-export-sheet");
-    }
-
-    void dashboardVariants() {
-        Scene(0).showing(fullResult(12)).save("dashboard-12-categories");
-        Scene scene(0);
-        scene.showing(fullResult(4, false));
-        // The end of the page, where the insights would be.
-        QVERIFY(scrollTo(scene.window(), "moreExtensionsFooter"));
-        scene.save("dashboard-no-insights");
     }
 
     void history() {
@@ -439,20 +324,6 @@ private slots:
         QMetaObject::invokeMethod(settings, "showSettings");
         scene.save("settings", Scene::AfterTransitions, settings);
         scene.state().setScanOptions({});
-    }
-
-    void help() {
-        Scene scene;
-        auto* help = scene.find<QQuickWindow>("helpWindow");
-        QVERIFY(help);
-        QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
-        help->show();
-        auto* sidebar = help->findChild<QObject*>(QStringLiteral("helpSidebar"));
-        QVERIFY(sidebar);
-        for (int section = 0; section < 7; ++section) {
-            sidebar->setProperty("currentIndex", section);
-            scene.save(QStringLiteral("help-%1").arg(section + 1), Scene::AfterTransitions, help);
-        }
     }
 
     // The screens with painted parts (canvases, treemap cells), switched to dark while shown:

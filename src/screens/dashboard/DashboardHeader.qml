@@ -15,13 +15,13 @@ Card {
 
     required property analysisResult result
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingXLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
 
     RowLayout {
         id: content
 
         anchors.fill: parent
-        anchors.margins: Theme.spacingXLarge
+        anchors.margins: Theme.cardPadding
         spacing: Theme.spacingLarge
 
         ColumnLayout {

@@ -21,7 +21,7 @@ Card {
 
     signal cancelRequested()
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
 
     Timer {
         interval: 100
@@ -60,7 +60,7 @@ Card {
     ColumnLayout {
         id: content
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.cardPadding }
         spacing: Theme.spacingXLarge
 
         RowLayout {
@@ -122,7 +122,7 @@ Card {
 
                 Text {
                     text: card.service.statusText
-                    font: Theme.monospaced(Theme.subheadline)
+                    font: Theme.tabularDigits(Theme.subheadline)
                     color: Theme.secondary
                 }
             }

@@ -16,12 +16,12 @@ Card {
 
     signal buildRequested()
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
 
     ColumnLayout {
         id: content
 
-        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.spacingLarge }
+        anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.cardPadding }
         spacing: Theme.spacingLarge
 
         SectionHeader {

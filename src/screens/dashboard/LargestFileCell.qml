@@ -99,7 +99,7 @@ Rectangle {
         Text {
             verticalAlignment: Text.AlignVCenter
             text: cell.sizeText
-            font: Theme.monospaced(Theme.body)
+            font: Theme.tabularDigits(Theme.body)
             color: Theme.secondary
         }
     }

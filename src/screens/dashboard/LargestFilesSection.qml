@@ -16,7 +16,7 @@ Rectangle {
     readonly property alias rows: rows
     readonly property alias table: table
 
-    implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: column.implicitHeight + 2 * Theme.cardPadding
     radius: Theme.radiusCard
     color: Theme.controlBackground
     border.width: 1
@@ -48,7 +48,7 @@ Rectangle {
         id: column
 
         anchors.fill: parent
-        anchors.margins: Theme.spacingLarge
+        anchors.margins: Theme.cardPadding
         spacing: Theme.spacingMedium
 
         RowLayout {
@@ -114,65 +114,92 @@ Rectangle {
             }
         }
 
-        Rectangle {
-            visible: section.isExpanded
+        // The search and the table slide open and shut; once shut they take no keys.
+        Item {
+            id: body
+
+            objectName: "largestFilesBody"
+            // How much of the body shows: a fraction, so that only a fold slides, not the first
+            // layout.
+            property real shown: section.isExpanded ? 1 : 0
+
+            visible: shown > 0
             Layout.fillWidth: true
-            implicitHeight: 30
-            radius: Theme.radiusSmall
-            color: Theme.withOpacity(Theme.secondary, 0.08)
-            // Where typing goes shows, as on the history's search field.
-            border.width: 1
-            border.color: search.activeFocus ? Theme.accent : "transparent"
+            Layout.preferredHeight: bodyColumn.implicitHeight * shown
+            clip: true
 
-            RowLayout {
-                anchors.fill: parent
-                anchors.leftMargin: 8
-                anchors.rightMargin: 8
-                spacing: 6
-
-                Icon {
-                    symbol: "magnifyingglass"
-                    size: 14
-                    color: Theme.secondary
-                }
-
-                TextField {
-                    id: search
-
-                    objectName: "largestFilesSearch"
-                    Layout.fillWidth: true
-                    placeholderText: "Search files..."
-                    Accessible.role: Accessible.EditableText
-                    Accessible.name: placeholderText
-                    Accessible.searchEdit: true
-                    font: Theme.body
-                    background: null
-                    text: rows.searchText
-                    onTextEdited: rows.searchText = text
-                }
-
-                PlainButton {
-                    objectName: "clearSearchButton"
-                    Accessible.name: "Clear search"
-                    visible: rows.searchText !== ""
-                    symbol: "xmark.circle.fill"
-                    tint: Theme.secondary
-                    leftPadding: Theme.spacingTiny
-                    rightPadding: Theme.spacingTiny
-                    onClicked: rows.searchText = ""
+            Behavior on shown {
+                NumberAnimation {
+                    duration: Theme.quickDuration
+                    easing.type: Theme.standardEasing
                 }
             }
-        }
 
-        LargestFilesTable {
-            id: table
+            ColumnLayout {
+                id: bodyColumn
 
-            visible: section.isExpanded
-            Layout.fillWidth: true
-            Layout.preferredHeight: 360
-            rows: rows
-            onRevealRequested: path => section.reveal(path)
-            onOpenRequested: path => section.open(path)
+                width: parent.width
+                spacing: Theme.spacingMedium
+
+                Rectangle {
+                    Layout.fillWidth: true
+                    implicitHeight: 30
+                    radius: Theme.radiusSmall
+                    color: Theme.withOpacity(Theme.secondary, 0.08)
+                    // Where typing goes shows, as on the history's search field.
+                    border.width: 1
+                    border.color: search.activeFocus ? Theme.accent : "transparent"
+
+                    RowLayout {
+                        anchors.fill: parent
+                        anchors.leftMargin: 8
+                        anchors.rightMargin: 8
+                        spacing: 6
+
+                        Icon {
+                            symbol: "magnifyingglass"
+                            size: 14
+                            color: Theme.secondary
+                        }
+
+                        TextField {
+                            id: search
+
+                            objectName: "largestFilesSearch"
+                            Layout.fillWidth: true
+                            placeholderText: "Search files..."
+                            Accessible.role: Accessible.EditableText
+                            Accessible.name: placeholderText
+                            Accessible.searchEdit: true
+                            font: Theme.body
+                            background: null
+                            text: rows.searchText
+                            onTextEdited: rows.searchText = text
+                        }
+
+                        PlainButton {
+                            objectName: "clearSearchButton"
+                            Accessible.name: "Clear search"
+                            visible: rows.searchText !== ""
+                            symbol: "xmark.circle.fill"
+                            tint: Theme.secondary
+                            leftPadding: Theme.spacingTiny
+                            rightPadding: Theme.spacingTiny
+                            onClicked: rows.searchText = ""
+                        }
+                    }
+                }
+
+                LargestFilesTable {
+                    id: table
+
+                    Layout.fillWidth: true
+                    Layout.preferredHeight: 360
+                    rows: rows
+                    onRevealRequested: path => section.reveal(path)
+                    onOpenRequested: path => section.open(path)
+                }
+            }
         }
     }
 }

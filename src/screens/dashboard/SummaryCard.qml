@@ -14,7 +14,7 @@ Rectangle {
     property string colorName
     property bool isAnimated: false
 
-    implicitHeight: content.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: content.implicitHeight + 2 * Theme.cardPadding
     radius: Theme.radiusCard
     color: Theme.controlBackground
     border.width: 1
@@ -43,7 +43,7 @@ Rectangle {
         anchors.top: parent.top
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.margins: Theme.spacingLarge
+        anchors.margins: Theme.cardPadding
         spacing: 6
 
         Icon {

@@ -137,7 +137,7 @@ Rectangle {
         }
         Text {
             anchors.right: parent.right
-            text: Format.relativeDate(card.summary.knownScanDate)
+            text: Format.relativeDate(card.summary.knownScanDate, Format.now)
             font: Theme.extraSmall
             color: Theme.tertiary
         }

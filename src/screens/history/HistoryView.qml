@@ -78,7 +78,8 @@ Rectangle {
                 TrendChartSection {
                     id: trend
                     width: parent.width
-                    visible: historyScans.showsTrend
+                    // Nothing at all when the search leaves no folder with two scans.
+                    visible: historyScans.showsTrend && !historyScans.trend.isEmpty
                     series: historyScans.trend
                 }
             }

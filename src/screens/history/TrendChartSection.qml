@@ -3,22 +3,21 @@ import Tessarine.Design
 import Tessarine.Screens
 import Tessarine.Charts
 
-// How one folder's size went over its scans. Empty when the search leaves no folder with two
-// scans.
+// How one folder's size went over its scans.
 Rectangle {
     id: section
 
     required property trendSeries series
 
-    implicitHeight: column.implicitHeight + 2 * Theme.spacingLarge
+    implicitHeight: column.implicitHeight + 2 * Theme.cardPadding
     radius: Theme.radiusCard
     color: Theme.material
 
     Column {
         id: column
-        x: Theme.spacingLarge
-        y: Theme.spacingLarge
-        width: parent.width - 2 * Theme.spacingLarge
+        x: Theme.cardPadding
+        y: Theme.cardPadding
+        width: parent.width - 2 * Theme.cardPadding
         spacing: Theme.spacingMedium
 
         Row {
@@ -50,7 +49,6 @@ Rectangle {
                                            + " to " + Format.byteCount(sizes[sizes.length - 1]))
             width: parent.width
             height: 150
-            visible: !section.series.isEmpty
             times: section.series.times
             sizes: section.series.sizeValues
             lineColor: Theme.green

@@ -61,7 +61,7 @@ AbstractButton {
 
             DetailLabel {
                 symbol: "clock"
-                text: Format.relativeDate(card.summary.knownScanDate)
+                text: Format.relativeDate(card.summary.knownScanDate, Format.now)
             }
         }
     }

@@ -26,7 +26,7 @@ ColumnLayout {
 
         Text {
             text: Math.floor(bar.percentage * 100) + "%"
-            font: Theme.monospaced(Theme.caption, Font.Medium)
+            font: Theme.tabularDigits(Theme.caption, Font.Medium)
             color: Theme.blue
         }
     }

@@ -20,8 +20,8 @@ ScanStatus scanStatus(const std::optional<ScanProgress>& progress, const ScanRat
         .itemCount = {},
         .currentName = {},
         .locationCrumbs = {},
-        .files = format::count(0),
-        .folders = format::count(0),
+        .files = 0,
+        .folders = 0,
         .dataScanned = QStringLiteral("0 bytes"),
         .fileRate = QString::asprintf("%.0f/s", rates.filesPerSecond()),
         .elapsed = QStringLiteral("0s"),
@@ -37,8 +37,8 @@ ScanStatus scanStatus(const std::optional<ScanProgress>& progress, const ScanRat
     }
     status.currentName = lastPathComponent(progress->currentPath);
     status.locationCrumbs = locationCrumbs(progress->currentPath);
-    status.files = format::count(progress->filesScanned);
-    status.folders = format::count(progress->foldersScanned);
+    status.files = progress->filesScanned;
+    status.folders = progress->foldersScanned;
     status.dataScanned = format::byteCount(progress->bytesScanned);
     status.elapsed = progress->formattedElapsedTime(now);
     status.remaining = progress->formattedRemainingTime(now).value_or(format::missing());

@@ -12,7 +12,7 @@
 namespace tessarine {
 
 // The texts of the scanning screen's status panel. Before the first snapshot every figure has a
-// resting text ("0", "0 bytes", "0s", "—") so the panel keeps its shape while the scan starts.
+// resting value (0, "0 bytes", "0s", "—") so the panel keeps its shape while the scan starts.
 struct ScanStatus {
     Q_GADGET
     QML_VALUE_TYPE(scanStatus)
@@ -23,8 +23,8 @@ struct ScanStatus {
     Q_PROPERTY(QString itemCount MEMBER itemCount)
     Q_PROPERTY(QString currentName MEMBER currentName)
     Q_PROPERTY(QStringList locationCrumbs MEMBER locationCrumbs)
-    Q_PROPERTY(QString files MEMBER files)
-    Q_PROPERTY(QString folders MEMBER folders)
+    Q_PROPERTY(qint64 files MEMBER files)
+    Q_PROPERTY(qint64 folders MEMBER folders)
     Q_PROPERTY(QString dataScanned MEMBER dataScanned)
     Q_PROPERTY(QString fileRate MEMBER fileRate)
     Q_PROPERTY(QString elapsed MEMBER elapsed)
@@ -39,8 +39,9 @@ public:
     QString itemCount;   // files and folders under the ring; empty without a snapshot
     QString currentName; // the item the scan is at, without its folders
     QStringList locationCrumbs;
-    QString files;
-    QString folders;
+    // The counters' figures, counted up to in the window rather than printed here.
+    qint64 files = 0;
+    qint64 folders = 0;
     QString dataScanned;
     QString fileRate;
     QString elapsed;

@@ -32,7 +32,7 @@ Rectangle {
 
             ScanCounterBox {
                 Layout.fillWidth: true
-                value: panel.status.files
+                count: panel.status.files
                 label: "Files"
                 icon: "doc.fill"
                 tint: Theme.blue
@@ -40,7 +40,7 @@ Rectangle {
 
             ScanCounterBox {
                 Layout.fillWidth: true
-                value: panel.status.folders
+                count: panel.status.folders
                 label: "Folders"
                 icon: "folder.fill"
                 tint: Theme.orange

@@ -44,7 +44,7 @@ Column {
                 anchors.horizontalCenter: parent.horizontalCenter
                 visible: view.hasProgress
                 text: view.status.itemCount
-                font: Theme.monospaced(Theme.title3, Font.Bold)
+                font: Theme.tabularDigits(Theme.title3, Font.Bold)
                 color: Theme.primary
             }
 

@@ -117,4 +117,34 @@ TestCase {
         const ringed = grabImage(cells).pixel(10, 21)
         verify(ringed.b > 0.8 && ringed.r < 0.3, "ring " + ringed)
     }
+
+    // A cell the pointer leaves shrinks back into its normal style rather than snapping, and a
+    // new style of the same cells (another selection) fades in: on the next frame both are still
+    // on their way.
+    function test_leavingAndRestylingAnimate() {
+        const cells = makeCells({cells: CellFixtures.grid(3, 2, 20)})
+        mouseMove(cells, 30, 10)
+        tryCompare(cells, "hoveredIndex", 1)
+        waitForRendering(cells)
+        const hovered = grabImage(cells).pixel(30, 10)
+        const normal = grabImage(cells).pixel(50, 10)
+        verify(hovered.r < normal.r - 0.05, "hovered " + hovered + ", normal " + normal)
+
+        // Long enough that no frame can reach the end.
+        cells.hoverDuration = 100000
+        mouseMove(cells, 50, 30)
+        tryCompare(cells, "hoveredIndex", 5)
+        waitForRendering(cells)
+        const leaving = grabImage(cells).pixel(30, 10)
+        verify(leaving.r < normal.r - 0.05, "left cell " + leaving + ", normal " + normal)
+
+        cells.cells = CellFixtures.restyled(cells.cells)
+        waitForRendering(cells)
+        const fading = grabImage(cells).pixel(10, 30)
+        verify(fading.b > fading.g, "fading in " + fading)
+        tryVerify(() => {
+            const settled = grabImage(cells).pixel(10, 30)
+            return settled.g > settled.b
+        })
+    }
 }

@@ -123,74 +123,53 @@ TestCase {
         waitForRendering(section)
     }
 
-    function test_drillDownAndBack() {
+    // Hovering shows a folder's figures; a double click drills in and "Back" leads out
+    // (RealWindowTest); the breadcrumb and "Root" lead back, and neither the direct files nor a
+    // folder without sub-folders lead anywhere.
+    function test_hoverBreadcrumbAndRoot() {
         const section = makeSection(Fixture.resultWithTree())
         const view = ViewSearch.named(section, "folderTreemap")
         const treemap = view.treemap
         const cells = ViewSearch.withProperty(view, "hoverScale")[0]
-        const at = name => {
+        // Inside a cell's label row, above any nested level, once the last change has settled.
+        const pointAt = name => {
+            tryCompare(cells, "scale", 1)
             const rect = treemap.cellRect(treemap.cellNamed(name))
             verify(rect.width > 0, name + " is drawn")
-            // Inside the cell's label row, above any nested level.
             return Qt.point(rect.x + 6, rect.y + 6)
         }
+        const hover = name => {
+            const point = pointAt(name)
+            mouseMove(cells, point.x, point.y)
+            tryVerify(() => treemap.details.name === name)
+        }
         const doubleClick = name => {
-            // Where a cell lies is known once the last change has settled.
-            tryCompare(cells, "scale", 1)
-            const point = at(name)
+            const point = pointAt(name)
             mouseDoubleClickSequence(cells, point.x, point.y)
         }
-        const breadcrumbShown = () => ViewSearch.withProperty(view, "rootName").length > 0
 
-        compare(treemap.pathNames, [])
-        verify(!breadcrumbShown())
-        compare(treemap.details.name, "ann")
+        hover("alpha")
+        for (const text of ["600 KB", "6,000 files", "2 subfolders", "Click to drill down"])
+            verify(ViewSearch.shows(view, text), text)
+        hover("beta1")
+        verify(!ViewSearch.shows(view, "Click to drill down"))
+        // Off the cells the bar describes the folder shown.
+        mouseMove(cells, -5, -5)
+        tryVerify(() => treemap.details.name === "ann")
 
         doubleClick("alpha")
-        compare(treemap.pathNames, ["alpha"])
-        verify(breadcrumbShown())
-        verify(ViewSearch.shows(view, "Back") && ViewSearch.shows(view, "Root"))
         doubleClick("alpha1")
         compare(treemap.pathNames, ["alpha", "alpha1"])
         // The last entry is where the treemap is: only the others lead somewhere.
         verify(!button(view, "alpha1").enabled)
         mouseClick(button(view, "alpha"))
         compare(treemap.pathNames, ["alpha"])
-        mouseClick(button(view, "Back"))
-        compare(treemap.pathNames, [])
-        verify(!breadcrumbShown())
-        verify(!ViewSearch.shows(view, "Back"))
-
-        doubleClick("alpha")
-        doubleClick("alpha1")
-        mouseClick(button(view, "ann"))
-        compare(treemap.pathNames, [])
-        doubleClick("alpha")
         mouseClick(button(view, "Root"))
         compare(treemap.pathNames, [])
+        verify(!ViewSearch.shows(view, "Back"))
 
-        // Neither the direct files nor a folder without sub-folders lead anywhere.
         doubleClick("Files")
         doubleClick("beta1")
         compare(treemap.pathNames, [])
-    }
-
-    function test_hoverShowsTheFolder() {
-        const section = makeSection(Fixture.resultWithTree())
-        const view = ViewSearch.named(section, "folderTreemap")
-        const treemap = view.treemap
-        const cells = ViewSearch.withProperty(view, "hoverScale")[0]
-        const rect = treemap.cellRect(treemap.cellNamed("alpha"))
-        mouseMove(cells, rect.x + 6, rect.y + 6)
-        tryVerify(() => treemap.details.name === "alpha")
-        for (const text of ["600 KB", "6,000 files", "2 subfolders", "Click to drill down"])
-            verify(ViewSearch.shows(view, text), text)
-        const leaf = treemap.cellRect(treemap.cellNamed("beta1"))
-        mouseMove(cells, leaf.x + 6, leaf.y + 6)
-        tryVerify(() => treemap.details.name === "beta1")
-        verify(!ViewSearch.shows(view, "Click to drill down"))
-        // Off the cells the bar describes the folder shown.
-        mouseMove(cells, -5, -5)
-        tryVerify(() => treemap.details.name === "ann")
     }
 }

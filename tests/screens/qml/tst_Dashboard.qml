@@ -49,17 +49,12 @@ ScreenTestCase {
         mouseClick(item, item.width / 2, item.height / 2, Qt.LeftButton, modifiers)
     }
 
+    // The legend and the treemap share one selection (a click on a cell: RealWindowTest).
     function test_oneSelectionForLegendTreemapAndClearButton() {
         const view = dashboard()
         const legend = ViewSearch.visibleItems(view, item => item.objectName === "legendEntry")
         compare(legend.length, 8)
-        const treemap = ViewSearch.named(view, "categoryTreemapCells")
         compare(cellLabels(view).length, 12)
-        // Cells are laid out again whenever the card's size changes, so they are looked up anew.
-        const clickCell = row => {
-            const label = cellLabels(view).find(item => item.index === row)
-            mouseClick(treemap, label.x + label.width / 2, label.y + label.height / 2)
-        }
 
         clickCenter(legend[1])
         compare(view.categorySelection.category, legend[1].category)
@@ -68,11 +63,10 @@ ScreenTestCase {
                        .filter(bar => bar.opacity < 0.5)
         tryVerify(() => dimmed().length === 11)
 
-        // A click on another cell moves the selection, on the selected one clears it.
-        clickCell(0)
+        // Another entry moves the selection, the selected one clears it.
+        clickCenter(legend[0])
         compare(view.categorySelection.category, legend[0].category)
-        compare(treemap.cells.count, 12)
-        clickCell(0)
+        clickCenter(legend[0])
         compare(view.categorySelection.category, -1)
         verify(!ViewSearch.named(view, "clearCategoryButton"))
 
@@ -81,9 +75,22 @@ ScreenTestCase {
         compare(view.categorySelection.category, -1)
     }
 
-    function test_extensionsShowAllAndLess() {
+    // "Show All" and "Show Less" open and close the extensions, and the largest files fold away,
+    // over several frames (the next frame is part of the way); every card pads its content alike.
+    function test_sectionsOpenAndCloseSmoothly() {
         const view = dashboard()
+        const sectionTitle = title => ViewSearch.visibleItems(
+                                 view, item => item.hasOwnProperty("symbol") && item.title === title)[0]
+        const left = item => item.mapToItem(view, 0, 0).x
+        // Once the summary cards have grown into place.
+        for (const card of summaryCards(view))
+            tryCompare(card, "scale", 1)
+        fuzzyCompare(left(sectionTitle("Storage by Category")),
+                     left(ViewSearch.visibleItems(view, item => item.text === "Total Size")[0]), 0.5)
+
         const extensionRows = () => ViewSearch.withProperty(view, "fraction").length
+        const list = ViewSearch.named(view, "extensionRows")
+        const shut = list.height
         compare(extensionRows(), 10)
         verify(ViewSearch.shows(view, "+ 5 more extensions"))
         // The button's labels: tst_Accessibility.qml.
@@ -91,8 +98,35 @@ ScreenTestCase {
         clickCenter(button)
         compare(extensionRows(), 15)
         verify(!ViewSearch.named(view, "moreExtensionsFooter"))
+        tryVerify(() => list.height > shut)
+        const partWay = list.height
+        tryVerify(() => list.height === list.children[0].implicitHeight && list.height > partWay)
         clickCenter(button)
         compare(extensionRows(), 10)
+
+        const body = ViewSearch.named(view, "largestFilesBody")
+        const bodyHeight = body.height
+        clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
+        tryVerify(() => body.height < bodyHeight)
+        verify(body.height > 0, body.height)
+        tryVerify(() => !ViewSearch.named(view, "largestFilesSearch"))
+    }
+
+    TextMetrics {
+        id: metrics
+    }
+
+    // Shares and sizes are set in Inter with digits of one width, so that they line up.
+    function test_figuresHaveTabularDigits() {
+        const view = dashboard()
+        const share = ViewSearch.visibleItems(view, item => item.objectName === "legendEntry")[0]
+        const figure = ViewSearch.visibleItems(share, item => /%$/.test(item.text || ""))[0]
+        verify(figure.font.family.startsWith("Inter"), figure.font.family)
+        metrics.font = figure.font
+        metrics.text = "1111"
+        const ones = metrics.advanceWidth
+        metrics.text = "0000"
+        compare(ones, metrics.advanceWidth)
     }
 
     function test_depthChartPicksBySlices() {
@@ -160,7 +194,6 @@ ScreenTestCase {
         // drew it.
         waitForRendering(view)
         clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
-        verify(!ViewSearch.named(view, "largestFilesSearch"))
         clickCenter(ViewSearch.named(view, "largestFilesDisclosure"))
         compare(rows.searchText, "mp3")
         compare(rows.selectedCount, 2)
@@ -207,12 +240,6 @@ ScreenTestCase {
         tryVerify(() => sheet.opened)
         compare(sheet.exportFormat, 0)
 
-        // Return exports: the save dialog proposes a name of the chosen type.
-        keyClick(Qt.Key_Return)
-        tryVerify(() => sheet.saveDialog.visible)
-        verify(sheet.saveDialog.selectedFile.toString().endsWith("analysis_Projects.json"))
-        sheet.saveDialog.reject()
-
         // The parent of the destination is a file: the write fails even for root.
         sheet.exportTo(Fixture.urlOf(Fixture.makeFile("not a folder") + "/analysis.json"))
         verify(AppState.hasError)
@@ -232,16 +259,6 @@ ScreenTestCase {
         compare(ViewSearch.named(view, "largestFilesTableView").rows, 2)
     }
 
-    function test_narrowWindowStacksTheCards() {
-        const view = dashboard()
-        view.width = 700
-        const grids = ViewSearch.withProperty(view, "columnSpacing")
-                      .filter(grid => grid.columns !== undefined && grid.rowSpacing === 16)
-        verify(grids.length >= 2)
-        for (const grid of grids)
-            compare(grid.columns, 1)
-    }
-
     function test_headerAndSummaryCards() {
         Fixture.showResult("/Users/ann/Movies")
         const view = createTemporaryObject(dashboardComponent, testCase)
@@ -250,7 +267,6 @@ ScreenTestCase {
         // Every card ends fully shown, whatever order the random delays gave them.
         for (const card of cards)
             tryCompare(card, "opacity", 1)
-        compare(cards.map(card => card.value), ["2.5 GB", "1,234", "87", "12"])
 
         const texts = ViewSearch.texts(view)
         for (const expected of ["Movies", "/Users/ann/Movies", "Scanned in 12.3 seconds",
@@ -307,12 +323,5 @@ ScreenTestCase {
         search.forceActiveFocus(Qt.TabFocusReason)
         const top = search.mapToItem(view, 0, 0).y
         verify(top > 0 && top + search.height < view.height, "search field at " + top)
-    }
-
-    function test_newScanOpensThePicker() {
-        Fixture.showResult("/Users/ann/Movies")
-        const view = createTemporaryObject(dashboardComponent, testCase)
-        mouseClick(ViewSearch.named(view, "newScanButton"))
-        verify(AppState.showFolderPicker)
     }
 }

@@ -76,6 +76,16 @@ ScreenTestCase {
         compare(AppState.currentResult.rootName, "Scan 6")
     }
 
+    // "3 sec. ago" moves on while the screen stays open.
+    function test_relativeDatesFollowTheClock() {
+        Fixture.saveElsewhere("/Users/ann/Just Now", 0.001)
+        const view = createTemporaryObject(landingComponent, testCase)
+        const age = () => ViewSearch.texts(view).find(text => text.endsWith(" sec. ago"))
+        tryVerify(() => age() !== undefined, 5000)
+        const first = age()
+        tryVerify(() => age() !== first, 5000)
+    }
+
     function test_buttonsOpenThePickerAndTheHistory() {
         Fixture.fillHistory(2)
         const view = createTemporaryObject(landingComponent, testCase)
@@ -139,8 +149,13 @@ ScreenTestCase {
 
     function test_liveSnapshot() {
         const view = createTemporaryObject(scanningComponent, testCase)
-        Fixture.showProgress("/Users/ann/Projects/tessarine/src/screens/scanning/main.cpp")
         waitForRendering(view)
+        Fixture.showProgress("/Users/ann/Projects/tessarine/src/screens/scanning/main.cpp")
+        // The counters count up to their figures over a few frames.
+        const files = ViewSearch.visibleItems(view, item => item.label === "Files")[0]
+        tryVerify(() => files.shownCount > 0)
+        verify(files.shownCount < 1200, files.shownCount)
+        tryCompare(files, "value", "1,200")
         const texts = ViewSearch.texts(view)
         for (const expected of ["Analyzing files...", "Reading file metadata", "1,500", "items",
                                 "1,200", "300", "5 MB", "main.cpp", "Init", "Done",

@@ -4,6 +4,7 @@
 #include "AppFixture.h"
 #include "QmlWarnings.h"
 
+#include "design/EmbeddedFonts.h"
 #include "design/ReturnKeyClicks.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,7 @@ void QuickTestSetup::applicationAvailable() {
     testing::isolateUserFiles();
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     installReturnKeyClicks(*QCoreApplication::instance());
+    registerEmbeddedFonts();
 }
 
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine* engine) {
