@@ -311,7 +311,7 @@ fi
 # tree) against a scan of the tree itself.
 ncdu_export=$cache/ncdu-export.json
 if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
-    ncdu -o "$ncdu_export.partial" "$tree" && mv "$ncdu_export.partial" "$ncdu_export"
+    ncdu -o "$ncdu_export.partial" "$tree" 2>/dev/null && mv "$ncdu_export.partial" "$ncdu_export"
 fi
 echo
 echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
