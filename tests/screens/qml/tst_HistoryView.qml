@@ -66,6 +66,8 @@ ScreenTestCase {
             mouseClick(circle)
         compare(cards(view).filter(card => card.selected).length, 2)
         const comparison = findChild(view, "comparisonSheet")
+        tryVerify(() => ViewSearch.named(view, "compareButton"))
+        waitForRendering(view)
         mouseClick(ViewSearch.named(view, "compareButton"))
         tryVerify(() => comparison.opened)
         keyClick(Qt.Key_Escape)
