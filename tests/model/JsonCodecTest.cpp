@@ -154,10 +154,8 @@ private slots:
         QCOMPARE(calls, 1);
     }
 
-    // Escapes come out the same before and after the first non-ASCII character, and in a name
-    // longer than the writer's escaping buffer. A child's path is written from its parent's
-    // escaped path where it extends it (also below "/"), and on its own where a tree read from
-    // elsewhere says something else.
+    // Escapes alike before and after the first non-ASCII character and past the writer's buffer;
+    // a child's path written from its parent's where it extends it, else on its own.
     void escapedNamesAndPaths() {
         const QString odd = QStringLiteral("q\"b\\s/n\nt\t\x01");
         const QByteArray oddEscaped = "q\\\"b\\\\s\\/n\\nt\\t\\u0001";
@@ -255,10 +253,8 @@ private slots:
         QVERIFY2(error.startsWith(where + QStringLiteral(": ")), qPrintable(error));
     }
 
-    // Extensions are member names, and come from whatever names a disk holds. Beside an emoji, an
-    // extension holding U+FFFD and a character that JSON escapes was listed by Qt's reader but not
-    // found by name. A byte that is not UTF-8 is an unpaired surrogate, which UTF-8 cannot hold:
-    // written as an escape, it must read back apart from U+FFFD and from its neighbour byte.
+    // Extensions are member names from whatever names a disk holds: U+FFFD beside a character
+    // JSON escapes, and a byte that is not UTF-8 (an unpaired surrogate, written as an escape).
     void everyExtensionReadsBack() {
         for (const QStringList& extensions :
              {QStringList{QStringLiteral("\U0001F600"), QStringLiteral("\uFFFD\"")},

@@ -57,23 +57,18 @@ private slots:
         QVERIFY(knownExtensions(FileCategory::other).isEmpty());
     }
 
-    void lookup_data() {
-        QTest::addColumn<QString>("extension");
-        QTest::addColumn<FileCategory>("category");
-        QTest::newRow("no-break spaces") << "\u00a0JPG\u2003" << FileCategory::images;
-        QTest::newRow("newline is kept") << "jpg\n" << FileCategory::other;
-        QTest::newRow("empty") << "" << FileCategory::other;
-        QTest::newRow("Kelvin sign lowercases to k") << "\u212aDC" << FileCategory::images;
-        // Extensions that fit two categories belong to the later one.
-        QTest::newRow("pdf") << "pdf" << FileCategory::documents;
-        QTest::newRow("ai") << "ai" << FileCategory::design;
-        QTest::newRow("dmg") << "dmg" << FileCategory::applications;
-    }
-
     void lookup() {
-        QFETCH(QString, extension);
-        QFETCH(FileCategory, category);
-        QCOMPARE(categoryForExtension(extension), category);
+        // Spaces of any kind are trimmed, a newline is not; the Kelvin sign lowercases to k; an
+        // extension that fits two categories belongs to the later one.
+        for (const auto& [extension, category] :
+             {std::pair{u"\u00a0JPG\u2003", FileCategory::images},
+              {u"jpg\n", FileCategory::other},
+              {u"", FileCategory::other},
+              {u"\u212aDC", FileCategory::images},
+              {u"pdf", FileCategory::documents},
+              {u"ai", FileCategory::design},
+              {u"dmg", FileCategory::applications}})
+            QCOMPARE(categoryForExtension(QString::fromUtf16(extension)), category);
     }
 
     void folderDerivedValues() {
@@ -148,23 +143,17 @@ private slots:
         tip.reset();
     }
 
-    void formattedDuration_data() {
-        QTest::addColumn<double>("seconds");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("zero") << 0.0 << "0 ms";
-        QTest::newRow("quarter") << 0.25 << "250 ms";
-        QTest::newRow("one second") << 1.0 << "1.0 seconds";
-        QTest::newRow("rounds up below a minute") << 59.96 << "60.0 seconds";
-        QTest::newRow("one minute") << 60.0 << "1m 0s";
-        QTest::newRow("no hours") << 3725.0 << "62m 5s";
-    }
-
     void formattedDuration() {
-        QFETCH(double, seconds);
-        QFETCH(QString, text);
         AnalysisResult result;
-        result.scanDuration = seconds;
-        QCOMPARE(result.formattedDuration(), text);
+        for (const auto& [seconds, text] : {std::pair{0.0, "0 ms"},
+                                            {0.25, "250 ms"},
+                                            {1.0, "1.0 seconds"},
+                                            {59.96, "60.0 seconds"},
+                                            {60.0, "1m 0s"},
+                                            {3725.0, "62m 5s"}}) {
+            result.scanDuration = seconds;
+            QCOMPARE(result.formattedDuration(), QString::fromUtf8(text));
+        }
         // An import knows no duration: it is never shown as one.
         result.importSource.emplace().unknownFields = QStringList{QStringLiteral("scanDuration")};
         QCOMPARE(result.formattedDuration(), "—");

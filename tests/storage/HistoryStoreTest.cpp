@@ -53,25 +53,12 @@ class HistoryStoreTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // A folder removed after start loads nothing; one replaced by a file fails the listing.
-    void emptyMissingOrReplacedDirectory() {
+    // A folder removed after start: AppStateTest; one that cannot be made: CliHistoryTest.
+    void emptyDirectoryAndItsFallback() {
         QTemporaryDir base;
         PersistenceService store(base.path());
         QCOMPARE(store.storagePath(), base.filePath("Tessarine"));
         QVERIFY(loadedSummaries(store).isEmpty());
-
-        QVERIFY(QDir(store.storagePath()).removeRecursively());
-        auto loaded = store.loadSummaries();
-        QVERIFY(std::holds_alternative<QList<ScanSummary>>(loaded));
-        QVERIFY(std::get<QList<ScanSummary>>(loaded).isEmpty());
-
-        writeFile(store.storagePath(), "the folder was replaced by a file");
-        loaded = store.loadSummaries();
-        QVERIFY(std::holds_alternative<StorageError>(loaded));
-        const StorageError& error = std::get<StorageError>(loaded);
-        QVERIFY(!error.persistenceError());
-        QVERIFY2(error.errorDescription().contains("Not a directory"),
-                 qPrintable(error.errorDescription()));
 
         // Without a data directory the history goes to the temporary one, and says so.
         StandardOutputCapture output;

@@ -41,8 +41,6 @@ private slots:
         QVERIFY(std::holds_alternative<FolderInfo>(build.outcome));
         const FolderTreeProgress& first = build.records.first();
         QCOMPARE(first.phase, Phase::enumerating);
-        QCOMPARE(first.processedItems, 0);
-        QCOMPARE(first.currentFolder, root);
         QVERIFY(first.startTime.isValid());
         for (const FolderTreeProgress& record : build.records)
             QCOMPARE(record.startTime, first.startTime);
@@ -55,16 +53,13 @@ private slots:
 
         const QList<FolderTreeProgress> built = build.recordsIn(Phase::building);
         QCOMPARE(built.first().totalItems, 4);
-        QCOMPARE(built.first().currentFolder, root);
         // Every folder reports with an interval of one, the root last and under its own name.
         QCOMPARE(processedCounts(built), (QList<qint64>{0, 1, 2, 3, 4, 5}));
         QCOMPARE(built.last().currentFolder, QFileInfo(root).fileName());
 
         const FolderTreeProgress& last = build.records.last();
         QCOMPARE(last.phase, Phase::complete);
-        QCOMPARE(last.totalItems, 4);
         QCOMPARE(last.processedItems, 5);
-        QCOMPARE(last.currentFolder, root);
         QCoreApplication::sendPostedEvents();
         QCOMPARE(service.progress(), std::optional(last));
         QVERIFY(!service.isBuilding());
@@ -78,8 +73,8 @@ private slots:
         QTest::newRow("in the node pass") << int(Phase::building) << 1LL;
     }
 
-    // The build stops at the record that cancelled it, is over as far as the service shows, and
-    // the same service builds again afterwards.
+    // The build stops at the record that cancelled it, and is over as far as the service shows
+    // (that it builds again afterwards is AppStateTest's).
     void cancelStopsTheBuild() {
         QFETCH(int, phase);
         QFETCH(qint64, processed);
@@ -100,11 +95,6 @@ private slots:
         QCOMPARE(service.progress(), std::optional(build.records.last()));
         QVERIFY(!service.isBuilding());
         QVERIFY(!service.isCancelled());
-
-        const RecordedBuild again = recordBuild(service, dir.path());
-        QVERIFY(!service.isCancelled());
-        QCOMPARE(again.tree().totalSize, 20);
-        QCOMPARE(again.records.last().phase, Phase::complete);
     }
 };
 

@@ -50,10 +50,8 @@ private slots:
         QTest::newRow("wide") << 3000 << 7u;
     }
 
-    // Hidden entries, a package (one file of its own entry's size), a named pipe, links to files,
-    // folders and nothing (counted at their own size, not followed), empty folders and zero-byte
-    // files, and sibling folders of equal size (kept in listing order), in the file system's own
-    // listing order.
+    // generateTree's awkward entries (packages, pipes, links, empty folders), and sibling folders
+    // of equal size, kept in the file system's listing order.
     void equalsPlainRecursiveBuild() {
         QFETCH(int, items);
         QFETCH(unsigned, seed);
