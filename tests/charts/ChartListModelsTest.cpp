@@ -158,15 +158,23 @@ private slots:
         QCOMPARE(cells[1].rect, QRectF(200, 1, 1, 98));
         QCOMPARE(cells[1].border.color, QColor(Qt::white));
 
-        const FolderInfo thin{.totalSize = 10};
-        const NestedTreemap treemap = layoutNestedTreemap(thin, QRectF(0, 0, 1.5, 50));
+        FolderInfo folder;
+        folder.totalSize = 10;
+        const NestedTreemap treemap = layoutNestedTreemap(folder, QRectF(0, 0, 1.5, 50));
         QCOMPARE(folderTreemapCells(treemap, 10)[0].rect.width(), 0.0);
 
         // A folder's label sits in its frame, which keeps the gap once: a level drawn inside a
         // cell is padded 3 points more.
-        const FolderInfo inner{.name = "inner", .totalSize = 10};
-        const FolderInfo outer{.name = "outer", .totalSize = 10, .childFolders = {inner}};
-        const FolderInfo root{.totalSize = 10, .childFolders = {outer}};
+        FolderInfo inner;
+        inner.name = QStringLiteral("inner");
+        inner.totalSize = 10;
+        FolderInfo outer;
+        outer.name = QStringLiteral("outer");
+        outer.totalSize = 10;
+        outer.childFolders = {inner};
+        FolderInfo root;
+        root.totalSize = 10;
+        root.childFolders = {outer};
         const QList<TreemapCell> nested =
             folderTreemapCells(layoutNestedTreemap(root, QRectF(0, 0, 300, 200)), 10);
         QCOMPARE(nested[0].label.title, "outer");

@@ -177,6 +177,7 @@ private slots:
     void dashboard() {
         Scene scene(3);
         scene.showing(dashboardResult());
+        QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
         testing::WindowDrag drag(scene.window()->contentItem(),
                                  {QUrl::fromLocalFile(QDir::tempPath())});
         QVERIFY(drag.enter());
@@ -271,6 +272,7 @@ private slots:
     void settings() {
         Scene scene(3);
         scene.state().setScanOptions({.includeHidden = true});
+        QVERIFY(QTest::qWaitForWindowExposed(scene.window()));
         auto* settings = scene.find<QQuickWindow>("settingsWindow");
         QVERIFY(settings);
         QMetaObject::invokeMethod(settings, "showSettings");

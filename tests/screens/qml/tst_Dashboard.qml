@@ -138,6 +138,8 @@ ScreenTestCase {
         verify(ViewSearch.shows(view, "20 levels"))
         verify(ViewSearch.shows(view, "Peak at level 4"))
         // The slice under the pointer: ChartGeometryTest::axisTicksBarsAndSlices.
+        mouseMove(area, 0, area.height / 2)
+        tryVerify(() => ViewSearch.shows(view, "Level 0"))
         mouseMove(area, area.width * 5.5 / 20, area.height / 2)
         tryVerify(() => ViewSearch.shows(view, "Level 5"))
         verify(!ViewSearch.named(view, "depthSummary"))
