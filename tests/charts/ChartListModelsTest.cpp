@@ -70,8 +70,7 @@ private slots:
             category(FileCategory::code, 20), category(FileCategory::images, 100),
             category(FileCategory::audio, 20), category(FileCategory::other, 0)};
         CategoryListModel model;
-        QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&model);
         model.setResult(result);
         QCOMPARE(column(model, CategoryListModel::NameRole),
                  QStringList({"Images", "Code", "Audio", "Other"}));
@@ -87,34 +86,25 @@ private slots:
                  QStringList({"0.0%", "0.0%", "0.0%", "0.0%"}));
     }
 
-    void extensionsFirstTenThenFifteen_data() {
-        QTest::addColumn<int>("extensions");
-        QTest::addColumn<bool>("showAll");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<int>("hiddenCount");
-        QTest::addColumn<qint64>("hiddenSize");
-        // Sizes run count..1, so the hidden ones of 15 shown 10 are 5..1.
-        QTest::newRow("15 shown 10") << 15 << false << 10 << 5 << qint64(5 + 4 + 3 + 2 + 1);
-        QTest::newRow("10") << 10 << false << 10 << 0 << qint64(0);
-        QTest::newRow("3 all") << 3 << true << 3 << 0 << qint64(0);
-        QTest::newRow("none") << 0 << false << 0 << 0 << qint64(0);
-    }
-
     void extensionsFirstTenThenFifteen() {
-        QFETCH(int, extensions);
-        QFETCH(bool, showAll);
-        ExtensionListModel model;
-        QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.setResult(resultWithExtensions(extensions));
-        // Toggling there and back must leave the rows as they were, with every change announced.
-        model.setShowAll(!showAll);
-        model.setShowAll(showAll);
-        QTEST(model.rowCount(), "rows");
-        QTEST(model.hiddenCount(), "hiddenCount");
-        QTEST(model.hiddenSize(), "hiddenSize");
-        if (extensions > 0)
-            QCOMPARE(at(model, 0, ExtensionListModel::DisplayNameRole).toString(), ".e0");
+        // Sizes run count..1, so the hidden ones of 15 shown 10 are 5..1.
+        for (const auto& [extensions, showAll, rows, hiddenCount, hiddenSize] :
+             {std::tuple{15, false, 10, 5, 5 + 4 + 3 + 2 + 1},
+              {10, false, 10, 0, 0},
+              {3, true, 3, 0, 0},
+              {0, false, 0, 0, 0}}) {
+            ExtensionListModel model;
+            QAbstractItemModelTester tester(&model);
+            model.setResult(resultWithExtensions(extensions));
+            // Toggling there and back leaves the rows as they were, with every change announced.
+            model.setShowAll(!showAll);
+            model.setShowAll(showAll);
+            QCOMPARE(model.rowCount(), rows);
+            QCOMPARE(model.hiddenCount(), hiddenCount);
+            QCOMPARE(model.hiddenSize(), qint64(hiddenSize));
+            if (extensions > 0)
+                QCOMPARE(at(model, 0, ExtensionListModel::DisplayNameRole).toString(), ".e0");
+        }
     }
 
     void depthLevelsAndPeak() {
@@ -122,17 +112,14 @@ private slots:
         result.depthDistribution = {
             {2, {9, 1, 90}}, {0, {5, 1, 50}}, {1, {9, 2, 90}}, {10, {1, 0, 1}}};
         DepthListModel model;
-        QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
-        QCOMPARE(model.peakDepth(), 0);
-        QCOMPARE(model.totalFiles(), 0);
+        QAbstractItemModelTester tester(&model);
         model.setResult(result);
         QCOMPARE(column(model, DepthListModel::LabelRole),
                  QStringList({"Level 0", "Level 1", "Level 2", "Level 10"}));
         QCOMPARE(model.peakDepth(), 1);
         QCOMPARE(model.totalFiles(), 24);
         QCOMPARE(model.largestFileCount(), 9);
-        // Which slice a point picks: ChartGeometryTest::slicePicking.
+        // Which slice a point picks: ChartGeometryTest::axisTicksBarsAndSlices.
         QCOMPARE(model.rowAt(399, 400), 3);
     }
 
@@ -143,8 +130,7 @@ private slots:
             category(FileCategory::audio, 5), category(FileCategory::images, 50),
             category(FileCategory::code, 15), category(FileCategory::videos, 30)};
         CategoryTreemapModel model;
-        QAbstractItemModelTester tester(&model,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&model);
         model.setResult(result);
         model.setAreaWidth(400);
         model.setAreaHeight(200);

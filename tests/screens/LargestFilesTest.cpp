@@ -1,12 +1,9 @@
 #include "RecordedDesktop.h"
 #include "SampleResults.h"
-#include "model/Json.h"
 #include "screens/dashboard/FileActions.h"
 #include "screens/dashboard/LargestFilesRows.h"
-#include "screens/dashboard/ResultExport.h"
 
 #include <QAbstractItemModelTester>
-#include <QFile>
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTest>
@@ -46,8 +43,7 @@ private slots:
 
     void searchAndSortKeepTheSelection() {
         LargestFilesRows rows;
-        QAbstractItemModelTester tester(&rows,
-                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QAbstractItemModelTester tester(&rows);
         rows.setResult(resultWithFiles());
         // Largest first; equal sizes keep the result's order.
         QCOMPARE(names(rows), QStringList({"b.JPG", "a.txt", "c9.md", "c10"}));
@@ -84,32 +80,24 @@ private slots:
         QCOMPARE(rows.fileCount(), 4);
     }
 
-    void shiftSelectsARangeFromTheLastClick_data() {
-        QTest::addColumn<QList<int>>("clicks");
-        QTest::addColumn<QList<int>>("modifiers");
-        QTest::addColumn<QStringList>("selected");
-        QTest::newRow("plain click replaces") << QList{0, 2} << QList{0, 0} << QStringList{"c9.md"};
-        QTest::newRow("shift range") << QList{1, 3} << QList{0, int(Qt::ShiftModifier)}
-                                     << QStringList{"a.txt", "c9.md", "c10"};
-        QTest::newRow("shift pivots on the anchor")
-            << QList{2, 3, 0} << QList{0, int(Qt::ShiftModifier), int(Qt::ShiftModifier)}
-            << QStringList{"b.JPG", "a.txt", "c9.md"};
-        QTest::newRow("ctrl toggles")
-            << QList{0, 2, 0} << QList{0, int(Qt::ControlModifier), int(Qt::ControlModifier)}
-            << QStringList{"c9.md"};
-    }
-
     void shiftSelectsARangeFromTheLastClick() {
-        QFETCH(QList<int>, clicks);
-        QFETCH(QList<int>, modifiers);
-        LargestFilesRows rows;
-        rows.setResult(resultWithFiles());
-        for (qsizetype i = 0; i < clicks.size(); ++i)
-            rows.select(clicks[i], modifiers[i]);
-        QStringList selected;
-        for (const QString& path : rows.selectedPaths())
-            selected.append(path.section('/', -1));
-        QTEST(selected, "selected");
+        constexpr int shift = Qt::ShiftModifier, ctrl = Qt::ControlModifier;
+        // Clicks as (row, modifiers): a plain click replaces, Shift takes the range from the last
+        // plain click, Ctrl toggles.
+        for (const auto& [clicks, selected] :
+             {std::pair{QList<std::pair<int, int>>{{0, 0}, {2, 0}}, QStringList{"c9.md"}},
+              {{{1, 0}, {3, shift}}, {"a.txt", "c9.md", "c10"}},
+              {{{2, 0}, {3, shift}, {0, shift}}, {"b.JPG", "a.txt", "c9.md"}},
+              {{{0, 0}, {2, ctrl}, {0, ctrl}}, {"c9.md"}}}) {
+            LargestFilesRows rows;
+            rows.setResult(resultWithFiles());
+            for (const auto& [row, modifiers] : clicks)
+                rows.select(row, modifiers);
+            QStringList shown;
+            for (const QString& path : rows.selectedPaths())
+                shown.append(path.section('/', -1));
+            QCOMPARE(shown, selected);
+        }
     }
 
     // What the table's actions do for files that exist, the dashboard's Quick test shows.
@@ -124,19 +112,6 @@ private slots:
         actions.copyPaths({});
         FileActions::setServices(nullptr);
         QCOMPARE(desktop.requests, QStringList({"copy /a b\n/c\nd"}));
-    }
-
-    // CSV under a typed name: RealWindowTest.
-    void exportWritesTheHistoryBytes() {
-        QTemporaryDir folder;
-        const AnalysisResult result = testing::sampleResult();
-        ResultExport exporter;
-
-        const QString json = folder.filePath("out.json");
-        QCOMPARE(exporter.write(result, ResultExport::Json, QUrl::fromLocalFile(json)), QString());
-        QFile written(json);
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QCOMPARE(written.readAll(), tessarine::json::encode(result));
     }
 };
 

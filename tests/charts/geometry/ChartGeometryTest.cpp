@@ -78,54 +78,28 @@ class ChartGeometryTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void axisTicks_data() {
-        QTest::addColumn<qint64>("maxValue");
-        QTest::addColumn<QList<qint64>>("ticks");
-        QTest::newRow("nothing") << qint64(0) << QList<qint64>{0, 1};
-        QTest::newRow("exact end") << qint64(100) << QList<qint64>{0, 50, 100};
-        QTest::newRow("just over") << qint64(101) << QList<qint64>{0, 50, 100, 150};
-        QTest::newRow("4.3 GB") << qint64(4'300'000'000)
-                                << QList<qint64>{0, 2'000'000'000, 4'000'000'000, 6'000'000'000};
-    }
-    void axisTicks() {
-        QFETCH(qint64, maxValue);
-        const std::vector<qint64> ticks = niceAxisTicks(maxValue);
-        QTEST(QList<qint64>(ticks.begin(), ticks.end()), "ticks");
-    }
+    void axisTicksBarsAndSlices() {
+        for (const auto& [maxValue, ticks] :
+             {std::pair{qint64(0), std::vector<qint64>{0, 1}},
+              {100, {0, 50, 100}},
+              {101, {0, 50, 100, 150}},
+              {4'300'000'000, {0, 2'000'000'000, 4'000'000'000, 6'000'000'000}}})
+            QCOMPARE(niceAxisTicks(maxValue), ticks);
 
-    void barExtents_data() {
-        QTest::addColumn<qint64>("value");
-        QTest::addColumn<qint64>("whole");
-        QTest::addColumn<double>("minimum");
-        QTest::addColumn<double>("extent");
-        QTest::newRow("share") << qint64(25) << qint64(100) << 0.0 << 50.0;
-        QTest::newRow("tiny extension")
-            << qint64(1) << qint64(1'000'000) << extensionBarMinimum << 4.0;
-        QTest::newRow("no total") << qint64(5) << qint64(0) << extensionBarMinimum << 4.0;
-    }
-    void barExtents() {
-        QFETCH(qint64, value);
-        QFETCH(qint64, whole);
-        QFETCH(double, minimum);
-        QTEST(barExtent(value, whole, 200, minimum), "extent");
-    }
+        QCOMPARE(barExtent(25, 100, 200, 0), 50.0);
+        // A tiny extension, or one of no total, keeps the minimum.
+        QCOMPARE(barExtent(1, 1'000'000, 200, extensionBarMinimum), 4.0);
+        QCOMPARE(barExtent(5, 0, 200, extensionBarMinimum), 4.0);
 
-    void slicePicking_data() {
-        QTest::addColumn<double>("x");
-        QTest::addColumn<double>("width");
-        QTest::addColumn<int>("index"); // -1 for none
-        QTest::newRow("left edge") << 0.0 << 300.0 << 0;
-        QTest::newRow("inside a slice") << 150.0 << 300.0 << 1;
-        QTest::newRow("last point") << 299.9 << 300.0 << 2;
-        QTest::newRow("right edge") << 300.0 << 300.0 << -1;
-        QTest::newRow("just left") << -0.5 << 300.0 << 0;
-        QTest::newRow("far left") << -150.0 << 300.0 << -1;
-        QTest::newRow("no width") << 0.0 << 0.0 << -1;
-    }
-    void slicePicking() {
-        QFETCH(double, x);
-        QFETCH(double, width);
-        QTEST(int(sliceAt(x, width, 3).value_or(-1)), "index");
+        // Three slices over 300 points; a little left of the first still picks it.
+        for (const auto& [x, width, index] : {std::tuple{0.0, 300.0, 0},
+                                              {150.0, 300.0, 1},
+                                              {299.9, 300.0, 2},
+                                              {300.0, 300.0, -1},
+                                              {-0.5, 300.0, 0},
+                                              {-150.0, 300.0, -1},
+                                              {0.0, 0.0, -1}})
+            QCOMPARE(sliceAt(x, width, 3).value_or(-1), index);
     }
 
     void curvePassesThroughItsPoints() {
@@ -153,8 +127,7 @@ private slots:
     void curveEdges() {
         QVERIFY(catmullRomCurve(std::vector<QPointF>{}).empty());
         QVERIFY(catmullRomCurve(std::vector<QPointF>{{1, 1}}).empty());
-        const std::vector<QPointF> line{{0, 0}, {10, 10}};
-        const auto segments = catmullRomCurve(line);
+        const auto segments = catmullRomCurve(std::vector<QPointF>{{0, 0}, {10, 10}});
         QCOMPARE(segments.size(), 1u);
         for (const QPointF& control : {segments[0].control1, segments[0].control2})
             QCOMPARE(control.x(), control.y());
@@ -177,23 +150,15 @@ private slots:
         }
     }
 
-    void directionFollowsRemainingCount_data() {
-        QTest::addColumn<QList<qint64>>("sizes");
-        QTest::addColumn<QRectF>("bounds");
-        QTest::addColumn<QString>("directions");
-        QTest::newRow("4, wide") << QList<qint64>{40, 30, 20, 10} << QRectF(0, 0, 400, 200)
-                                 << "hhv";
-        QTest::newRow("5, wide") << QList<qint64>{30, 25, 20, 15, 10} << QRectF(0, 0, 400, 200)
-                                 << "hvvh";
-        QTest::newRow("square starts vertical")
-            << QList<qint64>{50, 30, 20} << QRectF(0, 0, 100, 100) << "vh";
-    }
+    // Four, wide: "hhv", as categoryWorkedExample lays them out.
     void directionFollowsRemainingCount() {
-        QFETCH(QList<qint64>, sizes);
-        QFETCH(QRectF, bounds);
-        const qint64 total = std::accumulate(sizes.begin(), sizes.end(), qint64(0));
-        QTEST(directions(calculateTreeMapRects(categoriesOfSizes(sizes), total, bounds)),
-              "directions");
+        const auto of = [](const QList<qint64>& sizes, const QRectF& bounds) {
+            const qint64 total = std::accumulate(sizes.begin(), sizes.end(), qint64(0));
+            return directions(calculateTreeMapRects(categoriesOfSizes(sizes), total, bounds));
+        };
+        QCOMPARE(of({30, 25, 20, 15, 10}, QRectF(0, 0, 400, 200)), "hvvh");
+        // A square starts vertical.
+        QCOMPARE(of({50, 30, 20}, QRectF(0, 0, 100, 100)), "vh");
     }
 
     void categoryEdges() {
@@ -216,14 +181,10 @@ private slots:
         const auto partial = calculateTreeMapRects(categoriesOfSizes({50, 25}), 100, bounds);
         QCOMPARE(partial[0].rect, QRectF(0, 0, 200, 200));
         QCOMPARE(partial[1].rect, QRectF(200, 0, 100, 200));
-    }
-
-    void tiesKeepTheGivenOrder() {
-        QList<CategoryStats> categories{stat(FileCategory::code, 10), stat(FileCategory::audio, 20),
-                                        stat(FileCategory::images, 10)};
-        const auto rects = calculateTreeMapRects(categories, 40, QRectF(0, 0, 400, 200));
-        QCOMPARE(rects[1].stat.category, FileCategory::code);
-        QCOMPARE(rects[2].stat.category, FileCategory::images);
+        // Ties keep the given order.
+        const auto tied = calculateTreeMapRects(categoriesOfSizes({10, 20, 10}), 40, bounds);
+        QCOMPARE(tied[1].stat.category, allFileCategories()[0]);
+        QCOMPARE(tied[2].stat.category, allFileCategories()[2]);
     }
 
     void folderWorkedExample() {
