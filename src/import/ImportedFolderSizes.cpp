@@ -1,26 +1,11 @@
 #include "import/ImportedFolderSizes.h"
 
 #include "model/PathBytes.h"
-#include "model/SaturatingSum.h"
 #include "scanner/FolderSizeTally.h"
 
 #include <deque>
-#include <numeric>
 
 namespace tessarine {
-
-namespace {
-
-qint64 directFileCount(const FolderInfo& folder) {
-    return std::max<qint64>(
-        std::accumulate(folder.childFolders.begin(), folder.childFolders.end(), folder.fileCount,
-                        [](qint64 rest, const FolderInfo& child) {
-                            return saturatingAdd(rest, -std::max<qint64>(child.fileCount, 0));
-                        }),
-        0);
-}
-
-} // namespace
 
 FolderSizes folderSizesOfTree(const FolderInfo& tree) {
     FolderSizeTally tally;
@@ -34,7 +19,7 @@ FolderSizes folderSizesOfTree(const FolderInfo& tree) {
         pending.pop_back();
         if (depth > 0)
             tally.addFolder(depth, names.emplace_back(pathToBytes(folder->name)));
-        tally.addFiles(depth + 1, folder->directFilesSize(), directFileCount(*folder));
+        tally.addFiles(depth + 1, folder->directFilesSize(), folder->directFileCount());
         for (auto child = folder->childFolders.rbegin(); child != folder->childFolders.rend();
              ++child)
             pending.emplace_back(&*child, depth + 1);

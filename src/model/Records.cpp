@@ -57,6 +57,15 @@ qint64 FolderInfo::directFilesSize() const {
                             0);
 }
 
+qint64 FolderInfo::directFileCount() const {
+    return std::max<qint64>(std::accumulate(childFolders.begin(), childFolders.end(), fileCount,
+                                            [](qint64 rest, const FolderInfo& child) {
+                                                return saturatingAdd(
+                                                    rest, -std::max<qint64>(child.fileCount, 0));
+                                            }),
+                            0);
+}
+
 QList<ExtensionStats> AnalysisResult::sortedExtensions() const {
     QList<ExtensionStats> sorted = extensionStats.values();
     // Ties are broken by name so that the order does not change between runs.

@@ -162,6 +162,9 @@ public:
     std::vector<const FolderInfo*> flattened() const;
     // Bytes of the files lying directly in this folder.
     qint64 directFilesSize() const;
+    // The files lying directly in this folder: those its sub-folders do not count, never fewer
+    // than none.
+    qint64 directFileCount() const;
 
     bool operator==(const FolderInfo&) const = default;
 };

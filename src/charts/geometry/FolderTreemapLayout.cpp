@@ -1,7 +1,5 @@
 #include "charts/geometry/FolderTreemapLayout.h"
 
-#include "model/SaturatingSum.h"
-
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -63,14 +61,6 @@ double roomOf(std::span<const TreemapEntry> entries) {
         [](double sum, const TreemapEntry& entry) { return sum + roomOf(entry); });
 }
 
-// The files its sub-folders do not count, never fewer than none.
-qint64 directFileCount(const FolderInfo& folder) {
-    qint64 count = folder.fileCount;
-    for (const FolderInfo& child : folder.childFolders)
-        addSaturating(count, -std::max<qint64>(child.fileCount, 0));
-    return std::max<qint64>(count, 0);
-}
-
 } // namespace
 
 FolderInfo filesFolderOf(const FolderInfo& folder) {
@@ -78,7 +68,7 @@ FolderInfo filesFolderOf(const FolderInfo& folder) {
     files.location = FolderPath(folder.location, QStringLiteral("__files__"));
     files.name = QStringLiteral("Files");
     files.totalSize = folder.directFilesSize();
-    files.fileCount = directFileCount(folder);
+    files.fileCount = folder.directFileCount();
     files.depth = folder.depth + 1;
     files.color = FolderColor::cyan;
     return files;
