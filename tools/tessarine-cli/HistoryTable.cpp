@@ -17,7 +17,7 @@ using Row = std::array<QString, columnCount>;
 constexpr std::array<bool, columnCount> alignedRight{false, false, true, true, false};
 
 Row rowOf(const ScanSummary& result) {
-    return {format::absoluteDate(result.scanDate), escapeControlCharacters(result.rootPath),
+    return {format::absoluteDate(result.knownScanDate()), escapeControlCharacters(result.rootPath),
             format::byteCount(result.totalSize), format::count(result.fileCount),
             result.id.toString(QUuid::WithoutBraces).toUpper()};
 }
