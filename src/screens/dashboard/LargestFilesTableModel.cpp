@@ -38,8 +38,8 @@ QVariant LargestFilesTableModel::data(const QModelIndex& index, int role) const 
         return iconName(file.category);
     case ColorNameRole:
         return colorName(file.category);
-    case ModifiedTextRole:
-        return format::relativeDate(file.modificationDate, QDateTime::currentDateTimeUtc());
+    case ModificationDateRole:
+        return isKnownDate(file.modificationDate) ? file.modificationDate : QDateTime();
     case DepthRole:
         return file.depth;
     }

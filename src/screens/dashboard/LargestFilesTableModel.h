@@ -24,7 +24,7 @@ public:
         TypeTextRole,
         SymbolRole,
         ColorNameRole,
-        ModifiedTextRole,
+        ModificationDateRole,
         DepthRole,
         SelectedRole
     };
