@@ -5,6 +5,7 @@
 #include "HistoryCompare.h"
 #include "HistoryTable.h"
 #include "StandardStreams.h"
+#include "StoredScanId.h"
 #include "Usage.h"
 
 #include "model/Json.h"
@@ -60,18 +61,16 @@ int list(bool asJson) {
 }
 
 int remove(const QString& idText) {
-    const QUuid id = QUuid::fromString(idText);
-    if (id.isNull()) {
-        printError(QStringLiteral("Not a scan id: ") + idText);
+    const std::optional<QUuid> id = storedScanId(idText);
+    if (!id)
         return exitFailure;
-    }
     PersistenceService& store = PersistenceService::shared();
     // Deleting a missing file succeeds quietly in the store; here it is most likely a typo.
-    if (store.directoryError() == std::nullopt && !QFileInfo::exists(store.historyFilePath(id))) {
-        printError(QStringLiteral("No stored scan with id ") + idText);
+    if (store.directoryError() == std::nullopt && !QFileInfo::exists(store.historyFilePath(*id))) {
+        printNoStoredScan(idText);
         return exitFailure;
     }
-    if (const auto error = store.deleteResult(id)) {
+    if (const auto error = store.deleteResult(*id)) {
         printError(error->errorDescription());
         return exitFailure;
     }

@@ -3,12 +3,12 @@
 #include "ComparisonReport.h"
 #include "ExitCode.h"
 #include "StandardStreams.h"
+#include "StoredScanId.h"
 
 #include "storage/FolderSizesFile.h"
 #include "storage/PersistenceService.h"
 
 #include <QFileInfo>
-#include <QUuid>
 
 namespace tessarine::cli {
 
@@ -16,21 +16,19 @@ namespace {
 
 // One stored scan by the id the user typed; none, with the reason printed, when there is none.
 std::optional<AnalysisResult> loadStoredScan(PersistenceService& store, const QString& idText) {
-    const QUuid id = QUuid::fromString(idText);
-    if (id.isNull()) {
-        printError(QStringLiteral("Not a scan id: ") + idText);
+    const std::optional<QUuid> id = storedScanId(idText);
+    if (!id)
         return std::nullopt;
-    }
-    auto loaded = store.loadResult(id);
+    auto loaded = store.loadResult(*id);
     if (auto* result = std::get_if<AnalysisResult>(&loaded))
         return std::move(*result);
     const StorageError& error = std::get<StorageError>(loaded);
     const PersistenceError* own = error.persistenceError();
     if (own && own->kind == PersistenceError::Kind::fileNotFound)
-        printError(QStringLiteral("No stored scan with id ") + idText);
+        printNoStoredScan(idText);
     else
         printError(QStringLiteral("Failed to load ") +
-                   QFileInfo(store.historyFilePath(id)).fileName() + QStringLiteral(": ") +
+                   QFileInfo(store.historyFilePath(*id)).fileName() + QStringLiteral(": ") +
                    error.errorDescription());
     return std::nullopt;
 }
