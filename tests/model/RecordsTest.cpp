@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-#include <thread>
 #include <vector>
 
 using namespace tessarine;
@@ -33,18 +32,6 @@ class RecordsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // First, so that the threads race to build the table.
-    void concurrentFirstLookups() {
-        std::vector<FileCategory> found(8, FileCategory::other);
-        std::vector<std::thread> threads;
-        for (std::size_t i = 0; i < found.size(); ++i)
-            threads.emplace_back([&found, i] { found[i] = categoryForExtension(u"flac"); });
-        for (std::thread& thread : threads)
-            thread.join();
-        for (FileCategory category : found)
-            QCOMPARE(category, FileCategory::audio);
-    }
-
     // Every key is reachable through the lookup, whatever its length or spelling.
     void everyKnownExtensionLeadsBack() {
         for (FileCategory category : allFileCategories()) {
