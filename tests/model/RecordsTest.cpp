@@ -134,7 +134,6 @@ private slots:
         AnalysisResult result;
         for (const auto& [seconds, text] : {std::pair{0.0, "0 ms"},
                                             {0.25, "250 ms"},
-                                            {1.0, "1.0 seconds"},
                                             {59.96, "60.0 seconds"},
                                             {60.0, "1m 0s"},
                                             {3725.0, "62m 5s"}}) {

@@ -193,33 +193,28 @@ private slots:
         QVERIFY(level.items[6].isFiles);
     }
 
-    void folderEdges_data() {
-        QTest::addColumn<QList<qint64>>("sizes");
-        QTest::addColumn<qint64>("directFiles");
-        QTest::addColumn<int>("items");
-        QTest::newRow("empty folders") << QList<qint64>{0, 0} << qint64(0) << 0;
-        QTest::newRow("leaf") << QList<qint64>{} << qint64(40) << 1;
-        QTest::newRow("tiny beside huge") << QList<qint64>{1'000'000'000, 1} << qint64(0) << 2;
-        QTest::newRow("zero beside some") << QList<qint64>{10, 0, 0} << qint64(0) << 3;
-    }
+    // Along its strip every item keeps 2 points; across it a strip may be thinner. A leaf stands
+    // for itself, in the level's base colour.
     void folderEdges() {
-        QFETCH(QList<qint64>, sizes);
-        QFETCH(qint64, directFiles);
-        const FolderInfo parent = parentOf(sizes, directFiles);
         const QRectF bounds(0, 0, 300, 200);
-        const TreemapLevel level = buildTreemapItems(parent, bounds, 4);
-        QTEST(int(level.items.size()), "items");
-        // Along its strip every item keeps 2 points; across it a strip may be thinner.
-        for (const TreemapItem& item : level.items) {
-            QVERIFY(qIsFinite(item.rect.width()) && qIsFinite(item.rect.height()));
-            QVERIFY(item.rect.width() >= 2 || item.rect.height() >= 2);
-            QVERIFY(bounds.contains(item.rect.topLeft()));
-        }
-        // A leaf stands for itself, in the level's base colour.
-        if (sizes.isEmpty()) {
-            QCOMPARE(level.items[0].folder, &parent);
-            QCOMPARE(level.items[0].rect, bounds);
-            QCOMPARE(level.items[0].colorIndex, 4);
+        for (const auto& [sizes, directFiles, items] :
+             {std::tuple{QList<qint64>{0, 0}, qint64(0), std::size_t(0)},
+              {QList<qint64>{}, qint64(40), std::size_t(1)},
+              {QList<qint64>{1'000'000'000, 1}, qint64(0), std::size_t(2)},
+              {QList<qint64>{10, 0, 0}, qint64(0), std::size_t(3)}}) {
+            const FolderInfo parent = parentOf(sizes, directFiles);
+            const TreemapLevel level = buildTreemapItems(parent, bounds, 4);
+            QCOMPARE(level.items.size(), items);
+            for (const TreemapItem& item : level.items) {
+                QVERIFY(qIsFinite(item.rect.width()) && qIsFinite(item.rect.height()));
+                QVERIFY(item.rect.width() >= 2 || item.rect.height() >= 2);
+                QVERIFY(bounds.contains(item.rect.topLeft()));
+            }
+            if (sizes.isEmpty()) {
+                QCOMPARE(level.items[0].folder, &parent);
+                QCOMPARE(level.items[0].rect, bounds);
+                QCOMPARE(level.items[0].colorIndex, 4);
+            }
         }
     }
 
