@@ -107,15 +107,12 @@ private slots:
     // A result without a folder tree has no member for it, and reads back. Pretty printed: two
     // spaces a level, " : " after names.
     void encodedText() {
-        const QByteArray bytes = json::encode(smallResult());
+        QByteArray bytes = json::encode(smallResult());
         QCOMPARE(withoutSpaces(bytes), smallResultText);
         QVERIFY(bytes.startsWith("{\n  \"categoryBreakdown\" : [\n    {\n      \"category\""));
         QCOMPARE(json::encode(decoded(bytes)), bytes);
-    }
 
-    // Other writers may write an absent tree as null, and identities in lower case.
-    void otherWritersSpellings() {
-        QByteArray bytes = json::encode(smallResult());
+        // Other writers may write an absent tree as null, and identities in lower case.
         bytes.replace("\"fileCount\" : 1,\n  \"folderCount\"",
                       "\"fileCount\" : 1,\n  \"folderTree\" : null,\n  \"folderCount\"");
         bytes.replace("0A1B2C3D-4E5F-4A6B-8C7D", "0a1b2c3d-4e5f-4a6b-8c7d");
@@ -223,8 +220,6 @@ private slots:
             "\"fileCount\" : 9223372036854775808", "fileCount");
         row("number for a bool", "\"isDirectory\" : true", "\"isDirectory\" : 1",
             "largestFiles[1].isDirectory");
-        row("text for a number", "\"scanDuration\" : 12.345", "\"scanDuration\" : \"12.345\"",
-            "scanDuration");
         row("null for a list", "\"insights\" : [", "\"insights\" : null, \"x\" : [", "insights");
         row("number in a string list", "\"\\/tmp\\/root\\/.cache\"", "42", "insights[0].paths[0]");
         row("list for a map", "\"depthDistribution\" : {", "\"depthDistribution\" : [], \"x\" : {",
@@ -234,8 +229,6 @@ private slots:
             "\"category\" : \"documents\"", "largestFiles[2].category");
         row("unknown insight type", "\"type\" : \"Large Cache\"", "\"type\" : \"Big Cache\"",
             "insights[0].type");
-        row("unknown folder colour", "\"color\" : \"mint\"", "\"color\" : \"Mint\"",
-            "folderTree.childFolders[1].color");
         row("UUID in braces", "\"id\" : \"" + idText + "\"", "\"id\" : \"{" + idText + "}\"", "id");
         row("date as a number", "\"2024-03-05T14:07:09Z\"", "731340429", "scanDate");
     }

@@ -33,41 +33,32 @@ class DirectoryWalkerTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void matchesSequentialWalk_data() {
-        QTest::addColumn<int>("threads");
-        QTest::addColumn<int>("heldDescriptors");
-        QTest::newRow("default, more threads than cores") << 0 << 0;
-        QTest::newRow("one thread") << 1 << 0;
-        QTest::newRow("four threads") << 4 << 0;
-        // One held descriptor forces most folders to be reopened from the root, level by level.
-        QTest::newRow("descriptor budget of one") << 3 << 1;
-    }
-
+    // By default more threads than cores; with a budget of one held descriptor most folders are
+    // opened again from the root, level by level.
     void matchesSequentialWalk() {
-        QFETCH(int, threads);
-        QFETCH(int, heldDescriptors);
         QTemporaryDir dir;
         generateTree(dir.path(), 3000, 7);
-        const int descriptorsBefore = openDescriptorCount();
-
-        DirectoryWalker::Options options;
-        options.threadCount = threads;
-        options.maxHeldDescriptors = heldDescriptors;
-        const DirectoryListing listing = walk(dir.path(), options);
-
         const std::vector<WalkedItem> expected = referenceWalk(QFile::encodeName(dir.path()));
-        const std::vector<WalkedItem> actual = cursorItems(listing);
-        QCOMPARE(actual.size(), expected.size());
-        for (std::size_t i = 0; i < expected.size(); ++i)
-            QVERIFY2(actual[i] == expected[i], expected[i].path.constData());
-        QCOMPARE(listing.itemCount(), qint64(expected.size()));
         const auto folders =
             std::count_if(expected.begin(), expected.end(), [](const WalkedItem& i) {
                 return i.kind == EntryKind::directory || i.kind == EntryKind::package;
             });
-        QCOMPARE(listing.folderCount(), qint64(folders));
-        QVERIFY(!listing.wasCancelled());
-        QCOMPARE(openDescriptorCount(), descriptorsBefore);
+        const int descriptorsBefore = openDescriptorCount();
+        for (const auto& [threads, heldDescriptors] : {std::pair{0, 0}, {1, 0}, {3, 1}}) {
+            DirectoryWalker::Options options;
+            options.threadCount = threads;
+            options.maxHeldDescriptors = heldDescriptors;
+            const DirectoryListing listing = walk(dir.path(), options);
+
+            const std::vector<WalkedItem> actual = cursorItems(listing);
+            QCOMPARE(actual.size(), expected.size());
+            for (std::size_t i = 0; i < expected.size(); ++i)
+                QVERIFY2(actual[i] == expected[i], expected[i].path.constData());
+            QCOMPARE(listing.itemCount(), qint64(expected.size()));
+            QCOMPARE(listing.folderCount(), qint64(folders));
+            QVERIFY(!listing.wasCancelled());
+            QCOMPARE(openDescriptorCount(), descriptorsBefore);
+        }
     }
 
     void cancelledWalkReleasesDescriptors() {

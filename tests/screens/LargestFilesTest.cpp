@@ -1,11 +1,8 @@
-#include "RecordedDesktop.h"
 #include "SampleResults.h"
-#include "screens/dashboard/FileActions.h"
 #include "screens/dashboard/LargestFilesRows.h"
 
 #include <QAbstractItemModelTester>
 #include <QLocale>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace tessarine;
@@ -47,9 +44,6 @@ private slots:
         rows.setResult(resultWithFiles());
         // Largest first; equal sizes keep the result's order.
         QCOMPARE(names(rows), QStringList({"b.JPG", "a.txt", "c9.md", "c10"}));
-        QCOMPARE(rows.index(3, LargestFilesTableModel::TypeColumn)
-                     .data(LargestFilesTableModel::TypeTextRole),
-                 "—");
 
         rows.select(1);
         rows.select(3, Qt::ControlModifier);
@@ -61,8 +55,6 @@ private slots:
         QCOMPARE(names(rows), QStringList({"c10", "c9.md", "b.JPG", "a.txt"}));
         rows.sortBy(LargestFilesTableModel::ModifiedColumn);
         QCOMPARE(names(rows).last(), "b.JPG");
-        rows.sortBy(LargestFilesTableModel::TypeColumn); // not sortable: nothing changes
-        QCOMPARE(rows.sortColumn(), int(LargestFilesTableModel::ModifiedColumn));
 
         // By extension (any case), by a folder inside the path, by a name; the selection stays.
         for (const auto& [text, expected] : {std::pair{"jpg", QStringList{"b.JPG"}},
@@ -98,20 +90,6 @@ private slots:
                 shown.append(path.section('/', -1));
             QCOMPARE(shown, selected);
         }
-    }
-
-    // What the table's actions do for files that exist, the dashboard's Quick test shows.
-    void actionsReachTheDesktopOnlyForFilesThatExist() {
-        QTemporaryDir folder;
-        RecordedDesktop desktop;
-        FileActions::setServices(&desktop);
-        FileActions actions;
-        QVERIFY(!actions.reveal(folder.filePath("gone.txt")));
-        QVERIFY(!actions.open(folder.filePath("gone.txt")));
-        actions.copyPaths({"/a b", "/c\nd"});
-        actions.copyPaths({});
-        FileActions::setServices(nullptr);
-        QCOMPARE(desktop.requests, QStringList({"copy /a b\n/c\nd"}));
     }
 };
 

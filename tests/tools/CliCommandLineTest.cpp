@@ -61,8 +61,6 @@ private slots:
         QTest::newRow("unknown option")
             << QStringList{"scan", "--fast", "/a"} << "Unknown option: --fast";
         QTest::newRow("history with a folder") << QStringList{"history", "/a"} << "history takes";
-        QTest::newRow("delete as json")
-            << QStringList{"history", "delete", "x", "--json"} << "history takes";
     }
 
     void usage() {
@@ -214,6 +212,7 @@ private slots:
         QCOMPARE(lines[1].indexOf("1,234,567") + 9, filesEnd);
         QCOMPARE(lines[2].indexOf(" 3 ") + 2, filesEnd);
         QVERIFY(lines[1].contains("1.23 GB"));
+        QVERIFY(lines[1].endsWith(large.id.toString(QUuid::WithoutBraces).toUpper()));
         QVERIFY(!lines[0].endsWith(' '));
     }
 

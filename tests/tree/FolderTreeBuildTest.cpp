@@ -66,35 +66,29 @@ private slots:
         QCOMPARE(service.statusText(), QStringLiteral("5 folders processed"));
     }
 
-    void cancelStopsTheBuild_data() {
-        QTest::addColumn<int>("phase");
-        QTest::addColumn<qint64>("processed"); // the record at which to cancel
-        QTest::newRow("while enumerating") << int(Phase::enumerating) << 0LL;
-        QTest::newRow("in the node pass") << int(Phase::building) << 1LL;
-    }
-
-    // The build stops at the record that cancelled it, and is over as far as the service shows
-    // (that it builds again afterwards is AppStateTest's).
+    // The build stops at the record that cancelled it, while enumerating or in the node pass, and
+    // is over as far as the service shows (that it builds again afterwards is AppStateTest's).
     void cancelStopsTheBuild() {
-        QFETCH(int, phase);
-        QFETCH(qint64, processed);
         QTemporaryDir dir;
         writeFolders(dir.path(), 20, 1);
-        FolderTreeService service;
+        for (const auto& [phase, processed] :
+             {std::pair{Phase::enumerating, 0}, {Phase::building, 1}}) {
+            FolderTreeService service;
+            const RecordedBuild build =
+                recordBuild(service, dir.path(),
+                            [&](FolderTreeService& tree, const FolderTreeProgress& record) {
+                                if (record.phase == phase && record.processedItems == processed)
+                                    tree.setCancelled(true);
+                            });
 
-        const RecordedBuild build = recordBuild(
-            service, dir.path(), [&](FolderTreeService& tree, const FolderTreeProgress& record) {
-                if (int(record.phase) == phase && record.processedItems == processed)
-                    tree.setCancelled(true);
-            });
-
-        QVERIFY(build.wasCancelled());
-        QCOMPARE(int(build.records.last().phase), phase);
-        QCOMPARE(build.records.last().processedItems, processed);
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(service.progress(), std::optional(build.records.last()));
-        QVERIFY(!service.isBuilding());
-        QVERIFY(!service.isCancelled());
+            QVERIFY(build.wasCancelled());
+            QCOMPARE(build.records.last().phase, phase);
+            QCOMPARE(build.records.last().processedItems, processed);
+            QCoreApplication::sendPostedEvents();
+            QCOMPARE(service.progress(), std::optional(build.records.last()));
+            QVERIFY(!service.isBuilding());
+            QVERIFY(!service.isCancelled());
+        }
     }
 };
 

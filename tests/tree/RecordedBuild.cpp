@@ -34,11 +34,4 @@ RecordedBuild recordBuild(const QString& path, const RecordReaction& react) {
     return recordBuild(service, path, react);
 }
 
-QStringList childNames(const FolderInfo& folder) {
-    QStringList names;
-    for (const FolderInfo& child : folder.childFolders)
-        names.append(child.name);
-    return names;
-}
-
 } // namespace tessarine::testing

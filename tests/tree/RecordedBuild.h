@@ -26,7 +26,4 @@ RecordedBuild recordBuild(FolderTreeService& service, const QString& path,
                           const RecordReaction& react = {});
 RecordedBuild recordBuild(const QString& path, const RecordReaction& react = {});
 
-// The names of a node's children, in list order.
-QStringList childNames(const FolderInfo& folder);
-
 } // namespace tessarine::testing
