@@ -233,7 +233,7 @@ ScreenTestCase {
         Fixture.showEmptyResult()
         const view = createTemporaryObject(dashboardComponent, testCase)
         waitForRendering(view)
-        // Nothing to divide: no treemap cell, and every share reads 0.0%.
+        // Nothing to divide: no treemap cell; both files listed.
         compare(cellLabels(view).length, 0)
         compare(ViewSearch.named(view, "largestFilesTableView").rows, 2)
     }
