@@ -3,19 +3,15 @@ import QtTest
 import Tessarine
 import Tessarine.App
 import Tessarine.Testing
+import "../screens/qml"
 import "../screens/qml/ViewSearch.js" as ViewSearch
 
 // The content view as a user drives it: its sidebar, the menu commands and their shortcuts,
 // folders dropped from a file manager, and the alert that shows an error.
-TestCase {
+ScreenTestCase {
     id: testCase
 
     name: "ContentView"
-    width: 1200
-    height: 800
-    // Hover, drags and shortcuts reach only items in a shown window.
-    visible: true
-    when: windowShown
 
     Component {
         id: contentComponent
@@ -36,14 +32,6 @@ TestCase {
     }
 
     property ContentView content
-    property var viewsSeen: []
-
-    Connections {
-        target: AppState
-        function onCurrentViewChanged() {
-            testCase.viewsSeen.push(AppState.currentView)
-        }
-    }
     property AppCommands commands
 
     function init() {
@@ -78,18 +66,6 @@ TestCase {
         }
     }
 
-    // From the dashboard: RealWindowTest.
-    function test_viewHistoryKeepsAScanRunning() {
-        AppState.startScan(Fixture.largeFolderUrl)
-        viewsSeen = []
-        keyClick(Qt.Key_H, Qt.ControlModifier | Qt.ShiftModifier)
-        // The scan was left to run to its result (which may come before the key on a slow
-        // machine, so the order of the two views is not checked).
-        tryCompare(AppState, "isScanning", false, 30000)
-        verify(viewsSeen.includes(AppState.History))
-        compare(AppState.currentResult.fileCount, 5000)
-    }
-
     function test_droppedFolderStartsAScan() {
         // Over the sidebar: the landing screen's own drop zone takes drags over its middle.
         verify(Fixture.dragOver(findChild(content, "sidebar"), Fixture.folderUrl))
@@ -98,9 +74,7 @@ TestCase {
         verify(!overlay().startsNewScan)
         compare(Fixture.drop(), Qt.CopyAction)
         verify(!content.isDropTargeted)
-        tryCompare(AppState, "currentView", AppState.Scanning)
-        tryCompare(AppState, "isScanning", false, 30000)
-        compare(AppState.currentView, AppState.Dashboard)
+        tryCompare(AppState, "currentView", AppState.Dashboard, 30000)
         compare(AppState.currentResult.rootPath, Fixture.folderPath)
 
         // Over the dashboard the overlay says that a new scan replaces the one on display.
@@ -111,17 +85,6 @@ TestCase {
         tryCompare(overlay(), "visible", false)
     }
 
-    // While a scan runs a drag still shows the overlay; only its drop is refused.
-    function test_dropsAreRefusedWhileScanning() {
-        AppState.startScan(Fixture.largeFolderUrl)
-        verify(AppState.isScanning)
-        verify(Fixture.dragOver(content, Fixture.folderUrl))
-        verify(overlay().shown)
-        compare(Fixture.drop(), Qt.IgnoreAction)
-        verify(AppState.isScanning)
-        compare(AppState.currentView, AppState.Scanning)
-    }
-
     // OK clears the error, and so do Escape and Return, the key of "OK".
     function test_alertShowsTheErrorAndOkClearsIt() {
         const alert = createTemporaryObject(alertComponent, testCase)
@@ -129,7 +92,6 @@ TestCase {
         tryCompare(alert, "opened", true)
         compare(findChild(alert.contentItem, "errorDescription").text,
                 "Export failed: No space left on device")
-        // The suggestion's text: tst_Dashboard's failed export.
         verify(findChild(alert.contentItem, "recoverySuggestion").visible)
 
         mouseClick(findChild(alert.contentItem, "okButton"))
@@ -148,11 +110,16 @@ TestCase {
         return ViewSearch.visibleItems(sidebar, item => item.objectName === "recentScanRow")
     }
 
-    function test_aRunningScanKeepsARowThatLeadsBackToIt() {
-        const sidebar = findChild(content, "sidebar")
-        const running = findChild(sidebar, "runningScanRow")
+    // While a scan runs a drag still shows the overlay, but its drop is refused; from another
+    // view the sidebar keeps a row that leads back to the scan, which goes on meanwhile.
+    function test_aRunningScanRefusesDropsAndKeepsARowThatLeadsBackToIt() {
+        const running = findChild(findChild(content, "sidebar"), "runningScanRow")
         verify(!running.visible)
         AppState.startScan(Fixture.largeFolderUrl)
+        verify(Fixture.dragOver(content, Fixture.folderUrl))
+        verify(overlay().shown)
+        compare(Fixture.drop(), Qt.IgnoreAction)
+        compare(AppState.currentView, AppState.Scanning)
         AppState.currentView = AppState.History
         verify(running.visible)
         // Not clicked: the scan may end at any turn of the event loop and leave for the

@@ -7,14 +7,12 @@
 
 namespace tessarine::testing {
 
-void holdBuildInPhase(FolderTreeService& service, FolderTreeProgress::Phase phase) {
+void holdBuildHalfWay(FolderTreeService& service) {
     auto seen = std::make_shared<std::atomic<int>>(0);
     auto held = std::make_shared<std::atomic<bool>>(false);
-    service.setProgressObserver([&service, phase, seen, held](const FolderTreeProgress& progress) {
-        // Building is held half-way, where it looks like a build under way.
-        const bool halfWay = phase != FolderTreeProgress::Phase::building ||
-                             2 * progress.processedItems >= progress.totalItems;
-        if (progress.phase != phase || seen->fetch_add(1) < 1 || !halfWay || held->exchange(true))
+    service.setProgressObserver([&service, seen, held](const FolderTreeProgress& progress) {
+        if (progress.phase != FolderTreeProgress::Phase::building || seen->fetch_add(1) < 1 ||
+            2 * progress.processedItems < progress.totalItems || held->exchange(true))
             return;
         // Polled, as the flag is all the build itself watches; ten seconds at most, so a test
         // that never cancels fails instead of hanging.

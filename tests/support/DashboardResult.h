@@ -9,10 +9,9 @@ namespace tessarine::testing {
 // A result of nothing but its root, its date and its size, as a history lists it.
 AnalysisResult plainResult(const QString& root, const QDateTime& scanDate, qint64 totalSize = 1000);
 
-// A result as full as a dashboard shows: categories of falling sizes (at most all twelve),
-// extensions spread over them, depth levels shaped like a real tree (few files at the top, a peak a
-// few levels down), and largest files under root with varied names, dates and depths. Everything
-// adds up: the categories' and the extensions' sizes sum to totalSize.
+// A result as full as a dashboard shows, everything adding up to totalSize: categories of falling
+// sizes (at most twelve), extensions spread over them, depth levels peaking a few levels down,
+// and largest files under root with varied names, dates and depths.
 AnalysisResult dashboardResult(const QString& root, int categories, int extensions, int depths,
                                int files);
 

@@ -24,21 +24,17 @@ QString writeFile(const QString& path, const QByteArray& bytes);
 // Each (path relative to root, size) pair written with writeFile.
 void writeFiles(const QString& root, std::initializer_list<std::pair<const char*, qint64>> files);
 
-// `folderCount` folders "folderN" directly below root, each holding `filesPerFolder` one-byte
-// files "fileM": enough work to catch a scan or a tree build in the middle, and sizes that are
-// easy to add up.
+// `folderCount` folders "folderN" below root, each holding `filesPerFolder` one-byte files "fileM".
 void writeFolders(const QString& root, int folderCount, int filesPerFolder);
 
 // The whole content of a file; empty when it cannot be read.
 QByteArray readBytes(const QString& path);
 
-// Every entry below root, hidden ones included, with the bytes of the files: a fingerprint that
-// shows whether an operation wrote, renamed or removed anything at all.
+// Every entry below root, hidden ones included, with the bytes of the files.
 QMap<QString, QByteArray> folderSnapshot(const QString& root);
 
-// Files whose names are arbitrary bytes (invalid UTF-8 included) for the length of a scope; file
-// i holds firstSize + i * sizeStep bytes. QTemporaryDir cannot remove them itself, as their names
-// do not survive decoding.
+// Files named by arbitrary bytes for the length of a scope (QTemporaryDir cannot remove names
+// that do not decode); file i holds firstSize + i * sizeStep bytes.
 class RawNamedFiles {
 public:
     RawNamedFiles(const QString& folder, const QList<QByteArray>& names, qint64 firstSize,
@@ -52,9 +48,8 @@ private:
     QList<QByteArray> m_names;
 };
 
-// For the length of a scope, a chain of `depth` nested folders "d" below root whose innermost one
-// holds a one-byte "leaf.txt". Each level is made relative to its parent's descriptor because the
-// full path outgrows PATH_MAX, which is also why QDir::removeRecursively cannot take it apart.
+// For the length of a scope, `depth` nested folders "d" below root, the innermost holding a
+// one-byte "leaf.txt"; made and removed through descriptors, as the path outgrows PATH_MAX.
 class FolderChain {
 public:
     FolderChain(const QString& root, int depth);
@@ -74,8 +69,7 @@ void generateTree(const QString& root, int itemCount, unsigned seed);
 // Descriptors this process has open right now.
 int openDescriptorCount();
 
-// The size a plain walk in listing order counts for a file it meets: its own the first time, 0
-// for any later name of a file with several names.
+// What a walk in listing order counts for a file: its size at its first name, 0 at later ones.
 class HardLinkCount {
 public:
     qint64 sizeAt(const struct stat& status);
@@ -84,8 +78,7 @@ private:
     std::set<std::pair<dev_t, ino_t>> m_counted;
 };
 
-// A temporary folder in memory (tmpfs) where the system offers one, else in the usual place: a
-// disk file system can take seconds to make and remove thousands of folders, tmpfs a fraction.
+// A temporary folder in tmpfs where there is one: a disk takes seconds for thousands of folders.
 QTemporaryDir makeFastTemporaryDir();
 
 } // namespace tessarine::testing

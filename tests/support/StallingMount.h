@@ -8,10 +8,9 @@
 namespace tessarine::testing {
 
 // A folder that stops answering, as on a hung network mount: a FUSE file system
-// (stalling_file_system.py) mounted in a temporary folder. Its "answers" folder lists at once;
-// opening "stalls" waits until release(), the end of this fixture, or a deadline of a minute
-// (so that a program waiting for it fails its test instead of hanging the suite). The file
-// system unmounts itself once released, even when the test crashes.
+// (stalling_file_system.py) in a temporary folder. Its "answers" folder lists at once; opening
+// "stalls" waits until release(), the end of this fixture, or a minute, so that a program waiting
+// for it fails its test instead of hanging; it unmounts itself once released, even after a crash.
 class StallingMount {
 public:
     StallingMount();

@@ -1,8 +1,8 @@
 import QtQuick
 import QtTest
-import Tessarine.Testing
 
-// A test case the size of the main window, shown.
+// A test case the size of the main window, shown: hover, drags and shortcuts reach only items in
+// a shown window.
 TestCase {
     width: 1200
     height: 800

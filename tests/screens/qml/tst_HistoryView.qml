@@ -35,17 +35,13 @@ ScreenTestCase {
         return view
     }
 
-    // An empty history invites a scan; scans appear, one saved by the command-line tool too, and
-    // with a second scan of one folder the trend appears; a search that leaves no folder with two
-    // scans hides it, header and all.
+    // An empty history invites a scan; a scan the command-line tool saves appears, and with a
+    // second scan of one folder the trend; a search that leaves no folder with two scans hides
+    // it, header and all. (Which folder's trend: HistoryModelsTest.)
     function test_scanSavedElsewhereAppearsWithItsTrend() {
         const view = historyOf(0)
         verify(ViewSearch.shows(view, "No Scan History"))
-        verify(ViewSearch.shows(view, "0 scans saved"))
         Fixture.fillHistory(3)
-        tryVerify(() => cards(view).length === 3)
-        verify(!ViewSearch.shows(view, "Storage Trend"))
-
         Fixture.saveElsewhere("/Users/ann/Scan 2", 1)
         tryVerify(() => cards(view).length === 4, 5000)
         verify(ViewSearch.shows(view, "4 scans saved"))
@@ -82,8 +78,6 @@ ScreenTestCase {
         compare(AppState.scanHistory.count, 3)
         mouseClick(ViewSearch.named(view, "deleteButton"))
         tryVerify(() => confirmation.opened)
-        compare(findChild(confirmation.contentItem, "deleteMessage").text,
-                "This will permanently delete 2 scan(s) from history.")
         keyClick(Qt.Key_Return)
         tryCompare(AppState.scanHistory, "count", 1)
         tryVerify(() => cards(view).length === 1)
@@ -122,7 +116,6 @@ ScreenTestCase {
         const rows = ViewSearch.visibleItems(sheet.contentItem,
                                              item => item.hasOwnProperty("share"))
         compare(rows.map(row => row.detail), [added])
-        compare(rows[0].beforeText, "—")
         rows[0].forceActiveFocus()
         keyClick(Qt.Key_Space)
         compare(Fixture.takeDesktopRequests(), ["reveal " + added])

@@ -23,8 +23,7 @@ bool isControl(QAccessible::Role role) {
 }
 
 // The roles a screen reader announces by their name: controls, and what holds or shows
-// information (cards, charts, lists, tables, dialogs, headings, texts). Plain items, panes,
-// separators and scroll bars are left out.
+// information. Plain items, panes, separators and scroll bars are left out.
 bool needsName(QAccessible::Role role) {
     using enum QAccessible::Role;
     static const QSet<QAccessible::Role> informing{ProgressBar, List,      Table,  Chart,
@@ -58,7 +57,6 @@ QString itemName(const QQuickItem& item) {
            (text.isEmpty() ? QString() : QStringLiteral(" \"%1\"").arg(text));
 }
 
-// The items a screen reader meets, and what is wrong with them.
 struct Audit {
     QSet<const QObject*> elements;
     QStringList faults;
@@ -92,17 +90,15 @@ bool isClickable(const QQuickItem& item) {
     return hasTapHandler(item);
 }
 
-// Controls and fields, which a screen reader must list as elements of their own: in Qt 6.4 a
-// control has none until its Accessible properties are set.
+// In Qt 6.4 a control is no element of its own until its Accessible properties are set.
 bool isControlItem(const QQuickItem& item) {
     return item.inherits("QQuickAbstractButton") || item.inherits("QQuickComboBox") ||
            item.inherits("QQuickSlider") || item.inherits("QQuickSpinBox") ||
            item.inherits("QQuickTextInput") || item.inherits("QQuickTextEdit");
 }
 
-// Every control and field must be an element. What a screen reader says for a clickable item is
-// the nearest element above it with a role of its own; unless that is a control, the click cannot
-// be reached without the pointer.
+// Every control and field must be an element; a clickable item speaks through the nearest element
+// above it with a role of its own, which must be a control.
 void auditReach(QQuickItem* item, Audit& found) {
     if (!item->isVisible())
         return;
@@ -144,9 +140,8 @@ QSet<const QQuickItem*> tabChainAround(QQuickItem* root) {
     return chain;
 }
 
-// Controls (panes, pop-ups), flickables and texts take the mouse to keep it from what lies below,
-// to scroll or for links (the application shows none); only buttons, combo boxes and fields
-// among them are something to use. A split view's handle resizes its panes, as the window does.
+// Panes, pop-ups, flickables and texts take the mouse only to keep it from what lies below, to
+// scroll or for links (the application shows none); a split view's handle resizes its panes.
 bool takesClicks(const QQuickItem& item) {
     if ((isControlItem(item) && !item.property("readOnly").toBool()) || hasTapHandler(item))
         return true;
@@ -157,10 +152,9 @@ bool takesClicks(const QQuickItem& item) {
 }
 
 bool reachable(const QQuickItem* item, const QSet<const QQuickItem*>& chain) {
-    for (; item; item = item->parentItem()) {
+    for (; item; item = item->parentItem())
         if (chain.contains(item))
             return true;
-    }
     return false;
 }
 
@@ -194,11 +188,6 @@ QStringList AccessibilityAudit::faults(QQuickItem* item) {
     audit(QAccessible::queryAccessibleInterface(item->window()), QString(), found);
     auditReach(item->window()->contentItem(), found);
     return found.faults;
-}
-
-QString AccessibilityAudit::nameOf(QQuickItem* item) {
-    QAccessibleInterface* element = QAccessible::queryAccessibleInterface(item);
-    return element ? element->text(QAccessible::Name) : QString();
 }
 
 } // namespace tessarine

@@ -16,26 +16,18 @@ class AccessibilityAudit : public QObject {
 public:
     using QObject::QObject;
 
-    // Turns accessibility on, as a running screen reader does; Qt Quick Controls name their
-    // controls only while it is on.
+    // As a running screen reader does: Qt Quick Controls name their controls only while it is on.
     Q_INVOKABLE static void activate();
 
-    // One line for every shown element of the item's window that a screen reader would announce
-    // without a name (a control, card, chart, cell, row or field), or with an icon glyph in its
-    // name, and every clickable item that no control speaks for; each line gives the element's
-    // role, its type and the nearest named element above it.
+    // A line for every shown element of the item's window announced without a name (a control,
+    // card, chart, cell, row or field) or with an icon glyph in it, and for every clickable item
+    // that no control speaks for: its role, its type and the nearest named element above it.
     Q_INVOKABLE static QStringList faults(QQuickItem* item);
 
-    // The controls under root that a mouse user can use and a keyboard user cannot reach: visible,
-    // enabled items that take clicks (buttons, combo boxes, editable fields, items with a mouse
-    // area, a tap handler or mouse input of their own) of which neither the item nor an item
-    // around it is in the window's Tab chain. Around counts because a list, a table or a treemap
-    // takes the keyboard as one stop and moves among its rows or cells with the arrows. Each is
-    // named by its objectName, else by its type and text.
+    // Visible, enabled items under root that take clicks while neither they nor an item around
+    // them is in the Tab chain (a list, table or treemap is one stop and moves with the arrows),
+    // by objectName, else by type and text.
     Q_INVOKABLE static QStringList unreachableControls(QQuickItem* root);
-
-    // The name of the item's element.
-    Q_INVOKABLE static QString nameOf(QQuickItem* item);
 };
 
 } // namespace tessarine

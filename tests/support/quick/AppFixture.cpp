@@ -1,11 +1,11 @@
 #include "AppFixture.h"
 
 #include "SampleHistory.h"
-#include "ScanFolders.h"
 
 #include "BuildHold.h"
 #include "DashboardResult.h"
 #include "FileTrees.h"
+#include "SampleResults.h"
 
 #include "app/AppState.h"
 #include "scanner/FileSystemScanner.h"
@@ -47,7 +47,7 @@ FolderInfo folder(const QString& name, qint64 size, FolderInfoList children = {}
 AppFixture::AppFixture(QObject* parent)
     : QObject(parent)
     , m_store(std::make_unique<PersistenceService>(m_home.path())) {
-    testing::makeScannableFolder(m_files.filePath(QStringLiteral("folder")));
+    testing::writeFolders(m_files.filePath(QStringLiteral("folder")), 3, 2);
     testing::storeSampleHistory(*m_store, 7);
     m_state = std::make_unique<AppState>(*m_store);
     // Without a summary index beside them, the stored scans arrive from a look on another thread.
@@ -65,13 +65,12 @@ QStringList AppFixture::takeDesktopRequests() {
     return std::exchange(m_desktop.requests, {});
 }
 
-void AppFixture::showFullResult(int categories, int extensions, bool withInsights) {
-    AnalysisResult result = testing::dashboardResult(m_files.filePath(QStringLiteral("Projects")),
-                                                     categories, extensions, 20, 100);
+void AppFixture::showFullResult() {
+    AnalysisResult result =
+        testing::dashboardResult(m_files.filePath(QStringLiteral("Projects")), 12, 40, 20, 100);
     for (const FileInfo& file : std::as_const(result.largestFiles))
         testing::writeFile(file.path, 1);
-    if (withInsights)
-        result.insights = testing::sampleInsights();
+    result.insights = testing::sampleInsights();
     m_state->setCurrentResult(result);
 }
 
@@ -87,7 +86,7 @@ QUrl AppFixture::folderUrl() const {
 QUrl AppFixture::largeFolderUrl() const {
     const QString path = m_files.filePath(QStringLiteral("large"));
     if (!QFileInfo::exists(path))
-        testing::makeScannableFolder(path, 5000);
+        testing::writeFolders(path, 50, 100);
     return QUrl::fromLocalFile(path);
 }
 
@@ -145,13 +144,6 @@ void AppFixture::clearProgress() {
     m_state->setScanProgress(std::nullopt);
 }
 
-void AppFixture::showResult(const QString& rootPath, bool withInsights) {
-    AnalysisResult result = resultOf(rootPath);
-    if (withInsights)
-        result.insights = testing::sampleInsights();
-    m_state->setCurrentResult(result);
-}
-
 void AppFixture::showEmptyResult() {
     AnalysisResult result = resultOf(m_files.filePath(QStringLiteral("empty")));
     result.totalSize = 0;
@@ -160,24 +152,11 @@ void AppFixture::showEmptyResult() {
     documents.category = FileCategory::documents;
     documents.fileCount = 2;
     result.categoryBreakdown = {documents};
-    for (const QString& name : {QString(255, u'n'), QStringLiteral("two\nlines.txt")}) {
-        FileInfo file;
-        file.name = name;
-        file.path = result.rootPath + u'/' + name;
-        file.fileExtension = QStringLiteral("txt");
-        file.category = FileCategory::documents;
-        file.depth = 1;
-        file.modificationDate = QDateTime::currentDateTimeUtc();
-        result.largestFiles.append(file);
-    }
+    for (const QString& name : {QString(255, u'n'), QStringLiteral("two\nlines.txt")})
+        result.largestFiles.append(testing::sampleFile(
+            result.rootPath + u'/' + name, 0, QStringLiteral("txt"), FileCategory::documents));
     result.depthDistribution[1] = DepthStats{2, 0, 0};
     m_state->setCurrentResult(result);
-}
-
-QString AppFixture::makeFolder(const QString& name) {
-    const QString path = m_files.filePath(QStringLiteral("made/") + name);
-    testing::writeFile(path + QStringLiteral("/notes.txt"), 11);
-    return path;
 }
 
 QString AppFixture::makeFile(const QString& name) {
@@ -242,10 +221,8 @@ AnalysisResult AppFixture::resultWithChain(int depth) const {
     return result;
 }
 
-void AppFixture::holdBuild(FolderTreeService* service, const QString& phase) {
-    testing::holdBuildInPhase(*service, phase == QLatin1String("building")
-                                            ? FolderTreeProgress::Phase::building
-                                            : FolderTreeProgress::Phase::enumerating);
+void AppFixture::holdBuild(FolderTreeService* service) {
+    testing::holdBuildHalfWay(*service);
 }
 
 } // namespace tessarine

@@ -35,7 +35,7 @@ public:
 
     QUrl folderUrl() const;
     QString folderPath() const;
-    // A folder of some thousands of files, for a scan that is still running a moment later.
+    // Five thousand files, for a scan that is still running a moment later.
     QUrl largeFolderUrl() const;
 
     // Drags `url` from outside over the centre of `over`; true when a drop target takes it.
@@ -43,37 +43,29 @@ public:
     // Drops the dragged URL; the action the drop ended with (Qt.IgnoreAction when refused).
     Q_INVOKABLE int drop();
     Q_INVOKABLE void leave();
-    // Deletes the stored scans of the fixture's folders, so every test starts from the stored
-    // seven.
+    // Deletes the stored scans of the fixture's folders: back to the stored seven.
     Q_INVOKABLE void forgetFolderScans();
-
-    // Replaces the history, on disk too, with this many results, "Scan <n>" newest first, a day
-    // apart.
+    // Replaces the history, on disk too, with "Scan <count>" to "Scan 1", a day apart.
     Q_INVOKABLE void fillHistory(int count);
-    // Saves a scan of the folder through a store of its own, as the command-line tool does while
-    // the application is open.
+    // Saves a scan through a store of its own, as the command-line tool does.
     Q_INVOKABLE void saveElsewhere(const QString& rootPath, double hoursAgo);
     // A snapshot of a scan half done and 30 seconds old, at the given path.
     Q_INVOKABLE void showProgress(const QString& currentPath);
     Q_INVOKABLE void clearProgress();
-    // A finished result of the folder, with insights unless told otherwise.
-    Q_INVOKABLE void showResult(const QString& rootPath, bool withInsights = true);
-    // A full result for the charts and the table: 12 categories, 40 extensions, 20 depth levels
-    // and 100 largest files by default, below a real folder so that its files can be revealed.
-    Q_INVOKABLE void showFullResult(int categories = 12, int extensions = 40,
-                                    bool withInsights = true);
+    // 12 categories, 40 extensions, 20 depth levels and 100 largest files, the files real so that
+    // they can be revealed.
+    Q_INVOKABLE void showFullResult();
     // A result a dashboard must survive: nothing but empty files, a category of 0 bytes, a file
     // name of 255 characters and one with a line break.
     Q_INVOKABLE void showEmptyResult();
     // What reached the desktop (reveal, open, copy) since the last call, oldest first.
     Q_INVOKABLE QStringList takeDesktopRequests();
-    // A new folder holding one small file, so a scan of it succeeds; a new plain file.
-    Q_INVOKABLE QString makeFolder(const QString& name);
+    // A new plain file.
     Q_INVOKABLE QString makeFile(const QString& name);
     Q_INVOKABLE QUrl urlOf(const QString& path) const { return QUrl::fromLocalFile(path); }
 
-    // For the folder analysis: a folder of three sub-folders, one nested two deep, with files of
-    // its own; a path that does not exist yet, and the way to make it.
+    // Three sub-folders, one nested two deep, and a file of its own; a path that does not exist
+    // yet, and the way to make it.
     Q_INVOKABLE QString makeTree(const QString& name);
     Q_INVOKABLE QString missingFolder() const;
     Q_INVOKABLE void createFolderAt(const QString& path) const;
@@ -85,8 +77,8 @@ public:
     Q_INVOKABLE tessarine::AnalysisResult resultWithTree() const;
     // A result whose tree is a chain of depth folders, each inside the one before.
     Q_INVOKABLE tessarine::AnalysisResult resultWithChain(int depth) const;
-    // Holds the service's next build in phase ("enumerating" or "building") until cancelled.
-    Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service, const QString& phase);
+    // Holds the service's next build half-way until it is cancelled.
+    Q_INVOKABLE void holdBuild(tessarine::FolderTreeService* service);
 
 private:
     QTemporaryDir m_home;

@@ -8,9 +8,8 @@ class QQuickItem;
 
 namespace tessarine::testing {
 
-// A drag of file URLs from outside the application, delivered to a window as the platform would:
-// enter, then drop or leave, at the centre of an item. Quick's own Drag attached type cannot carry
-// URLs, so the events are made here.
+// A drag of file URLs from outside the application at the centre of an item, delivered as the
+// platform would: Quick's own Drag attached type cannot carry URLs.
 class WindowDrag {
 public:
     WindowDrag(QQuickItem* over, const QList<QUrl>& urls);
