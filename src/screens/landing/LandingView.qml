@@ -9,7 +9,6 @@ Item {
 
     // True while a drag carrying file locations hovers over the screen.
     readonly property bool isTargeted: dropArea.targeted
-    readonly property alias dropArea: dropArea
 
     Rectangle {
         anchors.fill: parent
