@@ -3,8 +3,6 @@
 #include "model/SaturatingSum.h"
 #include "scanner/ItemNameRules.h"
 
-#include <QFile>
-
 #include <algorithm>
 #include <sys/stat.h>
 
@@ -31,6 +29,11 @@ qint64 modifiedMsecs(const std::optional<qint64>& seconds) {
 }
 
 } // namespace
+
+std::size_t NcduListingReader::FileIdentityHash::operator()(
+    const std::pair<qint64, qint64>& file) const noexcept {
+    return std::hash<qint64>()(file.second) ^ (std::size_t(file.first) * 0x9E3779B97F4A7C15ull);
+}
 
 DirectoryListing NcduListingReader::read() {
     readHeader();
@@ -148,12 +151,10 @@ void NcduListingReader::checkName(const Info& info) const {
 }
 
 void NcduListingReader::readFolders(const Info& rootInfo) {
-    m_levels.resize(1);
-    m_levels.front().folder = m_arena.make<ListedDirectory>(nullptr, QByteArrayView());
-    m_levels.front().device = rootInfo.device.value_or(0);
-    m_levels.front().entries.clear();
-    m_levels.front().links.clear();
-    m_depth = 1;
+    m_path = QByteArray(rootInfo.name.data(), qsizetype(rootInfo.name.size()));
+    m_depth = 0;
+    enterFolder(m_arena.make<ListedDirectory>(nullptr, QByteArrayView()),
+                rootInfo.device.value_or(0));
     Info info;
     while (m_depth > 0) {
         if (!m_reader.consume(',')) {
@@ -172,34 +173,41 @@ void NcduListingReader::readFolders(const Info& rootInfo) {
             addFile(m_levels[m_depth - 1], info);
         }
     }
-    if (rootInfo.readError && m_levels.front().folder->entries().empty())
+    const ListedDirectory& root = *m_levels.front().folder;
+    if (rootInfo.readError && root.entries().empty() && root.summedCount() == 0)
         m_levels.front().folder->markUnreadable();
 }
 
 void NcduListingReader::addFile(Level& level, const Info& info) {
     if (info.excluded || isHiddenName(viewOf(info.name)))
         return;
-    const QByteArrayView name = m_arena.copyName(viewOf(info.name));
     ++m_items;
+    ++level.position;
     if (info.readError) {
-        level.entries.push_back(ListedEntry::unsized(name, EntryKind::unreadable));
+        // What could not be read keeps its entry, as a walk keeps it; the analysis passes over it.
+        level.entries.push_back(
+            ListedEntry::unsized(m_arena.copyName(viewOf(info.name)), EntryKind::unreadable));
         return;
     }
+    const ListedEntry entry = sizedEntry(level, info);
+    m_analysis.foldItem(entry, qint64(m_depth), m_path);
+    ++level.summedCount;
+    addSaturating(level.summedSize, *entry.ownSize());
+}
+
+ListedEntry NcduListingReader::sizedEntry(const Level& level, const Info& info) {
     // Without extended mode an export does not tell a link from a device or a pipe; links are by
     // far the most common, so that is what such an item is taken for.
-    const bool isLink = info.notRegular && (!info.mode || S_ISLNK(mode_t(*info.mode)));
-    if (isLink) {
-        level.entries.push_back(ListedEntry::link(name, info.asize));
-        return;
-    }
-    level.entries.push_back(
+    const QByteArrayView name = viewOf(info.name);
+    if (info.notRegular && (!info.mode || S_ISLNK(mode_t(*info.mode))))
+        return ListedEntry::link(name, info.asize);
+    ListedEntry entry =
         ListedEntry::sized(name, info.notRegular ? EntryKind::special : EntryKind::file, info.asize,
-                           modifiedMsecs(info.mtime)));
-    if (info.hardLinked && info.inode) {
-        level.entries.back().markHardLinked();
-        const FileIdentity identity{dev_t(info.device.value_or(level.device)), ino_t(*info.inode)};
-        level.links.push_back({identity, quint32(level.entries.size() - 1), info.asize});
-    }
+                           modifiedMsecs(info.mtime));
+    if (info.hardLinked && info.inode &&
+        !m_countedFiles.emplace(info.device.value_or(level.device), *info.inode).second)
+        entry.dropRepeatedLinkSize();
+    return entry;
 }
 
 bool NcduListingReader::openFolder(const Info& info) {
@@ -209,37 +217,43 @@ bool NcduListingReader::openFolder(const Info& info) {
     const QByteArrayView name = m_arena.copyName(viewOf(info.name));
     ++m_items;
     ++m_folders;
+    const quint32 position = parent.position++;
     if (isPackageName(name)) {
         parent.entries.push_back(ListedEntry::unsized(name, EntryKind::package));
+        m_analysis.foldItem(parent.entries.back(), qint64(m_depth), m_path);
         return false;
     }
-    auto* folder =
-        m_arena.make<ListedDirectory>(parent.folder, name, quint32(parent.entries.size()));
+    auto* folder = m_arena.make<ListedDirectory>(parent.folder, name, position);
     parent.entries.push_back(ListedEntry::folder(name, folder));
+    m_analysis.foldItem(parent.entries.back(), qint64(m_depth), m_path);
+    enterFolder(folder, info.device.value_or(parent.device)); // invalidates `parent`
+    appendPathComponent(m_path, name);
+    if (info.readError)
+        folder->markUnreadable();
+    return true;
+}
+
+void NcduListingReader::enterFolder(ListedDirectory* folder, qint64 device) {
     if (m_levels.size() == m_depth)
         m_levels.emplace_back();
     Level& level = m_levels[m_depth++];
     level.folder = folder;
-    level.device = info.device.value_or(m_levels[m_depth - 2].device);
+    level.device = device;
+    level.parentPathLength = m_path.size();
+    level.position = 0;
+    level.summedCount = 0;
+    level.summedSize = 0;
     level.entries.clear();
-    level.links.clear();
-    if (info.readError)
-        level.folder->markUnreadable();
-    return true;
 }
 
 void NcduListingReader::closeFolder() {
     Level& level = m_levels[--m_depth];
+    m_path.truncate(level.parentPathLength);
     const bool unreadable = level.folder->state() == ListedDirectory::State::unreadable;
-    if (unreadable && level.entries.empty())
+    if (unreadable && level.entries.empty() && level.summedCount == 0)
         return;
-    const std::span<ListedEntry> entries =
-        m_arena.copyArray(std::span<const ListedEntry>(level.entries));
-    level.folder->setEntries(entries);
-    // Every folder above is still being read, but a folder's place among its parent's entries is
-    // fixed when it is met, which is all the order of two names needs.
-    if (!level.links.empty())
-        m_links.claim(*level.folder, level.links);
+    level.folder->setEntries(m_arena.copyArray(std::span<const ListedEntry>(level.entries)),
+                             level.summedCount, level.summedSize);
 }
 
 void NcduListingReader::skipRestOfFolder() {

@@ -2,13 +2,15 @@
 
 #include "import/ByteJsonReader.h"
 #include "scanner/DirectoryListing.h"
-#include "scanner/HardLinks.h"
+#include "scanner/ListingAnalysis.h"
 
 #include <QDateTime>
 #include <QString>
 
 #include <optional>
 #include <string>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace tessarine {
@@ -21,15 +23,23 @@ struct NcduExportFacts {
     bool hasFileTypes = false;           // likewise: without it links and devices look alike
 };
 
-// Reads an ncdu JSON export (major version 1, any minor version) into the listing a walk of the
-// same folder would have made, under the same rules: hidden items and the contents of packages
-// are left out, symbolic links keep only their own size, and a file with several names counts at
-// its first name in listing order. The export's order is the order ncdu read each folder in, as
-// the walker reads it. Names keep their bytes. Throws ByteJsonFailure.
+// Reads an ncdu JSON export (major version 1, any minor version) under the rules a walk of the
+// same folder follows: hidden items and the contents of packages are left out, symbolic links
+// keep only their own size, and a file with several names counts at its first name in listing
+// order. Names keep their bytes. Throws ByteJsonFailure.
+//
+// The export lists each folder's entries in the order ncdu read them, a sub-folder's contents
+// where the sub-folder is met: the order in which the analysis visits a listing. So every item is
+// folded into the analysis as it is read, which is also what makes the first name of a file the
+// first one met, and the listing keeps only what a folder tree's walk keeps
+// (ListingDetail::summedFiles, with link sizes): folders, packages and unreadable items, each
+// folder's files summed. A listing with every file and its name would be several times the size
+// of the tree made from it.
 class NcduListingReader {
 public:
-    explicit NcduListingReader(QByteArrayView text)
-        : m_reader(text) {}
+    NcduListingReader(QByteArrayView text, ListingAnalysis& analysis)
+        : m_reader(text)
+        , m_analysis(analysis) {}
 
     DirectoryListing read();
     const NcduExportFacts& facts() const { return m_facts; }
@@ -48,12 +58,18 @@ private:
         bool excluded = false;
         bool notRegular = false;
     };
-    // A folder being read, with the entries met so far.
+    // A folder being read, with the entries it keeps so far.
     struct Level {
         ListedDirectory* folder = nullptr;
         qint64 device = 0;
+        qsizetype parentPathLength = 0; // of m_path before this folder's name
+        quint32 position = 0;           // visible entries met so far, summed ones included
+        qint64 summedCount = 0;
+        qint64 summedSize = 0;
         std::vector<ListedEntry> entries;
-        std::vector<LinkedName> links;
+    };
+    struct FileIdentityHash {
+        std::size_t operator()(const std::pair<qint64, qint64>& file) const noexcept;
     };
 
     void readHeader();
@@ -62,17 +78,24 @@ private:
     // After a folder's info block: the folder's contents, up to its closing bracket.
     void readFolders(const Info& rootInfo);
     void addFile(Level& level, const Info& info);
+    // The entry of a file, special file or link, with no size when an earlier name of it counts.
+    ListedEntry sizedEntry(const Level& level, const Info& info);
+    // Makes the next level the folder being read.
+    void enterFolder(ListedDirectory* folder, qint64 device);
     // Opens a sub-folder's level; false when the folder is left out with its contents.
     bool openFolder(const Info& info);
     void closeFolder();
     void skipRestOfFolder();
 
     ByteJsonReader m_reader;
+    ListingAnalysis& m_analysis;
     NcduExportFacts m_facts;
     ListingArena m_arena;
     std::vector<Level> m_levels; // reused from folder to folder, one per depth
     std::size_t m_depth = 0;     // levels in use
-    HardLinkClaims m_links{false};
+    QByteArray m_path;           // of the folder being read, in the export's bytes
+    // Device and inode of every file with several names counted so far.
+    std::unordered_set<std::pair<qint64, qint64>, FileIdentityHash> m_countedFiles;
     qint64 m_items = 0;
     qint64 m_folders = 0;
 };

@@ -50,7 +50,10 @@ bool cutBelowReadableDepth(FolderInfo& root) {
 
 ImportOutcome importNcdu(QByteArrayView bytes, ImportSource source,
                          const std::function<void()>& onRead) {
-    NcduListingReader reader(bytes);
+    const std::atomic<bool> never{false};
+    ScanAggregator aggregator;
+    ListingAnalysis analysis(aggregator, never, FileSystemScanner::progressUpdateInterval, {});
+    NcduListingReader reader(bytes, analysis);
     DirectoryListing listing;
     try {
         listing = reader.read();
@@ -63,9 +66,6 @@ ImportOutcome importNcdu(QByteArrayView bytes, ImportSource source,
     if (listing.isEmpty())
         return ImportError{ImportError::Kind::empty, rootPath};
 
-    const std::atomic<bool> never{false};
-    ScanAggregator aggregator;
-    ListingAnalysis(aggregator, never, FileSystemScanner::progressUpdateInterval, {}).fold(listing);
     FolderTreeAssembly assembly(never, treeFolderCount(listing), [](qint64, const QString&) {});
 
     AnalysisResult result = aggregator.finish();
@@ -125,7 +125,8 @@ ImportOutcome importScanFile(const QString& path) {
     if (auto* error = std::get_if<ImportError>(&opened))
         return std::move(*error);
     auto& input = std::get<std::unique_ptr<ImportInput>>(opened);
-    // The export's text is all in the listing once read: its pages go before the result is made.
+    // All the result needs of the export is taken as it is read: its pages go before the tree is
+    // assembled.
     const QString sourceName = input->sourceName();
     return importScan(input->bytes(), sourceName, [&input] { input.reset(); });
 }

@@ -20,6 +20,8 @@
 namespace tessarine::json {
 
 QByteArray encode(const AnalysisResult& result);
+// Likewise in pieces, as below: a result may carry a whole folder tree.
+bool encode(const AnalysisResult& result, const std::function<bool(QByteArrayView)>& sink);
 QByteArray encode(const FolderInfo& folder);
 // The same text as encode(folder), handed to `sink` in pieces as it is made (a large tree's text
 // is tens of megabytes). Stops passing pieces on once the sink returns false; returns false then.

@@ -136,10 +136,7 @@ void writeList(JsonWriter& writer, const QList<Record>& records, WriteOne writeO
     writer.endArray();
 }
 
-} // namespace
-
-QByteArray encode(const AnalysisResult& result) {
-    JsonWriter writer;
+void writeResult(JsonWriter& writer, const AnalysisResult& result) {
     writer.beginObject();
     writer.key(u"categoryBreakdown");
     writeList(writer, result.categoryBreakdown, writeCategoryStats);
@@ -178,7 +175,20 @@ QByteArray encode(const AnalysisResult& result) {
     }
     writer.member(u"totalSize", result.totalSize);
     writer.endObject();
+}
+
+} // namespace
+
+QByteArray encode(const AnalysisResult& result) {
+    JsonWriter writer;
+    writeResult(writer, result);
     return writer.take();
+}
+
+bool encode(const AnalysisResult& result, const std::function<bool(QByteArrayView)>& sink) {
+    JsonWriter writer(sink);
+    writeResult(writer, result);
+    return writer.finish();
 }
 
 } // namespace tessarine::json

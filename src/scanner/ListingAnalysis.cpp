@@ -30,35 +30,43 @@ bool ListingAnalysis::fold(const DirectoryListing& listing) {
     for (ListingCursor cursor(listing); cursor.next();) {
         if (m_cancelled.load(std::memory_order_relaxed))
             return false;
-        const ListedEntry& entry = cursor.entry();
-        if (entry.kind() == EntryKind::symlink || entry.kind() == EntryKind::unreadable)
+        if (!foldItem(cursor.entry(), cursor.depth(), cursor.folderPath()))
             continue;
-        if (entry.isFolder()) {
-            m_aggregator.addFolder(cursor.depth());
-            if (m_folderSizes)
-                m_folderSizes->addFolder(cursor.depth(), entry.name());
-        } else {
-            foldFile(cursor);
-        }
         if (++processed % m_interval == 0 && m_onInterval)
             m_onInterval(pathFromBytes(cursor.entryPath()));
     }
     return true;
 }
 
-void ListingAnalysis::foldFile(const ListingCursor& cursor) {
-    const ListedEntry& entry = cursor.entry();
+bool ListingAnalysis::foldItem(const ListedEntry& entry, qint64 depth,
+                               const QByteArray& folderPath) {
+    if (entry.kind() == EntryKind::symlink || entry.kind() == EntryKind::unreadable)
+        return false;
+    if (entry.isFolder()) {
+        m_aggregator.addFolder(depth);
+        if (m_folderSizes)
+            m_folderSizes->addFolder(depth, entry.name());
+    } else {
+        foldFile(entry, depth, folderPath);
+    }
+    return true;
+}
+
+void ListingAnalysis::foldFile(const ListedEntry& entry, qint64 depth,
+                               const QByteArray& folderPath) {
     ExtensionTally& ext = tallyFor(pathExtension(entry.name()));
     if (m_folderSizes)
-        m_folderSizes->addFile(cursor.depth(), entry.size());
-    m_aggregator.addFile(entry.size(), cursor.depth(), ext, ext.category, [&] {
+        m_folderSizes->addFile(depth, entry.size());
+    m_aggregator.addFile(entry.size(), depth, ext, ext.category, [&] {
+        QByteArray path = folderPath;
+        appendPathComponent(path, entry.name());
         FileInfo record;
-        record.path = pathFromBytes(cursor.entryPath());
+        record.path = pathFromBytes(path);
         record.name = pathFromBytes(entry.name());
         record.size = entry.size();
         record.fileExtension = ext.ext;
         record.category = ext.category;
-        record.depth = cursor.depth();
+        record.depth = depth;
         record.modificationDate = modificationDate(entry);
         return record;
     });

@@ -14,7 +14,6 @@
 namespace tessarine {
 
 class FolderSizeTally;
-class ListingCursor;
 
 // The analysis pass of a scan: folds every item of a finished listing into an aggregator, in
 // pre-order listing order (a folder, then its contents), exactly as a sequential recursive walk
@@ -35,8 +34,13 @@ public:
     // Returns false, leaving the aggregator part-filled, when `cancelled` turned true.
     bool fold(const DirectoryListing& listing);
 
+    // One item, for a reader that meets a listing's items one by one in the order fold() visits
+    // them: `depth` is 1 directly inside the root, `folderPath` the path of the folder holding the
+    // item, in file-system bytes. Returns false for an item the analysis passes over.
+    bool foldItem(const ListedEntry& entry, qint64 depth, const QByteArray& folderPath);
+
 private:
-    void foldFile(const ListingCursor& cursor);
+    void foldFile(const ListedEntry& entry, qint64 depth, const QByteArray& folderPath);
     ExtensionTally& tallyFor(QByteArrayView rawExtension);
 
     ScanAggregator& m_aggregator;

@@ -44,7 +44,11 @@ int runImport(const QStringList& arguments) {
             return exitFailure;
         }
     }
-    return writeOutput(json::encode(result)) ? exitSuccess : exitFailure;
+    // The text of an imported tree is the size of the export: passed on piece by piece, it never
+    // lies in memory whole beside the tree.
+    return json::encode(result, [](QByteArrayView piece) { return writeOutput(piece); })
+               ? exitSuccess
+               : exitFailure;
 }
 
 } // namespace tessarine::cli
