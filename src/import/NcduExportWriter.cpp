@@ -55,14 +55,18 @@ private:
     QByteArray m_buffer;
 };
 
+void writeOwnSize(ExportText& text, const ListedEntry& entry) {
+    if (const auto size = entry.ownSize())
+        text << ",\"asize\":" << *size << ",\"dsize\":" << *size;
+}
+
 void writeEntry(ExportText& text, const ListedEntry& entry) {
     text.name(entry.name());
     switch (entry.kind()) {
     case EntryKind::file:
     case EntryKind::special:
     case EntryKind::symlink:
-        if (const auto size = entry.ownSize())
-            text << ",\"asize\":" << *size << ",\"dsize\":" << *size;
+        writeOwnSize(text, entry);
         if (entry.kind() != EntryKind::file)
             text << ",\"notreg\":true";
         if (entry.modifiedMsecs() != ListedEntry::unknownModificationTime)
@@ -116,6 +120,7 @@ bool writeNcduExport(const DirectoryListing& listing, const QString& program,
         } else {
             text << "[";
             text.name(entry.name());
+            writeOwnSize(text, entry); // a package's own entry: ncdu counts it as an empty folder
             text << (contents ? ",\"read_error\":true}]" : "}]");
         }
         if (!text.flush(false))

@@ -185,8 +185,9 @@ void NcduListingReader::addFile(Level& level, const Info& info) {
     ++level.position;
     if (info.readError) {
         // What could not be read keeps its entry, as a walk keeps it; the analysis passes over it.
-        level.entries.push_back(
-            ListedEntry::unsized(m_arena.copyName(viewOf(info.name)), EntryKind::unreadable));
+        // Its size, as a package's below, is the export's: the folder tree never asks this disk.
+        level.entries.push_back(ListedEntry::unsized(m_arena.copyName(viewOf(info.name)),
+                                                     EntryKind::unreadable, info.asize));
         return;
     }
     const ListedEntry entry = sizedEntry(level, info);
@@ -219,7 +220,7 @@ bool NcduListingReader::openFolder(const Info& info) {
     ++m_folders;
     const quint32 position = parent.position++;
     if (isPackageName(name)) {
-        parent.entries.push_back(ListedEntry::unsized(name, EntryKind::package));
+        parent.entries.push_back(ListedEntry::unsized(name, EntryKind::package, info.asize));
         m_analysis.foldItem(parent.entries.back(), qint64(m_depth), m_path);
         return false;
     }

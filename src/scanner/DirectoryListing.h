@@ -11,9 +11,9 @@ namespace tessarine {
 
 // What a walk records beyond, or leaves out of, what a scan needs.
 struct ListingDetail {
-    // Symbolic links keep their own size (ListedEntry::ownSize), at the cost of one fstatat each
-    // that the entry type alone would otherwise spare; a scan counts no links.
-    bool linkSizes = false;
+    // Symbolic links and packages keep their own size (ListedEntry::ownSize), at the cost of one
+    // fstatat each that the entry type alone would otherwise spare; a scan counts neither's own.
+    bool ownSizes = false;
     // Files, special files and sized links are not kept one by one but summed into their folder
     // (ListedDirectory::summedSize). A folder tree needs only each folder's totals, and those
     // entries, with their names, are most of a listing's memory.

@@ -74,6 +74,7 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
             const ListedEntry entry = describe(fd, folder, nameView, record->type);
             ++m_position;
             const std::optional<qint64> size = entry.ownSize();
+            m_folderCount += entry.isFolder();
             if (m_detail.summedFiles && size) {
                 ++summedCount;
                 // A name of a file with several names gets its size only if it is the first.
@@ -82,7 +83,6 @@ std::span<ListedDirectory* const> DirectoryReader::read(int fd, ListedDirectory&
                 continue;
             }
             m_entries.push_back(entry);
-            m_folderCount += entry.isFolder();
         }
     }
     folder.setEntries(m_arena.copyArray(std::span<const ListedEntry>(m_entries)), summedCount,
@@ -99,13 +99,17 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
     // a stat; everything else, and file systems that report no type, need one for size, date and
     // kind. A walk that stays on one file system needs each folder's device too: one stat per
     // folder, none more per file.
-    if (type == DT_DIR && !m_options.oneFileSystem)
+    const bool sizedPackage = m_detail.ownSizes && isPackageName(name);
+    if (type == DT_DIR && !m_options.oneFileSystem && !sizedPackage)
         return describeFolder(folder, m_arena.copyName(name));
-    if (type == DT_LNK && !m_detail.linkSizes)
+    if (type == DT_LNK && !m_detail.ownSizes)
         return ListedEntry::unsized(m_arena.copyName(name), EntryKind::symlink);
     struct stat status;
     if (fstatat(fd, name.data(), &status, AT_SYMLINK_NOFOLLOW) != 0)
         return ListedEntry::unsized(m_arena.copyName(name), EntryKind::unreadable);
+    if (S_ISDIR(status.st_mode) && sizedPackage)
+        return ListedEntry::unsized(m_arena.copyName(name), EntryKind::package,
+                                    countedSize(status));
     if (S_ISDIR(status.st_mode))
         return describeFolder(folder, m_arena.copyName(name),
                               !m_options.oneFileSystem || status.st_dev == m_rootDevice);

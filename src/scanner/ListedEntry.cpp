@@ -27,8 +27,10 @@ ListedEntry ListedEntry::link(QByteArrayView name, qint64 ownSize) {
     return entry;
 }
 
-ListedEntry ListedEntry::unsized(QByteArrayView name, EntryKind kind) {
-    return ListedEntry(name, kind);
+ListedEntry ListedEntry::unsized(QByteArrayView name, EntryKind kind, qint64 ownSize) {
+    ListedEntry entry(name, kind);
+    entry.m_payload.sized.size = ownSize;
+    return entry;
 }
 
 } // namespace tessarine

@@ -30,8 +30,9 @@ public:
     static ListedEntry folder(QByteArrayView name, ListedDirectory* contents);
     // A symbolic link with the st_size of the link itself (the length of its target).
     static ListedEntry link(QByteArrayView name, qint64 ownSize);
-    // Packages, symbolic links and unreadable entries: a name and a kind, nothing more.
-    static ListedEntry unsized(QByteArrayView name, EntryKind kind);
+    // Packages, symbolic links and unreadable entries: a name and a kind, and the entry's own size
+    // where it came with the name (an imported export gives it), else none.
+    static ListedEntry unsized(QByteArrayView name, EntryKind kind, qint64 ownSize = -1);
 
     // The raw bytes of the name, exactly as the file system returned them (not decoded).
     QByteArrayView name() const { return {m_name, qsizetype(m_nameLength)}; }
@@ -42,10 +43,10 @@ public:
     // usage); 0 for everything else.
     qint64 size() const { return isSized() ? m_payload.sized.size : 0; }
     // What the file system gives as the size of the entry itself, not followed: size() for a
-    // file or special file, the link's own size for a symbolic link made by link(); none for
-    // everything else. The scan counts no links, so only the folder tree asks for this.
+    // file or special file, the own size given to link() or unsized(); none for a folder and
+    // where none was given. The scan counts no links, so only the folder tree asks for this.
     std::optional<qint64> ownSize() const {
-        if (isSized() || (m_kind == EntryKind::symlink && m_payload.sized.size >= 0))
+        if (m_kind != EntryKind::directory && m_payload.sized.size >= 0)
             return m_payload.sized.size;
         return std::nullopt;
     }

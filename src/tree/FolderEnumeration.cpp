@@ -22,7 +22,7 @@ DirectoryListing enumerateFolders(const QString& rootPath, const ScanOptions& sc
     // A link counts as a file of its own size in the tree. Read here, relative to the folder's
     // open descriptor and spread over the walker's threads, it costs a fraction of a later lstat
     // by full path.
-    options.detail.linkSizes = true;
+    options.detail.ownSizes = true;
     // The tree keeps only each folder's totals of its files, so the walk sums them as it goes
     // instead of listing each one.
     options.detail.summedFiles = true;
