@@ -18,7 +18,8 @@
 # The minimal walker (bench/minimal-walker) only lists and stats, at 2, 8 and 16 threads: the floor.
 # Usage: bench/run.sh BUILD_DIR      (RUNS=n sets the number of timed warm runs per tool, default 5;
 #                                     COLD_RUNS=n the number of cold ones, default 3;
-#                                     ROUNDS="cold warm links app" the rounds to run, default all)
+#                                     ROUNDS="cold warm links import app" the rounds to run,
+#                                     default all)
 # The trees are made once and kept in /var/tmp/tessarine-bench; they are made again when the
 # generator's version changes.
 set -euo pipefail
@@ -26,7 +27,7 @@ set -euo pipefail
 build=$(cd "${1:?usage: bench/run.sh BUILD_DIR}" && pwd)
 runs=${RUNS:-5}
 cold_runs=${COLD_RUNS:-3}
-rounds=" ${ROUNDS:-cold warm links app} "
+rounds=" ${ROUNDS:-cold warm links import app} "
 cli=$build/tools/tessarine-cli
 generator=$build/bench/generate-tree
 walker=$build/bench/minimal-walker
@@ -303,15 +304,13 @@ if [[ $rounds == *" links "* ]]; then
     target=$tree
 fi
 
-[[ $rounds == *" app "* ]] || exit 0
-
-
-# --- Importing a scan made elsewhere -------------------------------------------------------------
-# ncdu's export of the same tree, made once beside it, read back as a result (with its folder
-# tree) against a scan of the tree itself.
-ncdu_export=$cache/ncdu-export.json
-if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
-    ncdu -o "$ncdu_export.partial" "$tree" 2>/dev/null && mv "$ncdu_export.partial" "$ncdu_export"
+if [[ $rounds == *" import "* ]]; then
+    # --- Importing a scan made elsewhere -------------------------------------------------------------
+    # ncdu's export of the same tree, made once beside it, read back as a result (with its folder
+    # tree) against a scan of the tree itself.
+    ncdu_export=$cache/ncdu-export.json
+    if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
+        ncdu -o "$ncdu_export.partial" "$tree" 2>/dev/null && mv "$ncdu_export.partial" "$ncdu_export"
 fi
 echo
 echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
@@ -327,6 +326,9 @@ import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s
 echo
 echo "$(verdict "$import_vs_scan" 1.5)  import wall time <= 1.5 x scan ($import_vs_scan)"
 echo "$(verdict "$rss_import_import" "$import_memory_limit")  import peak memory <= scan's + the file's size ($((rss_import_import / 1024)) MB, limit $((import_memory_limit / 1024)) MB)"
+fi
+
+[[ $rounds == *" app "* ]] || exit 0
 
 if [[ -x $responsiveness ]]; then
     echo
