@@ -36,7 +36,8 @@ int writeNcduTree(const QString& rootPath, const ScanOptions& options) {
     const auto shared = std::make_shared<NcduWalk>();
     DirectoryWalker::Options walk;
     walk.cancelled = &shared->cancelled;
-    // As the folder tree counts: a link or a package at its own size, and every file kept with its name.
+    // As the folder tree counts: a link or a package at its own size, and every file kept with its
+    // name.
     walk.detail.ownSizes = true;
     walk.scanOptions = options;
     walk.onProgress = [state = shared.get()](const WalkProgress& progress) {
