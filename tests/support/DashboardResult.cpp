@@ -1,6 +1,7 @@
 #include "DashboardResult.h"
 
 #include "model/FileCategory.h"
+#include "model/PathNames.h"
 
 #include <algorithm>
 
@@ -19,7 +20,7 @@ const QStringList extensionNames = {
 AnalysisResult plainResult(const QString& root, const QDateTime& scanDate, qint64 totalSize) {
     AnalysisResult result;
     result.rootPath = root;
-    result.rootName = root.section(u'/', -1);
+    result.rootName = lastPathComponent(root); // "/" for the root, as a scan names it
     result.scanDate = scanDate;
     result.totalSize = totalSize;
     return result;

@@ -10,8 +10,6 @@ namespace tessarine::testing {
 
 AnalysisResult sampleResult(const QString& rootPath, const QDateTime& scanDate) {
     AnalysisResult result = dashboardResult(rootPath, 4, 8, 3, 2);
-    if (rootPath == u"/")
-        result.rootName = rootPath;
     result.scanDate = scanDate;
     return result;
 }
