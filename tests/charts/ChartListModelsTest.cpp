@@ -2,6 +2,7 @@
 #include "charts/CategoryTreemapModel.h"
 #include "charts/DepthListModel.h"
 #include "charts/ExtensionListModel.h"
+#include "charts/TreemapCellStyle.h"
 #include "charts/TreemapCells.h"
 
 #include <QAbstractItemModelTester>
@@ -140,6 +141,26 @@ private slots:
         QCOMPARE(model.cells().cells().at(1).border.width, 0);
         model.setSelectedCategory(int(FileCategory::videos));
         QCOMPARE(model.cells().cells().at(1).border.width, 3);
+    }
+
+    // A folder's label sits in its frame, which keeps the gap once: a level drawn inside a cell is
+    // padded 3 points more, not twice that.
+    void folderLabelsInsetOnce() {
+        FolderInfo inner;
+        inner.name = QStringLiteral("inner");
+        inner.totalSize = 10;
+        FolderInfo outer = inner;
+        outer.name = QStringLiteral("outer");
+        outer.childFolders = {inner};
+        FolderInfo root;
+        root.totalSize = 10;
+        root.childFolders = {outer};
+        const QList<TreemapCell> nested =
+            folderTreemapCells(layoutNestedTreemap(root, QRectF(0, 0, 300, 200)), 10);
+        QCOMPARE(nested[0].label.title, "outer");
+        QCOMPARE(nested[0].label.inset, 3.0);
+        QCOMPARE(nested.last().label.title, "inner");
+        QCOMPARE(nested.last().label.inset, 0.0);
     }
 
     // What a screen reader finds in a treemap whose cells are painted, not items.
