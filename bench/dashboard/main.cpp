@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <vector>
 
 Q_IMPORT_QML_PLUGIN(Tessarine_DesignPlugin)
 Q_IMPORT_QML_PLUGIN(Tessarine_AppPlugin)
@@ -97,18 +98,19 @@ int main(int argc, char** argv) {
         testing::dashboardResult(QStringLiteral("/bench/Projects"), 12, 40, 20, 100);
     state.setCurrentResult(result);
     // The first dashboard also compiles its QML; later ones, as when another result is shown,
-    // only create items.
+    // only create items. One of those is a single sample that the virtual machines of CI spread
+    // from 105 to 180 ms: the median of several stands for them.
+    constexpr int warmDashboards = 7;
     QQuickItem* root = nullptr;
-    double coldFirstFrame = 0;
-    double firstFrame = 0;
-    for (double* measured : {&coldFirstFrame, &firstFrame}) {
+    std::vector<double> firstFrames;
+    for (int dashboardIndex = 0; dashboardIndex <= warmDashboards; ++dashboardIndex) {
         delete root;
         runFor(200);
         QElapsedTimer clock;
         QEventLoop firstFrameLoop;
         const auto first =
             QObject::connect(&view, &QQuickWindow::frameSwapped, &firstFrameLoop, [&] {
-                *measured = double(clock.nsecsElapsed()) / 1e6;
+                firstFrames.push_back(double(clock.nsecsElapsed()) / 1e6);
                 firstFrameLoop.quit();
             });
         clock.start();
@@ -121,6 +123,10 @@ int main(int argc, char** argv) {
         firstFrameLoop.exec();
         QObject::disconnect(first);
     }
+    const double coldFirstFrame = firstFrames.front();
+    std::vector<double> warm(firstFrames.begin() + 1, firstFrames.end());
+    std::sort(warm.begin(), warm.end());
+    const double firstFrame = warm[warm.size() / 2];
     FrameWatch frames(view);
 
     runFor(1200); // the bars grow and the cards settle
@@ -139,7 +145,8 @@ int main(int argc, char** argv) {
 
     std::printf("dashboard of 12 categories, 40 extensions, 20 levels, 100 files:\n");
     std::printf("  first frame, cold     %7.1f ms (QML compiled on first use)\n", coldFirstFrame);
-    std::printf("  first frame           %7.1f ms (target < 150)\n", firstFrame);
+    std::printf("  first frame           %7.1f ms (target < 150; median of %d, %.1f to %.1f)\n",
+                firstFrame, warmDashboards, warm.front(), warm.back());
     std::printf("  slowest entrance frame %6.1f ms of %d (target <= 32)\n", entrance,
                 entranceFrames);
     std::printf("  slowest treemap hover %7.1f ms of %d (target <= 32)\n", treemapHover,
