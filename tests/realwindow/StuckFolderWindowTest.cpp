@@ -81,6 +81,15 @@ private slots:
         QVERIFY(
             !m_app->scrollTo(QStringLiteral("folderTreeProgressCard"), page.center()).isEmpty());
         QVERIFY(!m_app->waitFor(waiting).isEmpty());
+        // The scan phase's small spinner is drawn: its dots are dark on the light card.
+        const QImage spinner = m_app->grab(m_app->find(QStringLiteral("folderTreeSpinner")));
+        QVERIFY(!spinner.isNull());
+        int dark = 0;
+        for (int y = 0; y < spinner.height(); ++y) {
+            for (int x = 0; x < spinner.width(); ++x)
+                dark += spinner.pixelColor(x, y).valueF() < 0.5f;
+        }
+        QVERIFY2(dark > 0, "the spinner shows nothing");
     }
 
     // Build again while the cancelled build still waits: the window answers a key at once.

@@ -153,9 +153,13 @@ Card {
             }
 
             BusyIndicator {
+                objectName: "folderTreeSpinner"
                 Layout.alignment: Qt.AlignHCenter
                 Layout.preferredWidth: 20
                 Layout.preferredHeight: 20
+                // The style's own 6-point padding would leave its dots 8 points, too few to draw
+                // any: the small spinner was an empty square.
+                padding: 0
                 visible: card.phase !== "building"
                 running: visible
             }
