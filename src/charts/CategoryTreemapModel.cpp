@@ -4,6 +4,8 @@
 #include "design/ColorScheme.h"
 #include "design/RoleNames.h"
 
+#include <algorithm>
+
 namespace tessarine {
 
 CategoryTreemapModel::CategoryTreemapModel(QObject* parent)
@@ -43,7 +45,10 @@ QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
 void CategoryTreemapModel::setResult(const AnalysisResult& result) {
     m_categories = categoriesLargestFirst(result);
     m_result = result;
-    relayout();
+    beginResetModel();
+    m_rects = calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
+    endResetModel();
+    emit cellsChanged();
 }
 
 void CategoryTreemapModel::setAreaWidth(qreal width) {
@@ -77,10 +82,25 @@ int CategoryTreemapModel::categoryAt(int row) const {
     return row >= 0 && row < rowCount() ? int(m_rects.at(std::size_t(row)).stat.category) : -1;
 }
 
+// A new size moves the same cells: their labels follow in place. Made anew on every step of a
+// window's layout, the labels were built a dozen times over before the dashboard's first frame.
 void CategoryTreemapModel::relayout() {
-    beginResetModel();
-    m_rects = calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
-    endResetModel();
+    std::vector<TreeMapRect> rects =
+        calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
+    const bool sameCells =
+        std::equal(rects.cbegin(), rects.cend(), m_rects.cbegin(), m_rects.cend(),
+                   [](const TreeMapRect& a, const TreeMapRect& b) {
+                       return a.stat.category == b.stat.category;
+                   });
+    if (sameCells && !rects.empty()) {
+        m_rects = std::move(rects);
+        emit dataChanged(index(0), index(rowCount() - 1),
+                         {CellXRole, CellYRole, CellWidthRole, CellHeightRole});
+    } else {
+        beginResetModel();
+        m_rects = std::move(rects);
+        endResetModel();
+    }
     emit cellsChanged();
 }
 

@@ -141,6 +141,16 @@ private slots:
         QCOMPARE(model.cells().cells().at(1).border.width, 0);
         model.setSelectedCategory(int(FileCategory::videos));
         QCOMPARE(model.cells().cells().at(1).border.width, 3);
+
+        // A new size moves the same cells in place: a reset would make every label again.
+        QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+        model.setAreaWidth(800);
+        QCOMPARE(resets.count(), 0);
+        qreal area = 0;
+        for (int row = 0; row < model.rowCount(); ++row)
+            area += at(model, row, CategoryTreemapModel::CellWidthRole).toReal() *
+                    at(model, row, CategoryTreemapModel::CellHeightRole).toReal();
+        QCOMPARE(area, 800.0 * 200);
     }
 
     // A folder's label sits in its frame, which keeps the gap once: a level drawn inside a cell is
