@@ -305,27 +305,27 @@ if [[ $rounds == *" links "* ]]; then
 fi
 
 if [[ $rounds == *" import "* ]]; then
-    # --- Importing a scan made elsewhere -------------------------------------------------------------
+    # --- Importing a scan made elsewhere ---------------------------------------------------------
     # ncdu's export of the same tree, made once beside it, read back as a result (with its folder
     # tree) against a scan of the tree itself.
     ncdu_export=$cache/ncdu-export.json
     if [[ ! -s $ncdu_export || $ncdu_export -ot $cache/version ]]; then
         ncdu -o "$ncdu_export.partial" "$tree" 2>/dev/null && mv "$ncdu_export.partial" "$ncdu_export"
-fi
-echo
-echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
-for ((run = 1; run <= runs; run++)); do
-    measure tessarine import_
-    measure import import_
-done
-label[import]="tessarine-cli import"
-table import_ "$runs" "$items" tessarine import
-import_vs_scan=$(ratio "$wall_import_import" "$wall_import_tessarine")
-import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s "$ncdu_export")" \
-    'BEGIN { printf "%.0f", scan + bytes / 1024 }')
-echo
-echo "$(verdict "$import_vs_scan" 1.5)  import wall time <= 1.5 x scan ($import_vs_scan)"
-echo "$(verdict "$rss_import_import" "$import_memory_limit")  import peak memory <= scan's + the file's size ($((rss_import_import / 1024)) MB, limit $((import_memory_limit / 1024)) MB)"
+    fi
+    echo
+    echo "Importing ncdu's export of the tree ($(($(stat -c %s "$ncdu_export") / 1048576)) MB), $runs runs..."
+    for ((run = 1; run <= runs; run++)); do
+        measure tessarine import_
+        measure import import_
+    done
+    label[import]="tessarine-cli import"
+    table import_ "$runs" "$items" tessarine import
+    import_vs_scan=$(ratio "$wall_import_import" "$wall_import_tessarine")
+    import_memory_limit=$(awk -v scan="$rss_import_tessarine" -v bytes="$(stat -c %s "$ncdu_export")" \
+        'BEGIN { printf "%.0f", scan + bytes / 1024 }')
+    echo
+    echo "$(verdict "$import_vs_scan" 1.5)  import wall time <= 1.5 x scan ($import_vs_scan)"
+    echo "$(verdict "$rss_import_import" "$import_memory_limit")  import peak memory <= scan's + the file's size ($((rss_import_import / 1024)) MB, limit $((import_memory_limit / 1024)) MB)"
 fi
 
 [[ $rounds == *" app "* ]] || exit 0

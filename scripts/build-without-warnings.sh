@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
 # Builds BUILD_DIR with JOBS jobs and fails when a compiler or moc printed a warning. The compilers
 # stop on their own warnings (-Werror); moc only prints its own, and a moc warning such as a
-# property without READ leaves a property that QML silently cannot read. (A rerun of CMake during
-# the build prints Qt's own notes on the QML modules' output folders, which are not ours to fail.)
+# property without READ leaves a property that QML silently cannot read.
 set -euo pipefail
 build=${1:?usage: build-without-warnings.sh BUILD_DIR JOBS}
 jobs=${2:?usage: build-without-warnings.sh BUILD_DIR JOBS}

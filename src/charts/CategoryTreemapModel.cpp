@@ -45,10 +45,7 @@ QHash<int, QByteArray> CategoryTreemapModel::roleNames() const {
 void CategoryTreemapModel::setResult(const AnalysisResult& result) {
     m_categories = categoriesLargestFirst(result);
     m_result = result;
-    beginResetModel();
-    m_rects = calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
-    endResetModel();
-    emit cellsChanged();
+    relayout();
 }
 
 void CategoryTreemapModel::setAreaWidth(qreal width) {
@@ -82,8 +79,9 @@ int CategoryTreemapModel::categoryAt(int row) const {
     return row >= 0 && row < rowCount() ? int(m_rects.at(std::size_t(row)).stat.category) : -1;
 }
 
-// A new size moves the same cells: their labels follow in place. Made anew on every step of a
-// window's layout, the labels were built a dozen times over before the dashboard's first frame.
+// The same categories keep their rows, and their labels follow in place whatever changed (a new
+// size, new figures). Made anew on every step of a window's layout, the labels were built a dozen
+// times over before the dashboard's first frame.
 void CategoryTreemapModel::relayout() {
     std::vector<TreeMapRect> rects =
         calculateTreeMapRects(m_categories, m_result.totalSize, m_area);
@@ -94,8 +92,7 @@ void CategoryTreemapModel::relayout() {
                    });
     if (sameCells && !rects.empty()) {
         m_rects = std::move(rects);
-        emit dataChanged(index(0), index(rowCount() - 1),
-                         {CellXRole, CellYRole, CellWidthRole, CellHeightRole});
+        emit dataChanged(index(0), index(rowCount() - 1));
     } else {
         beginResetModel();
         m_rects = std::move(rects);

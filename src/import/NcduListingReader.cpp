@@ -30,11 +30,6 @@ qint64 modifiedMsecs(const std::optional<qint64>& seconds) {
 
 } // namespace
 
-std::size_t NcduListingReader::FileIdentityHash::operator()(
-    const std::pair<qint64, qint64>& file) const noexcept {
-    return std::hash<qint64>()(file.second) ^ (std::size_t(file.first) * 0x9E3779B97F4A7C15ull);
-}
-
 DirectoryListing NcduListingReader::read() {
     readHeader();
     m_reader.expect(',');
@@ -206,7 +201,8 @@ ListedEntry NcduListingReader::sizedEntry(const Level& level, const Info& info) 
         ListedEntry::sized(name, info.notRegular ? EntryKind::special : EntryKind::file, info.asize,
                            modifiedMsecs(info.mtime));
     if (info.hardLinked && info.inode &&
-        !m_countedFiles.emplace(info.device.value_or(level.device), *info.inode).second)
+        !m_countedFiles.insert({dev_t(info.device.value_or(level.device)), ino_t(*info.inode)})
+             .second)
         entry.dropRepeatedLinkSize();
     return entry;
 }

@@ -2,6 +2,7 @@
 
 #include "import/ByteJsonReader.h"
 #include "scanner/DirectoryListing.h"
+#include "scanner/HardLinks.h"
 #include "scanner/ListingAnalysis.h"
 
 #include <QDateTime>
@@ -10,7 +11,6 @@
 #include <optional>
 #include <string>
 #include <unordered_set>
-#include <utility>
 #include <vector>
 
 namespace tessarine {
@@ -68,9 +68,6 @@ private:
         qint64 summedSize = 0;
         std::vector<ListedEntry> entries;
     };
-    struct FileIdentityHash {
-        std::size_t operator()(const std::pair<qint64, qint64>& file) const noexcept;
-    };
 
     void readHeader();
     void readInfo(Info& info);
@@ -95,7 +92,7 @@ private:
     std::size_t m_depth = 0;     // levels in use
     QByteArray m_path;           // of the folder being read, in the export's bytes
     // Device and inode of every file with several names counted so far.
-    std::unordered_set<std::pair<qint64, qint64>, FileIdentityHash> m_countedFiles;
+    std::unordered_set<FileIdentity, FileIdentity::Hash> m_countedFiles;
     qint64 m_items = 0;
     qint64 m_folders = 0;
 };

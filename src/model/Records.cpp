@@ -46,24 +46,28 @@ std::vector<const FolderInfo*> FolderInfo::flattened() const {
     return order;
 }
 
+namespace {
+
+// A folder's figure less its sub-folders' own. A total held at the largest value may be less than
+// its children together; the folder's own part is then unknown, and taken as none rather than as
+// a negative amount.
+qint64 ownPart(const FolderInfo& folder, qint64 FolderInfo::*figure) {
+    return std::max<qint64>(
+        std::accumulate(folder.childFolders.begin(), folder.childFolders.end(), folder.*figure,
+                        [figure](qint64 rest, const FolderInfo& child) {
+                            return saturatingAdd(rest, -std::max<qint64>(child.*figure, 0));
+                        }),
+        0);
+}
+
+} // namespace
+
 qint64 FolderInfo::directFilesSize() const {
-    // A total held at the largest value may be less than its children together; the folder's own
-    // files are then unknown, and taken as none rather than as a negative size.
-    return std::max<qint64>(std::accumulate(childFolders.begin(), childFolders.end(), totalSize,
-                                            [](qint64 rest, const FolderInfo& child) {
-                                                return saturatingAdd(
-                                                    rest, -std::max<qint64>(child.totalSize, 0));
-                                            }),
-                            0);
+    return ownPart(*this, &FolderInfo::totalSize);
 }
 
 qint64 FolderInfo::directFileCount() const {
-    return std::max<qint64>(std::accumulate(childFolders.begin(), childFolders.end(), fileCount,
-                                            [](qint64 rest, const FolderInfo& child) {
-                                                return saturatingAdd(
-                                                    rest, -std::max<qint64>(child.fileCount, 0));
-                                            }),
-                            0);
+    return ownPart(*this, &FolderInfo::fileCount);
 }
 
 QList<ExtensionStats> AnalysisResult::sortedExtensions() const {

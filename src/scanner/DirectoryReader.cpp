@@ -99,7 +99,10 @@ ListedEntry DirectoryReader::describe(int fd, ListedDirectory& folder, QByteArra
     // a stat; everything else, and file systems that report no type, need one for size, date and
     // kind. A walk that stays on one file system needs each folder's device too: one stat per
     // folder, none more per file.
-    const bool sizedPackage = m_detail.ownSizes && isPackageName(name);
+    // Only a folder, or an entry of no known type, can be a package: a file's name is not looked
+    // at.
+    const bool sizedPackage =
+        m_detail.ownSizes && (type == DT_DIR || type == DT_UNKNOWN) && isPackageName(name);
     if (type == DT_DIR && !m_options.oneFileSystem && !sizedPackage)
         return describeFolder(folder, m_arena.copyName(name));
     if (type == DT_LNK && !m_detail.ownSizes)

@@ -46,6 +46,10 @@ std::size_t scaled(quint64 hash, std::size_t count) {
 
 } // namespace
 
+std::size_t FileIdentity::Hash::operator()(const FileIdentity& file) const noexcept {
+    return std::size_t(hashOf(file));
+}
+
 // An open-addressing table behind its own lock: records in place, no allocation per file. It is
 // most of what the rule costs (a snapshot of half a million files makes half a million records),
 // so it fills up to four fifths (linear probing still finds a file in a few neighbouring slots)

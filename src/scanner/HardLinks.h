@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 
+#include <cstddef>
 #include <memory>
 #include <span>
 #include <sys/types.h>
@@ -14,6 +15,12 @@ namespace tessarine {
 struct FileIdentity {
     dev_t device;
     ino_t inode;
+
+    bool operator==(const FileIdentity&) const = default;
+    // For a set of files: the hash the claims below spread their table by.
+    struct Hash {
+        std::size_t operator()(const FileIdentity& file) const noexcept;
+    };
 };
 
 // A name of a file with several names (st_nlink > 1) in one folder's listing.

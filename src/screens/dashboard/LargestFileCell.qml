@@ -21,7 +21,8 @@ Rectangle {
     required property var modificationDate
     required property double depth
     // Follows the clock, as every relative date does; only the cells of its column ask for it.
-    readonly property string modifiedText: column === 3 ? Format.relativeDate(modificationDate, Format.now) : ""
+    readonly property string modifiedText: column === 3
+                                           ? Format.relativeDate(modificationDate, Format.now) : ""
 
     implicitHeight: 40
     color: selected ? Theme.withOpacity(Theme.accent, 0.18)
